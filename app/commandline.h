@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace ovra {
+namespace GlobalElements {
+
+// What the panel is started with. The defaults are those of the furnace itself.
+struct PanelOptions
+{
+    QString port = QStringLiteral("/dev/ttyAMA0");
+    QString home = QStringLiteral("/home/pi");
+    quint16 keyPort = 6666;
+    // Development aid: leave the event loop once the window has been shown, so that
+    // start-up time and memory can be measured from outside.
+    bool quitAfterStart = false;
+};
+
+class CommandLine
+{
+public:
+    enum class Outcome { Run, ExitSuccess, ExitUsageError };
+
+    // Parses argv (argv[0] included). On ExitSuccess the text for stdout (help or version)
+    // is in `output`; on ExitUsageError the message for stderr is there.
+    static Outcome Parse(const QStringList &arguments, PanelOptions &options, QString &output);
+
+    static constexpr int usageErrorExitCode = 2;
+};
+
+} // namespace GlobalElements
+} // namespace ovra

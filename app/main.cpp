@@ -1,0 +1,66 @@
+#include "app/commandline.h"
+#include "app/logutils.h"
+#include "app/mainwindow.h"
+#include "app/paths.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+bool asksForInformationOnly(int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray arg(argv[i]);
+        if (arg == "-h" || arg == "--help" || arg == "-v" || arg == "--version")
+            return true;
+    }
+    return false;
+}
+
+int printAndExit(ovra::GlobalElements::CommandLine::Outcome outcome, const QString &text)
+{
+    using ovra::GlobalElements::CommandLine;
+    if (outcome == CommandLine::Outcome::ExitSuccess) {
+        std::fputs(qPrintable(text), stdout);
+        return 0;
+    }
+    std::fputs(qPrintable(text), stderr);
+    return CommandLine::usageErrorExitCode;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    using namespace ovra::GlobalElements;
+
+    // Help and version must work on a machine without a display.
+    if (asksForInformationOnly(argc, argv)) {
+        QCoreApplication app(argc, argv);
+        PanelOptions options;
+        QString text;
+        const CommandLine::Outcome outcome = CommandLine::Parse(app.arguments(), options, text);
+        return outcome == CommandLine::Outcome::Run ? 0 : printAndExit(outcome, text);
+    }
+
+    QApplication app(argc, argv);
+    PanelOptions options;
+    QString text;
+    const CommandLine::Outcome outcome = CommandLine::Parse(app.arguments(), options, text);
+    if (outcome != CommandLine::Outcome::Run)
+        return printAndExit(outcome, text);
+
+    Paths::SetHome(options.home);
+    initLogging();
+
+    auto *window = new ovra::Mainwindow::MainWindow(options);
+    window->show();
+    if (options.quitAfterStart)
+        QTimer::singleShot(0, &app, &QCoreApplication::quit);
+    const int result = app.exec();
+    delete window;
+    return result;
+}
