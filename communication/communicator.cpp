@@ -54,11 +54,20 @@ void Communicator::SlotHandleMessage()
         // controller always sends the end byte on its own, and a frame is dispatched by
         // that later chunk alone.
         m_buffer.clear();
+        m_discarding = false;
         AppendToBuffer(chunk.mid(start));
         return;
     }
 
     const int end = chunk.indexOf(Frame::endByte);
+    if (m_discarding) {
+        // The tail of a dropped oversized frame is not a frame: wait for the next start.
+        if (end >= 0) {
+            m_discarding = false;
+            qDebug() << "end of dropped oversized frame";
+        }
+        return;
+    }
     if (end < 0) {
         AppendToBuffer(chunk);
         return;
@@ -73,6 +82,7 @@ bool Communicator::AppendToBuffer(const QByteArray &bytes)
         qDebug() << "receive buffer overflow: partial frame of" << m_buffer.size() + bytes.size()
                  << "bytes dropped";
         m_buffer.clear();
+        m_discarding = true;
         return false;
     }
     m_buffer.append(bytes);

@@ -43,6 +43,7 @@ private:
     QSerialPort *m_port;
     MessageHandler *m_handler;
     QByteArray m_buffer;
+    bool m_discarding = false; // after an overflow, until the next start byte
     QTimer *m_watchdog;
     int m_watchdogIntervalMs;
 };

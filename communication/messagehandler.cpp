@@ -12,6 +12,7 @@ using GlobalElements::Pageinterface;
 MessageHandler::MessageHandler(QObject *parent) : QObject(parent)
 {
     qRegisterMetaType<Pageinterface::en_pages>("ovra::GlobalElements::Pageinterface::en_pages");
+    qRegisterMetaType<GlobalElements::Program *>("ovra::GlobalElements::Program*");
 
     // The controller's vocabulary, in the order a keyword is looked up. Exact and
     // case-sensitive: "st" must not catch "stdoor", and favorite==1 is not a command.

@@ -1,0 +1,372 @@
+// The serial transport over a real pseudo-terminal: chunk assembly with the controller's
+// quirks, answers on the line, the watchdog, the error path and the buffer cap.
+#include "communication/communicator.h"
+#include "communication/frame.h"
+#include "communication/messagehandler.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <pty.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+using ovra::Communication::Communicator;
+using ovra::Communication::MessageHandler;
+namespace Frame = ovra::Communication::Frame;
+
+namespace {
+
+QStringList capturedLog;
+
+void captureMessages(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    capturedLog << message;
+}
+
+int countLog(const QString &prefix)
+{
+    int n = 0;
+    for (const QString &line : qAsConst(capturedLog))
+        n += line.startsWith(prefix) ? 1 : 0;
+    return n;
+}
+
+// The controller's end of the line.
+class Pty
+{
+public:
+    Pty()
+    {
+        termios raw{};
+        cfmakeraw(&raw);
+        char name[128] = {};
+        if (openpty(&m_master, &m_slave, name, &raw, nullptr) == 0) {
+            m_slavePath = QString::fromLocal8Bit(name);
+            fcntl(m_master, F_SETFL, fcntl(m_master, F_GETFL) | O_NONBLOCK);
+        }
+    }
+    ~Pty() { close(); }
+    Pty(const Pty &) = delete;
+    Pty &operator=(const Pty &) = delete;
+
+    bool isValid() const { return m_master >= 0; }
+    QString slavePath() const { return m_slavePath; }
+
+    void close()
+    {
+        if (m_master >= 0)
+            ::close(m_master);
+        if (m_slave >= 0)
+            ::close(m_slave);
+        m_master = m_slave = -1;
+    }
+
+    // Bytes written by us that the panel has not read yet.
+    int unread() const
+    {
+        int n = 0;
+        return ::ioctl(m_slave, FIONREAD, &n) == 0 ? n : -1;
+    }
+
+    bool write(const QByteArray &bytes)
+    {
+        qint64 done = 0;
+        while (done < bytes.size()) {
+            const ssize_t n = ::write(m_master, bytes.constData() + done, size_t(bytes.size() - done));
+            if (n > 0) {
+                done += n;
+            } else if (errno == EAGAIN) {
+                QCoreApplication::processEvents(); // let the panel drain the line
+            } else {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    QByteArray readAvailable()
+    {
+        QByteArray all;
+        char buf[4096];
+        ssize_t n;
+        while ((n = ::read(m_master, buf, sizeof buf)) > 0)
+            all.append(buf, int(n));
+        return all;
+    }
+
+private:
+    int m_master = -1;
+    int m_slave = -1;
+    QString m_slavePath;
+};
+
+} // namespace
+
+class TestCommunicator : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void frameSplitOverChunksIsJoined();
+    void wholeFrameInOneChunkWaitsForALoneEndByte();
+    void newStartByteDropsWhatWasCollected();
+    void bytesAroundTheFrameAreDiscarded();
+    void frameEndsAtAZeroByte();
+    void endByteWithoutStartIsNacked();
+    void noAnswerWithoutAnEndByte();
+    void silentLineIsReset();
+    void vanishedDeviceIsClosedAndReopened();
+    void oversizedPartialFrameIsDropped();
+    void noiseLeavesThePanelAnswering();
+
+private:
+    // Writes one chunk and waits until the panel has read and handled it.
+    void sendChunk(const QByteArray &chunk);
+    QByteArray waitForAnswer();
+
+    QScopedPointer<Pty> m_pty;
+    QScopedPointer<MessageHandler> m_handler;
+    QScopedPointer<Communicator> m_communicator;
+    QByteArray m_received;
+};
+
+void TestCommunicator::initTestCase()
+{
+    qInstallMessageHandler(captureMessages);
+}
+
+void TestCommunicator::init()
+{
+    capturedLog.clear();
+    m_received.clear();
+    m_pty.reset(new Pty);
+    QVERIFY(m_pty->isValid());
+    m_handler.reset(new MessageHandler);
+    m_communicator.reset(new Communicator(m_handler.data(), nullptr, m_pty->slavePath()));
+    QVERIFY(m_communicator->IsPortOpen());
+    QCOMPARE(countLog(QStringLiteral("serial port open!!")), 1);
+}
+
+void TestCommunicator::cleanup()
+{
+    m_communicator.reset();
+    m_handler.reset();
+    m_pty.reset();
+}
+
+void TestCommunicator::sendChunk(const QByteArray &chunk)
+{
+    // The line's bytes reach the port through a kernel worker, so "nothing unread" alone
+    // could be seen before they even arrived: wait for the port's own read as well.
+    auto *port = m_communicator->findChild<QSerialPort *>();
+    QVERIFY(port != nullptr);
+    QSignalSpy portRead(port, &QSerialPort::readyRead);
+    QVERIFY(m_pty->write(chunk));
+    QTRY_VERIFY_WITH_TIMEOUT(portRead.count() > 0 && m_pty->unread() == 0
+                                 && port->bytesAvailable() == 0,
+                             5000);
+}
+
+QByteArray TestCommunicator::waitForAnswer()
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!m_received.contains(Frame::endByte) && timer.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        m_received += m_pty->readAvailable();
+    }
+    const int end = m_received.indexOf(Frame::endByte);
+    if (end < 0)
+        return QByteArray();
+    const QByteArray answer = m_received.left(end + 1);
+    m_received.remove(0, end + 1);
+    return answer;
+}
+
+void TestCommunicator::frameSplitOverChunksIsJoined()
+{
+    QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(5));            // start byte and "temp"
+    sendChunk(frame.mid(5, 4));          // neither byte
+    sendChunk(frame.mid(9));             // rest with the end byte
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(temperature.count(), 1);
+    QCOMPARE(temperature.at(0).at(0).toString(), QStringLiteral("1200"));
+    QCOMPARE(countLog(QStringLiteral("received data: ")), 1);
+    QCOMPARE(countLog(QStringLiteral("Pis Answer: ")), 1);
+}
+
+void TestCommunicator::wholeFrameInOneChunkWaitsForALoneEndByte()
+{
+    QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
+    sendChunk(Frame::Build("temp==1473"));
+    QCOMPARE(temperature.count(), 0);
+    QVERIFY(m_pty->readAvailable().isEmpty());
+
+    sendChunk(QByteArray(1, Frame::endByte));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(temperature.count(), 1);
+}
+
+void TestCommunicator::newStartByteDropsWhatWasCollected()
+{
+    QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
+    sendChunk(Frame::Build("temp==1473"));  // complete, but waits for a lone end byte ...
+    sendChunk(QByteArray("\x02" "x"));      // ... and is lost to a new start
+    const QByteArray frame = Frame::Build("temp==300");
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(frame.right(1));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(temperature.count(), 1);
+    QCOMPARE(temperature.at(0).at(0).toString(), QStringLiteral("27"));
+}
+
+void TestCommunicator::bytesAroundTheFrameAreDiscarded()
+{
+    QSignalSpy time(m_handler.data(), &MessageHandler::SignalTime);
+    const QByteArray frame = Frame::Build("time==0905");
+    sendChunk("noise" + frame.left(frame.size() - 1));
+    sendChunk(QByteArray(1, Frame::endByte) + "trailing");
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(time.count(), 1);
+
+    // The trailing bytes did not survive into the next frame.
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(QByteArray(1, Frame::endByte));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(time.count(), 2);
+}
+
+void TestCommunicator::frameEndsAtAZeroByte()
+{
+    QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(frame.size() - 1) + QByteArray(1, '\0') + "$$garbage");
+    sendChunk(QByteArray(1, Frame::endByte));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(temperature.count(), 1);
+}
+
+void TestCommunicator::endByteWithoutStartIsNacked()
+{
+    // The start of the frame was lost on the line: what is left fails its checksum.
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.mid(3));
+    QCOMPARE(waitForAnswer(), Frame::Build("nack"));
+}
+
+void TestCommunicator::noAnswerWithoutAnEndByte()
+{
+    // Requests never leave on their own: only a dispatched frame is answered.
+    m_handler->SetRequest(QStringLiteral("doorclose"));
+    sendChunk(QByteArray("\x02" "temp==1473$$"));
+    sendChunk(QByteArray("-12"));
+    QVERIFY(m_pty->readAvailable().isEmpty());
+    QCOMPARE(countLog(QStringLiteral("Pis Answer: ")), 0);
+}
+
+void TestCommunicator::silentLineIsReset()
+{
+    m_communicator.reset();
+    capturedLog.clear();
+    m_communicator.reset(new Communicator(m_handler.data(), nullptr, m_pty->slavePath(), 100));
+    QTRY_VERIFY_WITH_TIMEOUT(countLog(QStringLiteral("serial port reset successfull!!")) >= 1, 5000);
+
+    // The reset line is usable at once.
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(frame.right(1));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+}
+
+void TestCommunicator::vanishedDeviceIsClosedAndReopened()
+{
+    // The panel follows a fixed path; here a link stands for the device node.
+    QTemporaryDir dir;
+    const QString link = dir.path() + QStringLiteral("/line");
+    QVERIFY(QFile::link(m_pty->slavePath(), link));
+    m_communicator.reset();
+    capturedLog.clear();
+    m_communicator.reset(new Communicator(m_handler.data(), nullptr, link, 300));
+    QVERIFY(m_communicator->IsPortOpen());
+
+    m_pty->close(); // the controller side goes away
+    QTRY_VERIFY_WITH_TIMEOUT(!m_communicator->IsPortOpen(), 5000);
+    QVERIFY(countLog(QStringLiteral("failure serial communication: ")) >= 2);
+    QCOMPARE(countLog(QStringLiteral("serial port closed until the watchdog reopens it")), 1);
+
+    // With nothing at the path the watchdog keeps trying, without flooding the log.
+    QTRY_VERIFY_WITH_TIMEOUT(countLog(QStringLiteral("serial port reset not successfull!!")) >= 1, 5000);
+    QVERIFY(capturedLog.size() < 100);
+
+    // The controller comes back at the same path.
+    m_pty.reset(new Pty);
+    QVERIFY(QFile::remove(link));
+    QVERIFY(QFile::link(m_pty->slavePath(), link));
+    QTRY_VERIFY_WITH_TIMEOUT(m_communicator->IsPortOpen(), 5000);
+    QVERIFY(countLog(QStringLiteral("serial port reset successfull!!")) >= 1);
+
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(frame.right(1));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+}
+
+void TestCommunicator::oversizedPartialFrameIsDropped()
+{
+    QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
+    sendChunk(QByteArray("\x02" "temp==1"));
+    const QByteArray filler(64 * 1024, '7');
+    for (int sent = 0; sent <= Communicator::maxBufferBytes; sent += filler.size())
+        sendChunk(filler);
+    QCOMPARE(countLog(QStringLiteral("receive buffer overflow")), 1);
+    sendChunk(QByteArray(1, Frame::endByte)); // the rest of the monster is not a frame
+    QVERIFY(m_pty->readAvailable().isEmpty());
+    QCOMPARE(temperature.count(), 0);
+
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(frame.right(1));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    QCOMPARE(temperature.count(), 1);
+}
+
+void TestCommunicator::noiseLeavesThePanelAnswering()
+{
+    QRandomGenerator random(20261122);
+    int endChunks = 0;
+    for (int i = 0; i < 300; ++i) {
+        QByteArray chunk(int(random.bounded(1, 64)), '\0');
+        for (char &c : chunk)
+            c = char(random.bounded(256));
+        // Only chunks with an end byte and no start byte may produce an answer.
+        if (chunk.contains(Frame::endByte) && !chunk.contains(Frame::startByte))
+            ++endChunks;
+        sendChunk(chunk);
+    }
+    m_received += m_pty->readAvailable();
+    QCOMPARE(m_received.count(Frame::endByte), endChunks);
+    QCOMPARE(m_received.count(Frame::startByte), endChunks);
+    m_received.clear();
+
+    sendChunk(QByteArray(1, Frame::startByte)); // resynchronise
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(frame.right(1));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+}
+
+QTEST_GUILESS_MAIN(TestCommunicator)
+#include "tst_communicator.moc"

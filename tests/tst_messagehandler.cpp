@@ -1,0 +1,400 @@
+// Frame, checksum, request queue and keyword dispatch of the controller protocol.
+#include "communication/frame.h"
+#include "communication/messagehandler.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using ovra::Communication::MessageHandler;
+using ovra::GlobalElements::Pageinterface;
+using ovra::GlobalElements::Program;
+namespace Frame = ovra::Communication::Frame;
+
+namespace {
+
+// A frame as the controller sends it, with a correct checksum.
+QString controllerFrame(const QByteArray &body)
+{
+    return QString::fromLatin1(Frame::Build(body));
+}
+
+QByteArray answerBody(const QByteArray &answer)
+{
+    // 0x02 body $$ checksum 0x03
+    if (answer.size() < 2 || answer.front() != 0x02 || answer.back() != 0x03)
+        return QByteArray("<malformed answer>");
+    const QByteArray inner = answer.mid(1, answer.size() - 2);
+    return inner.left(inner.lastIndexOf("$$"));
+}
+
+} // namespace
+
+class TestMessageHandler : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void checksumOfTheAckExample();
+    void checksumRules_data();
+    void checksumRules();
+    void answerCarriesQueuedRequestsOnce();
+    void badFramesAreNackedButOtherFieldsStillRun();
+    void fieldSplitting_data();
+    void fieldSplitting();
+    void textCommands_data();
+    void textCommands();
+    void numericCommands();
+    void noParameterCommandsIgnoreTheirParameter();
+    void operatingHoursAnnounceTheOven();
+    void updateCommandKeepsTheLineAnswered();
+    void heatfileRecordIsParsed();
+    void heatfileEdgeCases_data();
+    void heatfileEdgeCases();
+    void heatfileWithoutStoreDoesNotLeak();
+    void hostileHeatfileSectionIsIgnored();
+};
+
+void TestMessageHandler::checksumOfTheAckExample()
+{
+    MessageHandler handler;
+    QCOMPARE(handler.CalcCRC("ack"), QStringLiteral("$$-47"));
+    QCOMPARE(handler.CalcCRC("ack$$doorclose"), handler.CalcCRC("ackdoorclose"));
+    QCOMPARE(Frame::Build("ack"), QByteArray("\x02" "ack$$-47" "\x03"));
+}
+
+void TestMessageHandler::checksumRules_data()
+{
+    QTest::addColumn<QString>("frame");
+    QTest::addColumn<bool>("valid");
+
+    QTest::newRow("correct") << controllerFrame("temp==1473") << true;
+    QTest::newRow("off by one") << QStringLiteral("\x02temp==1473$$-1\x03") << false;
+    // "\x80\x80" sums to 256: a checksum of 0 is right for it.
+    QTest::newRow("sum multiple of 256")
+        << QString::fromLatin1("\x02\x80\x80$$0\x03") << true;
+    QTest::newRow("positive checksum never valid") << QStringLiteral("\x02" "A$$65\x03") << false;
+    QTest::newRow("no separator, zero") << QStringLiteral("\x02" "0\x03") << true;
+    QTest::newRow("no separator, non-number reads 0") << QStringLiteral("\x02junk\x03") << true;
+    QTest::newRow("no separator, non-zero") << QStringLiteral("\x02" "-5\x03") << false;
+    QTest::newRow("checksum not a number") << QStringLiteral("\x02" "A$$x\x03") << false;
+    QTest::newRow("separators not counted") << QStringLiteral("a$$b$$-195") << true;
+    QTest::newRow("lone dollar counts") << controllerFrame("a$b") << true;
+    QTest::newRow("wide char counts as 0")
+        << (QStringLiteral("A") + QChar(0x20AC) + QStringLiteral("$$-65")) << true;
+}
+
+void TestMessageHandler::checksumRules()
+{
+    QFETCH(QString, frame);
+    QFETCH(bool, valid);
+    MessageHandler handler;
+    QCOMPARE(handler.CheckCRC(frame), valid);
+}
+
+void TestMessageHandler::answerCarriesQueuedRequestsOnce()
+{
+    MessageHandler handler;
+    handler.SetRequest(QStringLiteral("a"));
+    handler.SetRequest(QStringLiteral("b"));
+    handler.SetRequest(QStringLiteral("a"));
+    QCOMPARE(handler.GetActualRequests(), QStringLiteral("$$a$$b$$a"));
+
+    const QByteArray first = handler.HandleMessage(controllerFrame("temp==1473"));
+    QCOMPARE(first, Frame::Build("ack$$a$$b$$a"));
+    QCOMPARE(handler.HandleMessage(controllerFrame("temp==1473")), Frame::Build("ack"));
+
+    // Requests leave even with a rejected frame: there is no retry.
+    handler.SetRequest(QStringLiteral("doorclose"));
+    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1$$-1\x03"))),
+             QByteArray("nack$$doorclose"));
+    QCOMPARE(handler.GetActualRequests(), QString());
+}
+
+void TestMessageHandler::badFramesAreNackedButOtherFieldsStillRun()
+{
+    MessageHandler handler;
+    QSignalSpy temperature(&handler, &MessageHandler::SignalTemperature);
+    QSignalSpy time(&handler, &MessageHandler::SignalTime);
+
+    // Wrong checksum: nothing is acted on.
+    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1473$$-2\x03"))),
+             QByteArray("nack"));
+    QCOMPARE(temperature.count(), 0);
+
+    // Unknown second field: the first still acts, the whole frame is "nack".
+    QCOMPARE(answerBody(handler.HandleMessage(controllerFrame("temp==1473$$bogus==1$$time==0905"))),
+             QByteArray("nack"));
+    QCOMPARE(temperature.count(), 1);
+    QCOMPARE(time.count(), 1);
+
+    // Empty body with a zero checksum is a valid, empty frame.
+    QCOMPARE(handler.HandleMessage(QStringLiteral("\x02" "0\x03")), Frame::Build("ack"));
+    // An empty field between separators is rejected.
+    QCOMPARE(answerBody(handler.HandleMessage(controllerFrame("temp==1473$$"))), QByteArray("nack"));
+}
+
+void TestMessageHandler::fieldSplitting_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<bool>("accepted");
+
+    QTest::newRow("empty") << QString() << false;
+    QTest::newRow("blanks only") << QStringLiteral("   ") << false;
+    QTest::newRow("line ends only") << QStringLiteral(" \r\\r ") << false;
+    QTest::newRow("parameter missing") << QStringLiteral("temp") << false;
+    QTest::newRow("unknown keyword") << QStringLiteral("bogus==1") << false;
+    QTest::newRow("line key is no command") << QStringLiteral("favorite==1") << false;
+    QTest::newRow("no prefix match") << QStringLiteral("stX==1") << false;
+    QTest::newRow("case sensitive") << QStringLiteral("Temp==300") << false;
+    QTest::newRow("second == ignored") << QStringLiteral("guistate==3==4") << true;
+    QTest::newRow("empty parameter") << QStringLiteral("guistate==") << true;
+    QTest::newRow("never-matched member keyword") << QStringLiteral("anzahlHeizfiles==3") << false;
+}
+
+void TestMessageHandler::fieldSplitting()
+{
+    QFETCH(QString, field);
+    QFETCH(bool, accepted);
+    MessageHandler handler;
+    QCOMPARE(handler.ParseMessage(field), accepted);
+}
+
+void TestMessageHandler::textCommands_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QString>("text"); // empty: rejected, no signal
+
+    const QByteArray date = QMetaMethod::fromSignal(&MessageHandler::SignalDate).methodSignature();
+    const QByteArray time = QMetaMethod::fromSignal(&MessageHandler::SignalTime).methodSignature();
+    const QByteArray temp = QMetaMethod::fromSignal(&MessageHandler::SignalTemperature).methodSignature();
+    const QByteArray door = QMetaMethod::fromSignal(&MessageHandler::SignalDoor).methodSignature();
+    auto sig = [](auto signal) { return QMetaMethod::fromSignal(signal).methodSignature(); };
+
+    QTest::newRow("temp 1473") << "temp==1473" << temp << "1200";
+    QTest::newRow("temp 273") << "temp==273" << temp << "0";
+    QTest::newRow("temp wraps below 273") << "temp==272" << temp << "4294967295";
+    QTest::newRow("temp not a number") << "temp==hot" << temp << "4294967023";
+    QTest::newRow("date") << "date==20240131" << date << "31.01.2024";
+    QTest::newRow("date too short") << "date==2024131" << date << "";
+    QTest::newRow("time") << "time==0905" << time << "09:05";
+    QTest::newRow("time too short") << "time==905" << time << "";
+    QTest::newRow("dooropen reports the movement") << "dooropen" << door << "opening";
+    QTest::newRow("doorclose") << "doorclose" << door << "closing";
+    QTest::newRow("doorclosed") << "doorclosed" << door << "closed";
+    QTest::newRow("swver adds panel version")
+        << "swver==1.2" << sig(&MessageHandler::SignalSWVersion)
+        << QStringLiteral("1.2 / ") + Pageinterface::versionInfo;
+    QTest::newRow("name") << "name==Ovra S1" << sig(&MessageHandler::SignalTypeModelSeries) << "Ovra S1";
+    QTest::newRow("serialno") << "serialno==A-1" << sig(&MessageHandler::SignalSerialNumber) << "A-1";
+    QTest::newRow("hwver") << "hwver==3" << sig(&MessageHandler::SignalHWVersion) << "3";
+    QTest::newRow("country") << "country==de" << sig(&MessageHandler::SignalCountry) << "de";
+    QTest::newRow("st") << "st==ok" << sig(&MessageHandler::SignalSelftestResult) << "ok";
+    QTest::newRow("stdoor") << "stdoor==pass" << sig(&MessageHandler::SignalSelftestDoor) << "pass";
+    QTest::newRow("stheater") << "stheater==fail" << sig(&MessageHandler::SignalSelftestHeater) << "fail";
+    QTest::newRow("stcooling") << "stcooling==pass" << sig(&MessageHandler::SignalSelftestCooling) << "pass";
+    QTest::newRow("stargon") << "stargon==pass" << sig(&MessageHandler::SignalSelftestArgon) << "pass";
+    QTest::newRow("error") << "error==E101" << sig(&MessageHandler::SignalFailure) << "E101";
+    QTest::newRow("reseterror") << "reseterror==E101" << sig(&MessageHandler::SignalResetFailure) << "E101";
+    QTest::newRow("esttime") << "esttime==1430" << sig(&MessageHandler::SignalRemainingTime) << "1430";
+    QTest::newRow("stage") << "stage==2" << sig(&MessageHandler::SignalActualStage) << "2";
+    QTest::newRow("guistate") << "guistate==26" << sig(&MessageHandler::SignalGuiState) << "26";
+    QTest::newRow("hpinfo") << "hpinfo==P;10;1;heat" << sig(&MessageHandler::SignalHeatfileInfo) << "P;10;1;heat";
+    QTest::newRow("argon") << "argon==True" << sig(&MessageHandler::SignalArgon) << "True";
+    QTest::newRow("usb") << "usb==in" << sig(&MessageHandler::SignalUSB) << "in";
+    QTest::newRow("hpsuccess") << "hpsuccess" << sig(&MessageHandler::SignalHeatfileProcess) << "hpsuccess";
+    QTest::newRow("hpfailed") << "hpfailed" << sig(&MessageHandler::SignalHeatfileProcess) << "hpfailed";
+    QTest::newRow("matchanged") << "matchanged==argon" << sig(&MessageHandler::SignalMaterialChanged) << "argon";
+    QTest::newRow("lang") << "lang==deutsch" << sig(&MessageHandler::SignalSetLanguage) << "deutsch";
+    QTest::newRow("unit") << "unit==f" << sig(&MessageHandler::SignalSetUnit) << "f";
+}
+
+void TestMessageHandler::textCommands()
+{
+    QFETCH(QString, field);
+    QFETCH(QByteArray, signal);
+    QFETCH(QString, text);
+
+    MessageHandler handler;
+    QSignalSpy spy(&handler, QByteArray("2" + signal).constData());
+    QVERIFY(spy.isValid());
+    QCOMPARE(handler.ParseMessage(field), !text.isEmpty());
+    if (text.isEmpty()) {
+        QCOMPARE(spy.count(), 0);
+    } else {
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(0).toString(), text);
+    }
+}
+
+void TestMessageHandler::numericCommands()
+{
+    MessageHandler handler;
+    QSignalSpy rate(&handler, &MessageHandler::SignalMaxRate);
+    QSignalSpy pin(&handler, &MessageHandler::SignalServicePin);
+    QSignalSpy count(&handler, &MessageHandler::SignalHeatfileCount);
+
+    QVERIFY(handler.ParseMessage(QStringLiteral("maxrate==45")));
+    QVERIFY(handler.ParseMessage(QStringLiteral("maxrate==fast"))); // not a number: 0, accepted
+    QVERIFY(handler.ParseMessage(QStringLiteral("code==4711")));
+    QVERIFY(handler.ParseMessage(QStringLiteral("hfcount==-3")));
+    QVERIFY(handler.ParseMessage(QStringLiteral("hfcount==many")));
+
+    QCOMPARE(rate.at(0).at(0).toUInt(), 45u);
+    QCOMPARE(rate.at(1).at(0).toUInt(), 0u);
+    QCOMPARE(pin.at(0).at(0).toUInt(), 4711u);
+    QCOMPARE(count.at(0).at(0).toInt(), -3);
+    QCOMPARE(count.at(1).at(0).toInt(), 0);
+}
+
+void TestMessageHandler::noParameterCommandsIgnoreTheirParameter()
+{
+    MessageHandler handler;
+    QSignalSpy door(&handler, &MessageHandler::SignalDoor);
+    QSignalSpy ack(&handler, &MessageHandler::SignalAcknowledge);
+    QSignalSpy insulation(&handler, &MessageHandler::SignalInsulationMissing);
+    QSignalSpy interaction(&handler, &MessageHandler::SignalUserInteractionRequest);
+    QSignalSpy initial(&handler, &MessageHandler::SignalSetInitalStartup);
+
+    QVERIFY(handler.ParseMessage(QStringLiteral("doorclose==x")));
+    QCOMPARE(door.at(0).at(0).toString(), QStringLiteral("closing"));
+    QVERIFY(handler.ParseMessage(QStringLiteral("ack")));
+    QVERIFY(handler.ParseMessage(QStringLiteral("insulationmissing")));
+    QVERIFY(handler.ParseMessage(QStringLiteral("waitforuserinteraction==now")));
+    QVERIFY(handler.ParseMessage(QStringLiteral("initialstart")));
+    QCOMPARE(ack.count() + insulation.count() + interaction.count() + initial.count(), 4);
+}
+
+void TestMessageHandler::operatingHoursAnnounceTheOven()
+{
+    MessageHandler handler;
+    QList<QString> order;
+    connect(&handler, &MessageHandler::SignalOperatingHours, this,
+            [&order](const QString &h) { order << QStringLiteral("hours ") + h; });
+    connect(&handler, &MessageHandler::SignalOvenConnected, this,
+            [&order](Pageinterface::en_pages p) { order << QStringLiteral("page %1").arg(p); });
+    QVERIFY(handler.ParseMessage(QStringLiteral("ophours==10")));
+    QCOMPARE(order, (QList<QString>{QStringLiteral("hours 10"), QStringLiteral("page 1")}));
+}
+
+void TestMessageHandler::updateCommandKeepsTheLineAnswered()
+{
+    MessageHandler handler;
+    QSignalSpy progress(&handler, &MessageHandler::SignalUpdateProgress);
+    QCOMPARE(handler.HandleMessage(controllerFrame("update==3")), Frame::Build("ack"));
+    QCOMPARE(progress.count(), 1);
+    QCOMPARE(progress.at(0).at(0).toString(), QStringLiteral("0%"));
+    // Still in command mode: the next frame is answered.
+    QCOMPARE(handler.HandleMessage(controllerFrame("temp==300")), Frame::Build("ack"));
+}
+
+namespace {
+struct Received
+{
+    QList<Program *> programs;
+    QList<bool> favs;
+    QStringList order;
+    ~Received() { qDeleteAll(programs); }
+};
+
+void collect(MessageHandler &handler, Received &into)
+{
+    QObject::connect(&handler, &MessageHandler::SignalHeatfileReceived, &handler,
+                     [&into](Program *p) { into.programs << p; into.order << QStringLiteral("received"); });
+    QObject::connect(&handler, &MessageHandler::SignalSetProgToFav, &handler,
+                     [&into](bool fav, Program *) { into.favs << fav; into.order << QStringLiteral("fav"); });
+}
+} // namespace
+
+void TestMessageHandler::heatfileRecordIsParsed()
+{
+    MessageHandler handler;
+    Received got;
+    collect(handler, got);
+
+    const QByteArray body = "heatfile==[metainfo];name=Speed.hf;manufacturer=DentaCeram;material=Argon;"
+                            "favorite=true;[1];rate=10;temp=1773;hold=7259;argon=on;[2];rate=5;temp=1273;hold=0;";
+    QCOMPARE(handler.HandleMessage(controllerFrame(body)), Frame::Build("ack"));
+    QCOMPARE(got.order, (QStringList{QStringLiteral("received"), QStringLiteral("fav")}));
+    Program *p = got.programs.at(0);
+    QCOMPARE(p->GetName(), QStringLiteral("Speed"));
+    QCOMPARE(p->GetManufacturer(), QStringLiteral("DentaCeram"));
+    QCOMPARE(p->GetMaterial(), QStringLiteral("Argon"));
+    QVERIFY(p->IsFav());
+    QCOMPARE(got.favs.at(0), true);
+    QCOMPARE(*p->GetMatrix(), (Program::Matrix{{10u, 1500u, 120u}, {5u, 1000u, 0u}}));
+}
+
+void TestMessageHandler::heatfileEdgeCases_data()
+{
+    QTest::addColumn<QString>("payload");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("manufacturer");
+    QTest::addColumn<bool>("fav");
+    QTest::addColumn<Program::Matrix>("matrix");
+
+    QTest::newRow("nothing recognised") << "garbage;;;" << "default" << "user" << false
+                                        << Program::Matrix{{0u, 0u, 0u}};
+    QTest::newRow("favorite True is not true")
+        << "[metainfo];name=A;favorite=True;[1];rate=1;temp=1273;hold=60;" << "A" << "user" << false
+        << Program::Matrix{{1u, 1000u, 1u}};
+    QTest::newRow("temp 300 K raised to 50")
+        << "[1];rate=1;temp=300;" << "default" << "user" << false << Program::Matrix{{1u, 50u, 0u}};
+    QTest::newRow("temp 322 K raised to 50")
+        << "[1];rate=1;temp=322;" << "default" << "user" << false << Program::Matrix{{1u, 50u, 0u}};
+    QTest::newRow("temp 323 K is 50")
+        << "[1];rate=1;temp=323;" << "default" << "user" << false << Program::Matrix{{1u, 50u, 0u}};
+    QTest::newRow("temp 324 K is 51")
+        << "[1];rate=1;temp=324;" << "default" << "user" << false << Program::Matrix{{1u, 51u, 0u}};
+    QTest::newRow("temp below 273 K wraps")
+        << "[1];rate=1;temp=272;" << "default" << "user" << false
+        << Program::Matrix{{1u, 4294967295u, 0u}};
+    QTest::newRow("trailing zero-rate segment dropped")
+        << "[1];rate=5;temp=1273;[2];rate=0;temp=1373;hold=600;" << "default" << "user" << false
+        << Program::Matrix{{5u, 1000u, 0u}};
+    QTest::newRow("first zero-rate segment kept")
+        << "[1];rate=0;temp=1273;[2];rate=3;temp=1373;hold=600;" << "default" << "user" << false
+        << Program::Matrix{{0u, 1000u, 0u}, {3u, 1100u, 10u}};
+    QTest::newRow("name value with dot")
+        << "[metainfo];name=Zirkon.fast;manufacturer=service;" << "Zirkon" << "service" << false
+        << Program::Matrix{{0u, 0u, 0u}};
+    QTest::newRow("segment key before any section ignored")
+        << "rate=9;[1];rate=2;" << "default" << "user" << false << Program::Matrix{{2u, 0u, 0u}};
+}
+
+void TestMessageHandler::heatfileEdgeCases()
+{
+    QFETCH(QString, payload);
+    MessageHandler handler;
+    Received got;
+    collect(handler, got);
+    handler.HandleRecvHeatfile(payload);
+    QCOMPARE(got.programs.size(), 1);
+    Program *p = got.programs.at(0);
+    QTEST(p->GetName(), "name");
+    QTEST(p->GetManufacturer(), "manufacturer");
+    QTEST(p->IsFav(), "fav");
+    QTEST(*p->GetMatrix(), "matrix");
+    QCOMPARE(p->GetPreDryInfo(), false);
+}
+
+void TestMessageHandler::heatfileWithoutStoreDoesNotLeak()
+{
+    // Nobody takes the record: the handler must free it (checked under the sanitizer build).
+    MessageHandler handler;
+    QSignalSpy fav(&handler, &MessageHandler::SignalSetProgToFav);
+    QVERIFY(handler.ParseMessage(QStringLiteral("heatfile==[metainfo];name=Lost;")));
+    QCOMPARE(fav.count(), 1);
+}
+
+void TestMessageHandler::hostileHeatfileSectionIsIgnored()
+{
+    MessageHandler handler;
+    Received got;
+    collect(handler, got);
+    handler.HandleRecvHeatfile(QStringLiteral("[2000000000];rate=5;temp=1300;[1];rate=4;"));
+    QCOMPARE(*got.programs.at(0)->GetMatrix(), (Program::Matrix{{4u, 0u, 0u}}));
+}
+
+QTEST_GUILESS_MAIN(TestMessageHandler)
+#include "tst_messagehandler.moc"
