@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMetaType>
 #include <QString>
 
 namespace ovra {
@@ -42,3 +43,5 @@ private:
 
 } // namespace GlobalElements
 } // namespace ovra
+
+Q_DECLARE_METATYPE(ovra::GlobalElements::Program *)
