@@ -55,6 +55,7 @@ void TestLogUtils::makeFile(const QString &name, int ageSeconds, qint64 size)
     QFile file(logs::logFolderName + QLatin1Char('/') + name);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(size, 'x'));
+    QVERIFY(file.flush()); // a later flush would stamp the file with the current time
     const QDateTime when = QDateTime::currentDateTime().addSecs(-ageSeconds);
     QVERIFY(file.setFileTime(when, QFileDevice::FileModificationTime));
     file.close();

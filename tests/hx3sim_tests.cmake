@@ -1,0 +1,20 @@
+# Tests of the controller simulator; included by tests/CMakeLists.txt.
+add_executable(tst_simframe ${CMAKE_CURRENT_LIST_DIR}/tst_simframe.cpp)
+target_link_libraries(tst_simframe PRIVATE hx3simcore Qt5::Test)
+# The end-to-end case runs the real program against a fake panel.
+target_compile_definitions(tst_simframe PRIVATE HX3SIM_BINARY="$<TARGET_FILE:hx3sim>")
+add_dependencies(tst_simframe hx3sim)
+set_target_properties(tst_simframe PROPERTIES AUTOMOC ON)
+ovra_warnings(tst_simframe)
+
+set(HX3SIM_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+# Inside the full tree, share the other tests' runtime dir and sanitizer suppressions; the
+# simulator started by the test inherits them.
+if(DEFINED OVRA_TEST_RUNTIME)
+  list(APPEND HX3SIM_TEST_ENVIRONMENT "XDG_RUNTIME_DIR=${OVRA_TEST_RUNTIME}/xdg"
+                                      "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp")
+  add_test(NAME tst_simframe COMMAND tst_simframe WORKING_DIRECTORY ${OVRA_TEST_RUNTIME}/work)
+else()
+  add_test(NAME tst_simframe COMMAND tst_simframe)
+endif()
+set_tests_properties(tst_simframe PROPERTIES ENVIRONMENT "${HX3SIM_TEST_ENVIRONMENT}" TIMEOUT 120)

@@ -1,0 +1,114 @@
+// The panel's command line: defaults are the furnace's own, bad input exits with code 2.
+#include "app/commandline.h"
+#include "app/pageinterface.h"
+#include "app/paths.h"
+
+#include <QProcess>
+#include <QtTest>
+
+using ovra::GlobalElements::CommandLine;
+using ovra::GlobalElements::PanelOptions;
+using ovra::GlobalElements::Paths;
+
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void defaultsAreTheDevice();
+    void optionsAreTaken();
+    void badInput_data();
+    void badInput();
+    void homeStandsForTheDeviceHome();
+    void processExitCodes();
+};
+
+void TestCommandLine::defaultsAreTheDevice()
+{
+    PanelOptions options;
+    QString text;
+    QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel")}, options, text), CommandLine::Outcome::Run);
+    QCOMPARE(options.port, QStringLiteral("/dev/ttyAMA0"));
+    QCOMPARE(options.home, QStringLiteral("/home/pi"));
+    QCOMPARE(options.keyPort, quint16(6666));
+}
+
+void TestCommandLine::optionsAreTaken()
+{
+    PanelOptions options;
+    QString text;
+    QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--port"),
+                                 QStringLiteral("/tmp/line"), QStringLiteral("--home=/tmp/h"),
+                                 QStringLiteral("--key-port"), QStringLiteral("7001")},
+                                options, text),
+             CommandLine::Outcome::Run);
+    QCOMPARE(options.port, QStringLiteral("/tmp/line"));
+    QCOMPARE(options.home, QStringLiteral("/tmp/h"));
+    QCOMPARE(options.keyPort, quint16(7001));
+
+    QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--version")}, options, text),
+             CommandLine::Outcome::ExitSuccess);
+    QCOMPARE(text, QStringLiteral("R02E.1\n"));
+    QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--help")}, options, text),
+             CommandLine::Outcome::ExitSuccess);
+    QVERIFY(text.contains(QStringLiteral("--key-port")));
+}
+
+void TestCommandLine::badInput_data()
+{
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("unknown option") << QStringList{QStringLiteral("--colour")} << "Unknown option";
+    QTest::newRow("port not a number") << QStringList{QStringLiteral("--key-port"), QStringLiteral("x")} << "--key-port";
+    QTest::newRow("port zero") << QStringList{QStringLiteral("--key-port=0")} << "--key-port";
+    QTest::newRow("port too large") << QStringList{QStringLiteral("--key-port=65536")} << "--key-port";
+    QTest::newRow("negative port") << QStringList{QStringLiteral("--key-port=-1")} << "--key-port";
+    QTest::newRow("missing value") << QStringList{QStringLiteral("--port")} << "Missing value";
+    QTest::newRow("empty home") << QStringList{QStringLiteral("--home=")} << "non-empty";
+    QTest::newRow("positional") << QStringList{QStringLiteral("extra")} << "Unexpected argument";
+}
+
+void TestCommandLine::badInput()
+{
+    QFETCH(QStringList, args);
+    QFETCH(QString, message);
+    PanelOptions options;
+    const PanelOptions before;
+    QString text;
+    args.prepend(QStringLiteral("ovra-panel"));
+    QCOMPARE(CommandLine::Parse(args, options, text), CommandLine::Outcome::ExitUsageError);
+    QVERIFY2(text.contains(message), qPrintable(text));
+    QCOMPARE(options.port, before.port); // nothing half-applied
+    QCOMPARE(options.keyPort, before.keyPort);
+}
+
+void TestCommandLine::homeStandsForTheDeviceHome()
+{
+    Paths::SetHome(QStringLiteral("/tmp/panel-home/"));
+    QCOMPARE(Paths::Resolve(QStringLiteral("/home/pi/Downloads/outfile.txt")),
+             QStringLiteral("/tmp/panel-home/Downloads/outfile.txt"));
+    QCOMPARE(Paths::Resolve(QStringLiteral("/home/pi")), QStringLiteral("/tmp/panel-home"));
+    QCOMPARE(Paths::Resolve(QStringLiteral("/home/pink/x")), QStringLiteral("/home/pink/x"));
+    QCOMPARE(Paths::Resolve(QStringLiteral("../logs")), QStringLiteral("../logs"));
+    Paths::SetHome(QStringLiteral("/home/pi"));
+    QCOMPARE(Paths::Resolve(QStringLiteral("/home/pi/x")), QStringLiteral("/home/pi/x"));
+}
+
+void TestCommandLine::processExitCodes()
+{
+    const QString panel = QStringLiteral(OVRA_BINARY_DIR "/ovra-panel");
+    QProcess process;
+    process.start(panel, {QStringLiteral("--version")});
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("R02E.1\n"));
+
+    process.start(panel, {QStringLiteral("--key-port"), QStringLiteral("many")});
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitCode(), CommandLine::usageErrorExitCode);
+    QVERIFY(process.readAllStandardError().contains("--key-port"));
+    QVERIFY(process.readAllStandardOutput().isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "tst_commandline.moc"

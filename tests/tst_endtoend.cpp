@@ -1,0 +1,128 @@
+// The panel program against the controller simulator over a pseudo-terminal: the start-up
+// exchange runs and the simulator, with its own frame code, finds every answer right.
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+class LineReader
+{
+public:
+    explicit LineReader(QProcess *process) : m_process(process) {}
+
+    // Waits until a line matching `pattern` has been printed; returns it.
+    QString waitFor(const QRegularExpression &pattern, int timeoutMs = 15000)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        for (;;) {
+            while (m_next < m_lines.size()) {
+                const QString line = m_lines.at(m_next++);
+                if (pattern.match(line).hasMatch())
+                    return line;
+            }
+            if (timer.elapsed() > timeoutMs || m_process->state() == QProcess::NotRunning)
+                return QString();
+            m_process->waitForReadyRead(100);
+            while (m_process->canReadLine())
+                m_lines << QString::fromUtf8(m_process->readLine()).trimmed();
+        }
+    }
+
+    int count(const QRegularExpression &pattern) const
+    {
+        int n = 0;
+        for (const QString &line : m_lines)
+            n += pattern.match(line).hasMatch() ? 1 : 0;
+        return n;
+    }
+
+    QStringList lines() const { return m_lines; }
+
+private:
+    QProcess *m_process;
+    QStringList m_lines;
+    int m_next = 0;
+};
+
+QRegularExpression re(const QString &pattern)
+{
+    return QRegularExpression(pattern);
+}
+
+} // namespace
+
+class TestEndToEnd : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startUpExchangeIsAnsweredCorrectly();
+};
+
+void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
+{
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkpath(QStringLiteral("run")));
+    QVERIFY(QDir(root.path()).mkpath(QStringLiteral("home")));
+
+    QProcess sim;
+    sim.setProcessChannelMode(QProcess::SeparateChannels);
+    sim.start(QStringLiteral(OVRA_BINARY_DIR "/tools/hx3sim/hx3sim"),
+              {QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose")});
+    QVERIFY(sim.waitForStarted());
+    LineReader simOut(&sim);
+    const QString slaveLine = simOut.waitFor(re(QStringLiteral("^slave: ")));
+    QVERIFY2(!slaveLine.isEmpty(), "the simulator did not publish its line");
+    const QString slave = slaveLine.mid(7);
+
+    QProcess panel;
+    panel.setWorkingDirectory(root.path() + QStringLiteral("/run"));
+    panel.start(QStringLiteral(OVRA_BINARY_DIR "/ovra-panel"),
+                {QStringLiteral("--port"), slave, QStringLiteral("--home"),
+                 root.path() + QStringLiteral("/home"), QStringLiteral("--key-port"),
+                 QStringLiteral("16666")});
+    QVERIFY(panel.waitForStarted());
+
+    QVERIFY2(!simOut.waitFor(re(QStringLiteral("^panel connected"))).isEmpty(),
+             qPrintable(simOut.lines().join(QLatin1Char('\n'))));
+    // Device data, language, unit, every sample program and its count, then status frames.
+    QVERIFY(!simOut.waitFor(re(QStringLiteral("^tx: .*hfcount==\\d+"))).isEmpty());
+    for (int i = 0; i < 5; ++i)
+        QVERIFY(!simOut.waitFor(re(QStringLiteral("^tx: .*temp==\\d+"))).isEmpty());
+
+    sim.write("quit\n");
+    const QString summary = simOut.waitFor(re(QStringLiteral("^summary: ")));
+    QVERIFY(sim.waitForFinished(5000));
+    panel.kill();
+    panel.waitForFinished(5000);
+
+    const QRegularExpressionMatch m = re(QStringLiteral(
+        "frames=(\\d+) answers=(\\d+) nacks=(\\d+) bad_checksum=(\\d+) timeouts=(\\d+)")).match(summary);
+    QVERIFY2(m.hasMatch(), qPrintable(summary));
+    const int frames = m.captured(1).toInt();
+    const int answers = m.captured(2).toInt();
+    QVERIFY2(frames >= 20, qPrintable(summary));
+    QVERIFY2(answers >= frames - 1, qPrintable(summary)); // the last may still be on its way
+    QCOMPARE(m.captured(3).toInt(), 0);
+    QCOMPARE(m.captured(4).toInt(), 0);
+    QCOMPARE(m.captured(5).toInt(), 0);
+    QCOMPARE(simOut.count(re(QStringLiteral("^BAD ANSWER"))), 0);
+
+    // The panel logged to its own folder beside the working directory, not to the console.
+    const QStringList logs = QDir(root.path() + QStringLiteral("/logs")).entryList(QDir::Files);
+    QCOMPARE(logs.size(), 1);
+    QFile log(root.path() + QStringLiteral("/logs/") + logs.first());
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QByteArray text = log.readAll();
+    QVERIFY(text.startsWith("serial port open!!\n"));
+    QVERIFY(text.contains("received data: "));
+    QVERIFY(text.contains("Pis Answer: "));
+    QVERIFY(!panel.readAllStandardError().contains("serial port"));
+}
+
+QTEST_GUILESS_MAIN(TestEndToEnd)
+#include "tst_endtoend.moc"

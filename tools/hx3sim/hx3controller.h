@@ -1,0 +1,113 @@
+#pragma once
+
+#include "furnacemodel.h"
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class PtyLine;
+
+// The controller's side of the conversation: it is the master of the line, sends one frame at
+// a time and waits for the panel's answer before the next, brings the panel up with the
+// start-up sequence, reports time and temperature, and serves what the panel asks for in its
+// answers. Everything it has to say for the log comes out as message() lines.
+class Hx3Controller : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options
+    {
+        int intervalMs = 1000;
+        QByteArray unit = "c";
+        bool verbose = false;
+    };
+
+    struct Counters
+    {
+        int frames = 0;
+        int answers = 0;
+        int nacks = 0;
+        int badChecksum = 0;
+        int timeouts = 0;
+        int requests = 0;
+    };
+
+    Hx3Controller(PtyLine *line, const Options &options, QObject *parent = nullptr);
+
+    void start();
+
+    // One operator line, e.g. "send temp==1473$$guistate==3" or "quit".
+    void handleCommand(const QString &line);
+
+    Counters counters() const { return m_counters; }
+    QString summaryLine() const;
+    bool isConnected() const { return m_phase == Phase::Connected; }
+    int panelPage() const { return m_panelPage; }
+
+signals:
+    void message(const QString &line);
+    void quitRequested();
+
+private:
+    enum class Phase { WaitingForPanel, Connected };
+    enum class Kind { Startup, Heatfile, Status, Operator };
+
+    struct Outgoing
+    {
+        QList<QByteArray> fields;
+        Kind kind = Kind::Operator;
+    };
+
+    using RequestHandler = void (Hx3Controller::*)(const QByteArray &parameter);
+    using CommandHandler = void (Hx3Controller::*)(const QString &arguments);
+
+    QList<Outgoing> startupFrames() const;
+    QList<Outgoing> heatfileFrames() const;
+    Outgoing statusFrame() const;
+
+    void enqueue(const QList<Outgoing> &frames);
+    void sendNext();
+    void transmit(const Outgoing &frame);
+    void probePanel();
+    void onBytesReceived(const QByteArray &bytes);
+    void onIncomingFrame(const QByteArray &content);
+    void onAnswerTimeout();
+    void onStatusTick();
+    void panelLost();
+
+    void handleRequest(const QByteArray &field);
+    void requestHeatfileResend(const QByteArray &parameter);
+    void requestGuiState(const QByteArray &parameter);
+
+    void commandSend(const QString &arguments);
+    void commandQuit(const QString &arguments);
+
+    PtyLine *m_line;
+    Options m_options;
+    Counters m_counters;
+    Phase m_phase = Phase::WaitingForPanel;
+
+    QList<Outgoing> m_queue;
+    Outgoing m_inFlight;
+    bool m_awaitingAnswer = false;
+    bool m_inFlightComplete = false;
+    int m_consecutiveTimeouts = 0;
+    QTimer m_answerTimer;
+    QByteArray m_rxBuffer;
+
+    QTimer m_statusTimer;
+    QElapsedTimer m_clock;
+    qint64 m_lastAdvanceMs = 0;
+    FurnaceModel m_furnace;
+
+    int m_panelPage = -1;
+
+    QHash<QByteArray, RequestHandler> m_requestHandlers;
+    QHash<QString, CommandHandler> m_commandHandlers;
+};

@@ -1,0 +1,140 @@
+// hx3sim: plays the HX3 furnace controller against the touch panel over a pseudo-terminal.
+
+#include "consoleinput.h"
+#include "hx3controller.h"
+#include "ptyline.h"
+#include "signalwatcher.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+constexpr int kUsageError = 2;
+
+// Tests and scripts read us through a pipe, so every line goes out at once.
+void printLine(const QString &line)
+{
+    const QByteArray bytes = line.toLocal8Bit() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+// Started with stdin/stdout/stderr closed, the pty would get one of those numbers and operator
+// input or log lines would end up on the line. Park /dev/null there first.
+void occupyClosedStandardFds()
+{
+    for (int fd = 0; fd <= 2; ++fd) {
+        if (::fcntl(fd, F_GETFD) == -1)
+            ::open("/dev/null", O_RDWR);
+    }
+}
+
+int usageError(const QString &text)
+{
+    std::fprintf(stderr, "hx3sim: %s\n", qPrintable(text));
+    return kUsageError;
+}
+}  // namespace
+
+int main(int argc, char *argv[])
+{
+    occupyClosedStandardFds();
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("hx3sim"));
+    // A reader of our output that goes away must not kill us before the summary and the
+    // link clean-up; the failed write is simply lost.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Plays the HX3 furnace controller against the panel over a pseudo-terminal."));
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    const QCommandLineOption linkOption(QStringLiteral("link"), QStringLiteral("Create a symlink <path> to the slave side (removed at exit)."),
+                                        QStringLiteral("path"));
+    const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Print every frame sent (tx:) and received (rx:)."));
+    const QCommandLineOption intervalOption(QStringLiteral("interval"), QStringLiteral("Milliseconds between time/date/temperature frames."),
+                                            QStringLiteral("ms"), QStringLiteral("1000"));
+    const QCommandLineOption unitOption(QStringLiteral("unit"), QStringLiteral("Temperature unit announced to the panel: c or f."),
+                                        QStringLiteral("c|f"), QStringLiteral("c"));
+    const QCommandLineOption runForOption(QStringLiteral("run-for"), QStringLiteral("Exit after this many seconds."),
+                                          QStringLiteral("seconds"));
+    parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, runForOption});
+
+    if (!parser.parse(QCoreApplication::arguments()))
+        return usageError(parser.errorText());
+    if (parser.isSet(helpOption)) {
+        printLine(parser.helpText());
+        return 0;
+    }
+    if (!parser.positionalArguments().isEmpty())
+        return usageError(QStringLiteral("unexpected argument: %1").arg(parser.positionalArguments().first()));
+
+    Hx3Controller::Options options;
+    options.verbose = parser.isSet(verboseOption);
+
+    bool ok = false;
+    options.intervalMs = parser.value(intervalOption).toInt(&ok);
+    if (!ok || options.intervalMs <= 0)
+        return usageError(QStringLiteral("--interval needs a positive number of milliseconds, not \"%1\"").arg(parser.value(intervalOption)));
+
+    const QString unit = parser.value(unitOption);
+    if (unit != QLatin1String("c") && unit != QLatin1String("f"))
+        return usageError(QStringLiteral("--unit must be c or f, not \"%1\"").arg(unit));
+    options.unit = unit.toLatin1();
+
+    int runForMs = -1;
+    if (parser.isSet(runForOption)) {
+        const double seconds = parser.value(runForOption).toDouble(&ok);
+        if (!ok || !(seconds > 0.0) || seconds > 1.0e6)
+            return usageError(QStringLiteral("--run-for needs a positive number of seconds, not \"%1\"").arg(parser.value(runForOption)));
+        runForMs = static_cast<int>(seconds * 1000.0 + 0.5);
+        if (runForMs < 1)
+            runForMs = 1;
+    }
+
+    PtyLine line;
+    QString error;
+    if (!line.open(&error)) {
+        std::fprintf(stderr, "hx3sim: cannot create the pseudo-terminal: %s\n", qPrintable(error));
+        return 1;
+    }
+    printLine(QStringLiteral("slave: %1").arg(line.slavePath()));
+
+    if (parser.isSet(linkOption)) {
+        switch (line.createLink(parser.value(linkOption), &error)) {
+        case PtyLine::LinkResult::Created:
+            break;
+        case PtyLine::LinkResult::NotASymlink:
+            return usageError(error);
+        case PtyLine::LinkResult::Failed:
+            std::fprintf(stderr, "hx3sim: cannot create the link: %s\n", qPrintable(error));
+            return 1;
+        }
+    }
+
+    Hx3Controller controller(&line, options);
+    QObject::connect(&controller, &Hx3Controller::message, &printLine);
+    QObject::connect(&controller, &Hx3Controller::quitRequested, &app, [] { QCoreApplication::exit(0); });
+
+    ConsoleInput console(0);
+    QObject::connect(&console, &ConsoleInput::lineReceived, &controller, &Hx3Controller::handleCommand);
+
+    SignalWatcher signalWatcher;
+    QObject::connect(&signalWatcher, &SignalWatcher::terminationRequested, &app, [] { QCoreApplication::exit(0); });
+
+    if (runForMs > 0)
+        QTimer::singleShot(runForMs, &app, [] { QCoreApplication::exit(0); });
+
+    controller.start();
+    app.exec();
+
+    printLine(controller.summaryLine());
+    line.removeLink();
+    return 0;
+}
