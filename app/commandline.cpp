@@ -34,7 +34,13 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     const QCommandLineOption quitOption(QStringLiteral("quit-after-start"),
                                         QStringLiteral("Leave as soon as the window is shown "
                                                        "(for measuring start-up)."));
-    parser.addOptions({helpOption, versionOption, portOption, homeOption, keyPortOption, quitOption});
+    const QCommandLineOption selftestDelayOption(QStringLiteral("selftest-delay-ms"),
+                                                 QStringLiteral("Wait before the automatic self-test "
+                                                                "(default 7000)."),
+                                                 QStringLiteral("ms"),
+                                                 QString::number(options.selftestDelayMs));
+    parser.addOptions({helpOption, versionOption, portOption, homeOption, keyPortOption, quitOption,
+                       selftestDelayOption});
 
     if (!parser.parse(arguments)) {
         output = parser.errorText() + QStringLiteral("\nTry --help.\n");
@@ -62,6 +68,13 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
                      .arg(keyPortText);
         return Outcome::ExitUsageError;
     }
+    const QString delayText = parser.value(selftestDelayOption);
+    const int selftestDelay = delayText.toInt(&ok);
+    if (!ok || selftestDelay < 0) {
+        output = QStringLiteral("Invalid --selftest-delay-ms '%1': expected milliseconds.\n")
+                     .arg(delayText);
+        return Outcome::ExitUsageError;
+    }
     const QString port = parser.value(portOption);
     const QString home = parser.value(homeOption);
     if (port.isEmpty() || home.isEmpty()) {
@@ -73,6 +86,7 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     options.home = home;
     options.keyPort = static_cast<quint16>(keyPort);
     options.quitAfterStart = parser.isSet(quitOption);
+    options.selftestDelayMs = selftestDelay;
     return Outcome::Run;
 }
 

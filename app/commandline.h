@@ -15,6 +15,8 @@ struct PanelOptions
     // Development aid: leave the event loop once the window has been shown, so that
     // start-up time and memory can be measured from outside.
     bool quitAfterStart = false;
+    // Development aid: wait before the automatic self-test (the furnace waits 7000 ms).
+    int selftestDelayMs = 7000;
 };
 
 class CommandLine

@@ -47,6 +47,7 @@ int main(int argc, char *argv[])
     }
 
     QApplication app(argc, argv);
+    Q_INIT_RESOURCE(resources);
     PanelOptions options;
     QString text;
     const CommandLine::Outcome outcome = CommandLine::Parse(app.arguments(), options, text);

@@ -1,25 +1,390 @@
 #include "app/mainwindow.h"
 
+#include "app/captions.h"
+#include "app/paths.h"
 #include "communication/communicator.h"
+#include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
+#include "faults/errorhandler.h"
+#include "faults/popupdeletefailurelist.h"
+#include "faults/popupfailure.h"
+#include "popups/popup.h"
+#include "popups/popupargonfailure.h"
+#include "popups/popupdeleteprogram.h"
+#include "popups/popuplicense.h"
+#include "popups/popupqrcode.h"
+#include "popups/popupsettings.h"
+#include "popups/popupstop.h"
+#include "popups/popuptempwarning.h"
+#include "popups/popuptimeadjust.h"
+#include "popups/popupusb.h"
+#include "popups/timerpopup.h"
 #include "ui_mainwindow.h"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QTimer>
 
 namespace ovra {
 namespace Mainwindow {
+
+using GlobalElements::Button;
+using GlobalElements::Iconbutton;
+using Communication::MessageHandler;
 
 MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *parent)
     : QMainWindow(parent), ui(new Ui::MainWindow), m_options(options)
 {
     ui->setupUi(this);
-
-    m_messageHandler = new Communication::MessageHandler();
-    m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port);
-
+    ApplyStyle();
     ui->label_splashVersion->setText(GlobalElements::Pageinterface::versionInfo);
+
+    CreateComponents();
+    CreateTimers();
+    SetUpIcons();
+
+    ConnectOvenLink();
+    ConnectComponents();
+    ConnectNavigation();
+    ConnectPageButtons();
+
     ui->stackedWidget_main->setCurrentIndex(1);
+    ui->widget_timerPlayProg->SetCheckable(true);
+    ui->widget_timerPreDry->SetCheckable(true);
+
+    PreparePageUnitSelect();
+    PreparePageLanguageSelect();
+    ui->progressBar_selftest->setMaximum(75);
+    ui->pushButton_USBProgress->setEnabled(false);
+    ErrorHandling(); // no failures yet: their symbols and fields stay hidden
+
+    m_externalScripts = QStringList{QStringLiteral("/home/pi/Downloads/makeExecutable.py"),
+                         QStringLiteral("/home/pi/autostartUserinterface.sh"),
+                         QStringLiteral("/home/pi/Downloads/decode_and_unzip_lin.py"),
+                         QStringLiteral("/home/pi/DispOn/dispOn.py")};
+    RewriteExternalScripts();
 }
 
+// The parentless core objects live until the process ends, which follows at once.
 MainWindow::~MainWindow() = default;
+
+bool MainWindow::IsSelftestPending() const
+{
+    return m_selftestStartTimer->isActive();
+}
+
+QString MainWindow::Caption(const char *source) const
+{
+    return QCoreApplication::translate(Captions::context, source);
+}
+
+void MainWindow::ApplyStyle()
+{
+    QString sheet;
+    for (const char *path : {":/style/panel.qss", ":/style/popups.qss"}) {
+        QFile file(QString::fromLatin1(path));
+        if (file.open(QIODevice::ReadOnly))
+            sheet += QString::fromUtf8(file.readAll()) + QLatin1Char('\n');
+    }
+    qApp->setStyleSheet(sheet);
+}
+
+void MainWindow::CreateComponents()
+{
+    m_errorHandler = new GlobalElements::ErrorHandler();
+    m_popupMaterial = new Popups::Popup(this);
+    m_popupSettings = new Popups::PopupSettings(this);
+    m_popupDeleteFailureList = new Popups::PopupDeleteFailureList(this);
+    m_timerPopup = new Popups::TimerPopup(this);
+    m_popupLicense = new Popups::PopupLicense(this);
+    m_popupTimeAdjust = new Popups::PopupTimeAdjust(this);
+    m_popupFailure = new Popups::PopupFailure(m_errorHandler, this);
+    m_popupStop = new Popups::PopupStop(this);
+    m_popupUSB = new Popups::PopupUSB(this);
+    m_popupQRCode = new Popups::PopupQRCode(this);
+    m_popupArgonFailure = new Popups::PopupArgonFailure(this);
+    m_messageHandler = new MessageHandler();
+    m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port);
+    m_internalCommunicator = new Communication::InternalCommunicator(nullptr, m_options.keyPort);
+    m_popupDeleteProgram = new Popups::PopupDeleteProgram(this);
+    m_popupTempWarning = new Popups::PopupTempWarning(this);
+}
+
+void MainWindow::CreateTimers()
+{
+    // A first pulse timer was always made and replaced at once; it is never used.
+    m_preDryPulseTimer = new QTimer();
+    m_preDryPulseTimer = new QTimer();
+    m_preDryPulseTimer->setInterval(1000);
+    connect(m_preDryPulseTimer, &QTimer::timeout, this, &MainWindow::PulsePreDryTimeout);
+
+    m_playEnableTimer = new QTimer();
+    m_playEnableTimer->setInterval(1000);
+    m_playEnableTimer->setSingleShot(true);
+    connect(m_playEnableTimer, &QTimer::timeout, this, &MainWindow::EnablePlay);
+
+    m_selftestStartTimer = new QTimer();
+    m_selftestStartTimer->setSingleShot(true);
+    connect(m_selftestStartTimer, &QTimer::timeout, this, &MainWindow::Slot_StartSelftest);
+}
+
+void MainWindow::SetUpIcons()
+{
+    for (Iconbutton *button : findChildren<Iconbutton *>()) {
+        const QString name = button->objectName();
+        if (name.startsWith(QLatin1String("widget_back")))
+            button->SetIcon(QStringLiteral(":/Icons/back.png"));
+        else if (name.startsWith(QLatin1String("widget_exit")))
+            button->SetIcon(QStringLiteral(":/Icons/home.png"));
+        else if (name.startsWith(QLatin1String("widget_fwd")))
+            button->SetIcon(QStringLiteral(":/Icons/next.png"));
+    }
+    ui->widget_doorPlayNewProg->SetIcon(QStringLiteral(":/Door/Door_Up.png"));
+    ui->widget_doorProcessProg->SetIcon(QStringLiteral(":/Door/Door_Down.png"));
+    ui->widget_playNewProg->SetIcon(QStringLiteral(":/Play/Play.png"));
+    ui->widget_playNewProg->SetCheckable(true);
+    ui->widget_timerPlayProg->SetIcon(QStringLiteral(":/Timer/timer.png"));
+    ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
+    ui->widget_processPreDryInfo->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
+    ui->widget_stopProcessProg->SetIcon(QStringLiteral(":/Stop/Stop.png"));
+    ui->widget_processErrorInfo->SetIcon(QStringLiteral(":/Info/released.png"));
+    ui->widget_acceptMaterialChanged->SetIcon(QStringLiteral(":/Icons/check.png"));
+    ui->widget_rejectMaterialChanged->SetIcon(QStringLiteral(":/Icons/abbrechen.png"));
+    ui->widget_doorIsolation_accept->SetIcon(QStringLiteral(":/Icons/check.png"));
+
+    ui->widget_temp->SetIcon(QStringLiteral(":/Play/temp.png"));
+    ui->widget_tempPlay->SetIcon(QStringLiteral(":/Play/temp.png"));
+    ui->widget_tempProcess->SetIcon(QStringLiteral(":/Play/temp.png"));
+    ui->widget_showPlayTime->SetIcon(QStringLiteral(":/Play/time.png"));
+    ui->widget_showProcessTime->SetIcon(QStringLiteral(":/Play/time.png"));
+    ui->widget_time->SetIcon(QStringLiteral(":/Icons/datetime.png"));
+    ui->widget_showDate->SetIcon(QStringLiteral(":/Icons/datetime.png"));
+    ui->widget_showTime->SetIcon(QStringLiteral(":/Play/time.png"));
+
+    const QList<QPair<Button *, const char *>> tiles = {
+        {ui->widget_MainMenuButtonHitlist, ":/Icons/favorite_on.png"},
+        {ui->widget_MainMenuButtonProgs, ":/Icons/programs.png"},
+        {ui->widget_MainMenuButtonSettings, ":/Icons/settings.png"},
+        {ui->widget_MainMenuButtonService, ":/Icons/service.png"},
+        {ui->widget_MainMenuButtonDoor, ":/Icons/door.png"},
+        {ui->widget_ProgsButtonLists, ":/Icons/programs.png"},
+        {ui->widget_ProgsButtonNew, ":/Icons/newprogram.png"},
+        {ui->widget_ProgsButtonService, ":/Icons/service.png"},
+        {ui->widget_ProgsButtonDisplayOptions, ":/Icons/filter.png"},
+        {ui->widget_SettingsButtonLangSelect, ":/Icons/language.png"},
+        {ui->widget_SettingsButtonUnitSelect, ":/Icons/unit.png"},
+        {ui->widget_SettingsButtonDateTime, ":/Icons/datetime.png"},
+        {ui->widget_SettingsButtonDeviceData, ":/Icons/devicedata.png"},
+        {ui->widget_SettingsButtonDisplayOptions, ":/Icons/filter.png"},
+        {ui->widget_SettingsButtonDeviceReset, ":/Icons/delete.png"},
+        {ui->widget_LicenseButton, ":/Icons/license.png"},
+        {ui->widget_ServiceDeviceData, ":/Icons/devicedata.png"},
+        {ui->widget_ServiceFailureMM, ":/Icons/failure.png"},
+        {ui->widget_ServiceSelftest, ":/Icons/selftest.png"},
+        {ui->widget_ListsButtonHitlist, ":/Icons/favorite_on.png"},
+        {ui->widget_ListsButtonMyProgs, ":/Icons/programs.png"},
+        {ui->widget_ListsButtonStaticProgs, ":/Icons/programs.png"},
+        {ui->widget_DisplayButtonManufacturer, ":/Icons/filter.png"},
+        {ui->widget_DisplayButtonMaterial, ":/Icons/filter.png"},
+        {ui->widget_DateTimeAdjust, ":/Icons/datetime.png"},
+        {ui->widget_deleteFailureList, ":/Icons/delete.png"},
+        {ui->widget_myProgsNew, ":/Icons/newprogram.png"},
+        {ui->widget_playProgChange, ":/Icons/edit.png"},
+        {ui->widget_playProgDelete, ":/Icons/delete.png"},
+        {ui->widget_redoSelftest, ":/Icons/selftest.png"},
+        {ui->widget_USBMenuFWUpdate, ":/Icons/usb.png"},
+        {ui->widget_USBMenuConfigUpdate, ":/Icons/usb.png"},
+        {ui->widget_USBMenuLoadMyProgs, ":/Icons/programs.png"},
+        {ui->widget_USBMenuSaveMyProgs, ":/Icons/programs.png"},
+        {ui->widget_USBMenuBackup, ":/Icons/usb.png"},
+        {ui->widget_USBMenuQRCode, ":/Icons/qrcode.png"},
+    };
+    for (const auto &tile : tiles)
+        tile.first->SetIcon(QString::fromLatin1(tile.second));
+}
+
+void MainWindow::ConnectOvenLink()
+{
+    MessageHandler *h = m_messageHandler;
+    using GlobalElements::DisplayElement;
+    const QList<QPair<void (MessageHandler::*)(const QString &), QPair<DisplayElement *, DisplayElement *>>> deviceData = {
+        {&MessageHandler::SignalTypeModelSeries, {ui->widget_Data1, ui->widget_Data12}},
+        {&MessageHandler::SignalSerialNumber, {ui->widget_Data2, ui->widget_Data22}},
+        {&MessageHandler::SignalHWVersion, {ui->widget_Data3, ui->widget_Data32}},
+        {&MessageHandler::SignalSWVersion, {ui->widget_Data4, ui->widget_Data42}},
+        {&MessageHandler::SignalOperatingHours, {ui->widget_Data5, ui->widget_Data52}},
+    };
+    for (const auto &entry : deviceData) {
+        connect(h, entry.first, entry.second.first, &DisplayElement::SetText);
+        connect(h, entry.first, entry.second.second, &DisplayElement::SetText);
+    }
+    connect(h, &MessageHandler::SignalGuiState, this, &MainWindow::SlotSetRecvGuiState);
+    connect(h, &MessageHandler::SignalTime, ui->label_Time, &QLabel::setText);
+    connect(h, &MessageHandler::SignalTime, ui->widget_time, &GlobalElements::DisplayElementIcon::SetText);
+    connect(h, &MessageHandler::SignalTime, ui->widget_showTime, &GlobalElements::DisplayElementIcon::SetText);
+    connect(h, &MessageHandler::SignalDate, ui->label_Date, &QLabel::setText);
+    connect(h, &MessageHandler::SignalDate, ui->widget_showDate, &GlobalElements::DisplayElementIcon::SetText);
+    connect(h, &MessageHandler::SignalRemainingTime, ui->widget_showPlayTime,
+            &GlobalElements::DisplayElementIcon::SetText);
+    connect(h, &MessageHandler::SignalRemainingTime, ui->widget_showProcessTime,
+            &GlobalElements::DisplayElementIcon::SetText);
+    connect(h, &MessageHandler::SignalOvenConnected, this, &MainWindow::Statemachine);
+    connect(h, &MessageHandler::SignalSelftestDoor, ui->widget_testDoor,
+            &GlobalElements::TestDisplayElement::SetIconResult);
+    connect(h, &MessageHandler::SignalSelftestHeater, ui->widget_testHeatsystem,
+            &GlobalElements::TestDisplayElement::SetIconResult);
+    connect(h, &MessageHandler::SignalSelftestCooling, ui->widget_testCooling,
+            &GlobalElements::TestDisplayElement::SetIconResult);
+    connect(h, &MessageHandler::SignalSelftestResult, this, &MainWindow::SlotSelftestResult);
+    connect(h, &MessageHandler::SignalFailure, this, &MainWindow::SlotErrorHandling);
+    connect(h, &MessageHandler::SignalResetFailure, this, &MainWindow::SlotResetError);
+    connect(h, &MessageHandler::SignalServicePin, ui->widget_numpad, &GlobalElements::NumPad::SetCode);
+    connect(h, &MessageHandler::SignalUserInteractionRequest, this, &MainWindow::SlotUserInteractionRequest);
+    connect(h, &MessageHandler::SignalSetUnit, this, &MainWindow::SlotSetUnit);
+    connect(h, &MessageHandler::SignalSetInitalStartup, this, &MainWindow::SlotSetInitialStartup);
+    connect(h, &MessageHandler::SignalUpdateProgress, m_popupUSB, &Popups::PopupUSB::SlotUpdateProgress);
+    ConnectProcessLink();
+}
+
+void MainWindow::ConnectComponents()
+{
+    connect(m_internalCommunicator, &Communication::InternalCommunicator::SignalReceivedTouchEvent, this,
+            &MainWindow::Slot_SetTouchEnable);
+    connect(m_popupTimeAdjust, &Popups::PopupTimeAdjust::SignalTimeAdjust, this, &MainWindow::SlotAddTimeToRequest);
+    connect(m_popupTimeAdjust, &Popups::PopupTimeAdjust::SignalDateAdjust, this, &MainWindow::SlotAddDateToRequest);
+    connect(m_popupSettings, &Popups::PopupSettings::SignalPopupSettingsButton, this,
+            &MainWindow::SlotResetDeviceSettings);
+    connect(m_popupTempWarning, &Popups::PopupTempWarning::SignalRequestDoorClose, this,
+            &MainWindow::SlotRequestDoorClose);
+    connect(m_popupDeleteFailureList, &Popups::PopupDeleteFailureList::SignalPopupDeleteFailureListButton, this,
+            &MainWindow::SlotDeleteFailure);
+    connect(m_errorHandler, &GlobalElements::ErrorHandler::SignalErrorListChanged, this, &MainWindow::ErrorHandling);
+}
+
+void MainWindow::ConnectNavigation()
+{
+    for (Iconbutton *button : findChildren<Iconbutton *>()) {
+        const QString name = button->objectName();
+        if (name.startsWith(QLatin1String("widget_back")))
+            connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotBackButtonClicked);
+        else if (name.startsWith(QLatin1String("widget_exit")))
+            connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotExitButtonClicked);
+        else if (name.startsWith(QLatin1String("widget_fwd")))
+            connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotFwdButtonClicked);
+    }
+
+    // The service self-test button asks the controller first, then changes the page.
+    connect(ui->widget_ServiceSelftest, &Button::SignalButtonClicked, this, &MainWindow::SlotServiceSelftest);
+    for (Button *button : {ui->widget_MainMenuButtonHitlist, ui->widget_MainMenuButtonSettings,
+                           ui->widget_MainMenuButtonProgs, ui->widget_MainMenuButtonService,
+                           ui->widget_ProgsButtonLists, ui->widget_ProgsButtonService,
+                           ui->widget_ProgsButtonDisplayOptions, ui->widget_ListsButtonHitlist,
+                           ui->widget_ListsButtonMyProgs, ui->widget_ListsButtonStaticProgs,
+                           ui->widget_SettingsButtonLangSelect, ui->widget_SettingsButtonUnitSelect,
+                           ui->widget_SettingsButtonDateTime, ui->widget_SettingsButtonDeviceData,
+                           ui->widget_SettingsButtonDisplayOptions, ui->widget_DisplayButtonManufacturer,
+                           ui->widget_DisplayButtonMaterial, ui->widget_ServiceDeviceData,
+                           ui->widget_ServiceSelftest, ui->widget_ServiceFailureMM}) {
+        connect(button, &Button::SignalButtonClicked, this, &MainWindow::Statemachine);
+    }
+    connect(ui->widget_numpad, &GlobalElements::NumPad::SignalCorrectCode, this, &MainWindow::Statemachine);
+}
+
+void MainWindow::ConnectPageButtons()
+{
+    for (Iconbutton *door : {ui->widget_doorPlayNewProg, ui->widget_doorProcessProg})
+        connect(door, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotMoveDoor);
+    connect(ui->widget_MainMenuButtonDoor, &Button::SignalButtonClicked, this, &MainWindow::SlotMoveDoor);
+    connect(ui->widget_SettingsButtonDeviceReset, &Button::SignalButtonClicked, m_popupSettings, &QDialog::open);
+    connect(ui->widget_stopProcessProg, &Iconbutton::Signal_ButtonClicked, m_popupStop, &QDialog::open);
+    connect(ui->widget_processErrorInfo, &Iconbutton::Signal_ButtonClicked, m_popupFailure, &QDialog::open);
+    connect(ui->widget_deleteFailureList, &Button::SignalButtonClicked, m_popupDeleteFailureList, &QDialog::open);
+    connect(ui->widget_playProgDelete, &Button::SignalButtonClicked, m_popupDeleteProgram, &QDialog::open);
+    connect(ui->widget_DateTimeAdjust, &Button::SignalButtonClicked, this, &MainWindow::Slot_ShowTimeAdjustPopup);
+    connect(ui->widget_UnitF, &Button::SignalButtonClicked, this, &MainWindow::SlotUnitChanged);
+    connect(ui->widget_UnitC, &Button::SignalButtonClicked, this, &MainWindow::SlotUnitChanged);
+    connect(ui->widget_redoSelftest, &Button::SignalButtonClicked, this, &MainWindow::Slot_StartSelftest);
+    connect(ui->widget_LicenseButton, &Button::SignalButtonClicked, this, &MainWindow::SlotShowLicense);
+    for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling}) {
+        connect(row, &GlobalElements::TestDisplayElement::SignalSelftestResult, this,
+                &MainWindow::SlotIncreaseSelftestProgress);
+    }
+}
+
+void MainWindow::SlotSetRecvGuiState(const QString &state)
+{
+    // Not a number selects the start page, as the controller expects.
+    Statemachine(static_cast<Page>(state.toUInt()));
+}
+
+void MainWindow::SlotSetInitialStartup()
+{
+    m_initialStartup = true;
+}
+
+void MainWindow::SlotUserInteractionRequest()
+{
+    m_userInteraction = true;
+    ui->widget_doorProcessProg->setVisible(true);
+}
+
+void MainWindow::Slot_SetTouchEnable(bool enable)
+{
+    ui->stackedWidget_main->setEnabled(enable);
+    // A door left open is closed when the display goes dark, but never during a firing.
+    if (!enable && !m_heatProgramInProgress)
+        m_messageHandler->SetRequest(QStringLiteral("doorclose"));
+}
+
+void MainWindow::EnablePlay()
+{
+    ui->widget_playNewProg->setEnabled(true);
+    ui->widget_doorPlayNewProg->setEnabled(true);
+    m_playEnableTimer->stop();
+}
+
+void MainWindow::PulsePreDryButton(bool run)
+{
+    if (run && !m_preDryPulseTimer->isActive()) {
+        m_preDryPulseTimer->start();
+    } else if (!run && m_preDryPulseTimer->isActive()) {
+        m_preDryPulseTimer->stop();
+        ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/released0.png"));
+    }
+}
+
+void MainWindow::PulsePreDryTimeout()
+{
+    m_messageHandler->SetRequest(QStringLiteral("guistate==") + QString::number(m_currentPage));
+}
+
+void MainWindow::RewriteExternalScripts()
+{
+    // Each start-up script has a reference copy in the resources; a copy on the device that
+    // differs (or is missing) is written anew, so a damaged card heals itself.
+    for (const QString &fixedPath : qAsConst(m_externalScripts)) {
+        const QString resource = QStringLiteral(":/scripts/") + QFileInfo(fixedPath).fileName();
+        QFile reference(resource);
+        if (!reference.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray wanted = reference.readAll();
+        const QString path = GlobalElements::Paths::Resolve(fixedPath);
+        QFile current(path);
+        if (current.open(QIODevice::ReadOnly)
+            && QCryptographicHash::hash(current.readAll(), QCryptographicHash::Md5)
+                   == QCryptographicHash::hash(wanted, QCryptographicHash::Md5)) {
+            continue;
+        }
+        current.close();
+        if (current.open(QIODevice::WriteOnly | QIODevice::Truncate) && current.write(wanted) == wanted.size())
+            qDebug() << "script rewritten:" << path;
+        else
+            qDebug() << "script could not be rewritten:" << path;
+    }
+}
 
 } // namespace Mainwindow
 } // namespace ovra

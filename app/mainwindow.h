@@ -2,8 +2,12 @@
 
 #include "app/commandline.h"
 #include "app/pageinterface.h"
+#include "app/pagetables.h"
 
 #include <QMainWindow>
+#include <QStringList>
+
+class QTimer;
 
 namespace Ui {
 class MainWindow;
@@ -12,11 +16,32 @@ class MainWindow;
 namespace ovra {
 namespace Communication {
 class Communicator;
+class InternalCommunicator;
 class MessageHandler;
 } // namespace Communication
+namespace GlobalElements {
+class ErrorHandler;
+} // namespace GlobalElements
+namespace Popups {
+class Popup;
+class PopupArgonFailure;
+class PopupDeleteFailureList;
+class PopupDeleteProgram;
+class PopupFailure;
+class PopupLicense;
+class PopupQRCode;
+class PopupSettings;
+class PopupStop;
+class PopupTempWarning;
+class PopupTimeAdjust;
+class PopupUSB;
+class TimerPopup;
+} // namespace Popups
 
 namespace Mainwindow {
 
+// The one window: creates, owns and wires every object of the panel. Slots read widgets,
+// call the logic that lives elsewhere and write widgets back.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -27,13 +52,154 @@ public:
 
     Communication::MessageHandler *GetMessageHandler() const { return m_messageHandler; }
     Communication::Communicator *GetCommunicator() const { return m_communicator; }
+    Communication::InternalCommunicator *GetInternalCommunicator() const { return m_internalCommunicator; }
+    GlobalElements::ErrorHandler *GetErrorHandler() const { return m_errorHandler; }
+    Ui::MainWindow *GetUi() const { return ui; }
+    Page CurrentPage() const { return m_currentPage; }
+    bool IsEditMode() const { return m_editMode; }
+    bool IsInitialStartup() const { return m_initialStartup; }
+    bool IsStartupShown() const { return m_startupShown; }
+    const PageOrigins &Origins() const { return m_origins; }
+    // A firing is running; the display key then leaves the door alone.
+    void SetHeatProgramInProgress(bool running) { m_heatProgramInProgress = running; }
+    bool IsFahrenheit() const { return m_fahrenheit; }
+    bool IsSelftestPending() const;
+
+public slots:
+    // The only way to change the page.
+    void Statemachine(ovra::GlobalElements::Pageinterface::en_pages page);
+    void SlotExitButtonClicked();
+    void SlotBackButtonClicked();
+    void SlotFwdButtonClicked();
+
+    void SlotSetRecvGuiState(const QString &state);
+    void SlotSetInitialStartup();
+    void SlotUserInteractionRequest();
+    void Slot_SetTouchEnable(bool enable);
+    void EnablePlay();
+    void PulsePreDryButton(bool run);
+    void PulsePreDryTimeout();
+
+    // Self-test.
+    void Slot_StartSelftest();
+    void SlotServiceSelftest();
+    void SlotIncreaseSelftestProgress(const QString &result);
+    void SlotSelftestResult(const QString &result);
+
+    // Failures.
+    void SlotErrorHandling(const QString &codes);
+    void SlotResetError(const QString &codes);
+    void ErrorHandling();
+    void SlotDeleteFailure();
+
+    // Temperature and door.
+    void SlotTempReceived(const QString &temperature);
+    void CheckTempDoor();
+    void SlotDoor(const QString &state);
+    void SlotMoveDoor();
+    void SlotRequestDoorClose();
+
+    // Unit and date/time (settings).
+    void SlotSetUnit(const QString &unit);
+    void SlotUnitChanged();
+    void Slot_ShowTimeAdjustPopup();
+    void SlotAddTimeToRequest(const QString &time);
+    void SlotAddDateToRequest(const QString &date);
+    void SlotResetDeviceSettings(bool confirmed);
+    void SlotShowLicense();
 
 private:
+    void CreateComponents();
+    void CreateTimers();
+    void SetUpIcons();
+    void ConnectOvenLink();
+    void ConnectComponents();
+    void ConnectNavigation();
+    void ConnectPageButtons();
+    void ConnectProcessLink();
+    void ApplyStyle();
+
+    QString Caption(const char *source) const;
+    void SetTitle(const QString &title, bool upperCase);
+    void PreparePage(Page page, int from);
+
+    // Page preparations; those of the program, filter and service pages grow with them.
+    void PreparePageDeviceDataStartUp();
+    void PreparePageMainMenu();
+    void PreparePageProgs();
+    void PreparePageSettings();
+    void PreparePageService();
+    void PreparePageServicePin();
+    void PreparePageLists();
+    void PreparePageLanguageSelect();
+    void PreparePageUnitSelect();
+    void PreparePageDateTime();
+    void PreparePageDeviceData(int from);
+    void PreparePageSelftest();
+    void PreparePageMyHitlist();
+    void PreparePageMyPrograms();
+    void PreparePageFixPrograms();
+    void PreparePageServicePrograms();
+    void PreparePageDisplayOptions();
+    void PreparePageDisplayManufacturer();
+    void PreparePageDisplayMaterial();
+    void PreparePageUSBMenu();
+    void PreparePageChangeProgram(const QString &name);
+    void PreparePagePlay(int from);
+    void PreparePageProcess();
+    void SetDeviceDataCaptions();
+    void RewriteExternalScripts();
+
     Ui::MainWindow *ui;
     GlobalElements::PanelOptions m_options;
-    // Core objects live until the process ends; the window does not delete them.
+
+    // Owned components, created in this order. The parentless ones live until the
+    // process ends; the popups belong to the window.
+    GlobalElements::ErrorHandler *m_errorHandler = nullptr;
+    Popups::Popup *m_popupMaterial = nullptr;
+    Popups::PopupSettings *m_popupSettings = nullptr;
+    Popups::PopupDeleteFailureList *m_popupDeleteFailureList = nullptr;
+    Popups::TimerPopup *m_timerPopup = nullptr;
+    Popups::PopupLicense *m_popupLicense = nullptr;
+    Popups::PopupTimeAdjust *m_popupTimeAdjust = nullptr;
+    Popups::PopupFailure *m_popupFailure = nullptr;
+    Popups::PopupStop *m_popupStop = nullptr;
+    Popups::PopupUSB *m_popupUSB = nullptr;
+    Popups::PopupQRCode *m_popupQRCode = nullptr;
+    Popups::PopupArgonFailure *m_popupArgonFailure = nullptr;
     Communication::MessageHandler *m_messageHandler = nullptr;
     Communication::Communicator *m_communicator = nullptr;
+    Communication::InternalCommunicator *m_internalCommunicator = nullptr;
+    Popups::PopupDeleteProgram *m_popupDeleteProgram = nullptr;
+    Popups::PopupTempWarning *m_popupTempWarning = nullptr;
+
+    QTimer *m_preDryPulseTimer = nullptr;
+    QTimer *m_playEnableTimer = nullptr;
+    QTimer *m_selftestStartTimer = nullptr;
+
+    QStringList m_externalScripts;
+
+    // State flags.
+    bool m_startupShown = false;
+    bool m_initialStartup = false;
+    bool m_heatProgramInProgress = false;
+    bool m_userInteraction = false;
+    bool m_changeMode = false;
+    bool m_fahrenheit = false;
+    bool m_editMode = false;
+    unsigned int m_doorTempLimit = 300;
+    float m_lastTemp = 0.0f;
+    bool m_doorClosed = false;
+    const QString m_selftestPassWord = QStringLiteral("pass");
+
+    // Navigation memory.
+    Page m_currentPage = Page::StartUp;
+    PageOrigins m_origins;
+
+    // Self-test rows counted since the page was entered.
+    bool m_doorCounted = false;
+    bool m_heaterCounted = false;
+    bool m_coolingCounted = false;
 };
 
 } // namespace Mainwindow

@@ -1,6 +1,8 @@
 // The controller simulator: its frame functions against hand-computed values, its sample
-// programs against the heatfile rules, and the real program against a small fake panel.
+// programs against the heatfile rules, its clock arithmetic, and the real program against a
+// small fake panel: start-up, self-test and commissioning.
 
+#include "controllerclock.h"
 #include "sampleprograms.h"
 #include "simframe.h"
 
@@ -31,6 +33,12 @@ QByteArray withChecksum(const QByteArray &body)
     return body + "$$" + simframe::checksumField(simframe::splitFields(body));
 }
 
+// An acknowledgement carrying the panel's requests.
+QByteArray ackWith(const QByteArrayList &requests)
+{
+    return withChecksum(requests.isEmpty() ? QByteArray("ack") : "ack$$" + requests.join("$$"));
+}
+
 // The panel side of the line, reduced to what the simulator must get right: it opens the slave
 // like any serial port, dispatches a frame only when a read brings the end byte without a start
 // byte, and answers through a script.
@@ -48,6 +56,7 @@ public:
 
     bool open(const QString &path)
     {
+        m_clock.start();
         m_fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
         if (m_fd < 0)
             return false;
@@ -66,6 +75,7 @@ public:
     std::function<QByteArray(const Fields &)> script;
 
     QList<Fields> bodies;       // dispatched frames, checksum field removed
+    QList<qint64> arrivalMs;    // when each of them was dispatched, from open()
     int badChecksums = 0;       // frames from the simulator that failed the check
     int joinedChunks = 0;       // reads that brought start and end byte together
     int validAnswers = 0;
@@ -77,6 +87,43 @@ public:
         for (const Fields &body : bodies)
             n += simframe::splitCommand(body.first()).first == keyword ? 1 : 0;
         return n;
+    }
+
+    int countOfField(const QByteArray &field) const
+    {
+        int n = 0;
+        for (const Fields &body : bodies)
+            n += body.first() == field ? 1 : 0;
+        return n;
+    }
+
+    int indexOf(const QByteArray &field, int from = 0) const
+    {
+        for (int i = from; i < bodies.size(); ++i) {
+            if (bodies.at(i).first() == field)
+                return i;
+        }
+        return -1;
+    }
+
+    QByteArrayList firstFields(int from, int count) const
+    {
+        QByteArrayList fields;
+        for (int i = from; i < bodies.size() && i < from + count; ++i)
+            fields.append(bodies.at(i).first());
+        return fields;
+    }
+
+    // The self-test results and the "oven ready" state, in the order they came.
+    QByteArrayList selfTestFrames() const
+    {
+        static const QByteArrayList keywords = {"stdoor", "stheater", "stcooling", "st"};
+        QByteArrayList found;
+        for (const Fields &body : bodies) {
+            if (keywords.contains(simframe::splitCommand(body.first()).first) || body.first() == "guistate==26")
+                found.append(body.first());
+        }
+        return found;
     }
 
 private:
@@ -121,6 +168,7 @@ private:
         }
         fields.removeLast();
         bodies.append(fields);
+        arrivalMs.append(m_clock.elapsed());
         const QByteArray answer = script ? script(fields) : withChecksum("ack");
         if (answer.isEmpty())
             return;
@@ -134,6 +182,7 @@ private:
     int m_fd = -1;
     QSocketNotifier *m_notifier = nullptr;
     QByteArray m_buffer;
+    QElapsedTimer m_clock;
 };
 
 // The simulator as a child process, its stdout collected line by line.
@@ -196,6 +245,14 @@ public:
         return found;
     }
 
+    // Ends the run through "quit" and checks that it went down cleanly.
+    bool quit()
+    {
+        process.write("quit\n");
+        return waitUntil([this] { return process.state() == QProcess::NotRunning; })
+               && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    }
+
     QString log() const { return lines.join(QLatin1Char('\n')) + QLatin1Char('\n') + QString::fromUtf8(m_partial); }
 
     QProcess process;
@@ -225,7 +282,12 @@ private slots:
     void commandSplitting();
     void printableRaw();
     void samplePrograms();
+    void controllerClock();
     void simulatorAgainstFakePanel();
+    void selfTestAnswersRedost();
+    void selfTestFailureRepeats_data();
+    void selfTestFailureRepeats();
+    void commissioningWalk();
     void rejectsBadArguments_data();
     void rejectsBadArguments();
     void linkIsManaged();
@@ -414,6 +476,39 @@ void TestSimFrame::samplePrograms()
     QCOMPARE(argon, 1);
 }
 
+void TestSimFrame::controllerClock()
+{
+    const QDate day(2024, 5, 17);
+    const QDateTime system(day, QTime(14, 30, 25));
+    ControllerClock clock;
+    QCOMPARE(clock.at(system), system);
+
+    // The time of day changes, the date stays, and the set clock runs on with the system's.
+    QVERIFY(clock.setTimeOfDay("0942", system));
+    QCOMPARE(clock.at(system), QDateTime(day, QTime(9, 42)));
+    QCOMPARE(clock.at(system.addSecs(90)), QDateTime(day, QTime(9, 43, 30)));
+
+    // A date set a minute later keeps the time that was set, moved on by that minute.
+    QVERIFY(clock.setDate("20300115", system.addSecs(60)));
+    QCOMPARE(clock.at(system.addSecs(60)), QDateTime(QDate(2030, 1, 15), QTime(9, 43)));
+
+    const QDateTime before = clock.at(system);
+    for (const QByteArray &bad : {QByteArray("2400"), QByteArray("0960"), QByteArray("942"), QByteArray("09420"),
+                                  QByteArray("09:4"), QByteArray("+942"), QByteArray(" 942"), QByteArray("094a"), QByteArray()})
+        QVERIFY2(!clock.setTimeOfDay(bad, system), bad.constData());
+    for (const QByteArray &bad : {QByteArray("20300229"), QByteArray("20301301"), QByteArray("20300100"), QByteArray("00000000"),
+                                  QByteArray("2030011"), QByteArray("203001150"), QByteArray("2030-1-1"), QByteArray()})
+        QVERIFY2(!clock.setDate(bad, system), bad.constData());
+    QCOMPARE(clock.at(system), before);
+
+    QVERIFY(clock.setDate("20280229", system));
+    QCOMPARE(clock.at(system).date(), QDate(2028, 2, 29));
+
+    // Set just before midnight, the date moves on by itself.
+    QVERIFY(clock.setTimeOfDay("2359", system));
+    QCOMPARE(clock.at(system.addSecs(90)), QDateTime(QDate(2028, 3, 1), QTime(0, 0, 30)));
+}
+
 void TestSimFrame::simulatorAgainstFakePanel()
 {
     SimProcess sim({QStringLiteral("--run-for"), QStringLiteral("4"), QStringLiteral("--interval"), QStringLiteral("100")});
@@ -459,6 +554,9 @@ void TestSimFrame::simulatorAgainstFakePanel()
     QCOMPARE(panel.bodies.at(16), Fields{"hfcount==8"});
     QCOMPARE(panel.countOf("heatfile"), 16);
     QCOMPARE(panel.countOf("name"), 1);
+    // An ordinary start: no commissioning, and no self-test results the panel did not ask for.
+    QCOMPARE(panel.countOf("initialstart"), 0);
+    QVERIFY(panel.selfTestFrames().isEmpty());
 
     const Fields status = panel.bodies.at(17);
     QCOMPARE(status.size(), 3);
@@ -508,6 +606,207 @@ void TestSimFrame::simulatorAgainstFakePanel()
     QVERIFY2(frames >= panel.bodies.size() && frames <= panel.bodies.size() + 3, qPrintable(summaries.first()));
 }
 
+void TestSimFrame::selfTestAnswersRedost()
+{
+    const int stepMs = 120;
+    SimProcess sim({QStringLiteral("--run-for"), QStringLiteral("30"), QStringLiteral("--interval"), QStringLiteral("50"),
+                    QStringLiteral("--step-ms"), QString::number(stepMs)});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    // Like the panel: it reports its page in every answer, asks for the test on the self-test
+    // page and leaves for the main menu on a pass by itself.
+    FakePanel panel;
+    int page = 1;
+    int redostAt = -1;
+    bool askAgain = false;
+    panel.script = [&](const Fields &body) -> QByteArray {
+        const QByteArray first = body.first();
+        if (first == "st==pass")
+            page = 3;
+        QByteArrayList requests;
+        if (first.startsWith("hfcount")) {
+            page = 2;
+            redostAt = panel.bodies.size() - 1;
+            requests.append("redost");
+        } else if (redostAt >= 0 && panel.bodies.size() - 1 == redostAt + 1) {
+            requests.append("redost");  // the test is still running
+        } else if (askAgain && first.startsWith("time")) {
+            askAgain = false;
+            requests.append("redost");
+        }
+        requests.prepend("guistate==" + QByteArray::number(page));
+        return ackWith(requests);
+    };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+
+    QVERIFY2(sim.waitUntil([&] { return panel.countOfField("guistate==26") == 1; }), qPrintable(sim.log()));
+    // The page pulses go on; nothing more may come of them.
+    const int timeFrames = panel.countOf("time");
+    QVERIFY(sim.waitUntil([&] { return panel.countOf("time") >= timeFrames + 8; }));
+
+    const QByteArrayList passed = {"stdoor==pass", "stheater==pass", "stcooling==pass", "st==pass", "guistate==26"};
+    QCOMPARE(panel.selfTestFrames(), passed);
+    // Spaced for a person to watch: four steps from the request to the overall result.
+    const qint64 took = panel.arrivalMs.at(panel.indexOf("st==pass")) - panel.arrivalMs.at(redostAt);
+    QVERIFY2(took >= 4 * stepMs * 9 / 10, qPrintable(QString::number(took)));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("request: redost")).size(), 2);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("self-test already running")).size(), 1);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("self-test: ")), QStringList{QStringLiteral("self-test: pass")});
+    QVERIFY(sim.linesStartingWith(QStringLiteral("request: guistate==2")).size() > 1);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("panel page: ")),
+             (QStringList{QStringLiteral("panel page: 1"), QStringLiteral("panel page: 2"), QStringLiteral("panel page: 3")}));
+
+    // From the console: a bad command changes nothing, a failing row takes effect on the next test.
+    sim.process.write("selftest maybe\nselftest fail cooling\n");
+    QVERIFY2(sim.waitForLine(QStringLiteral("self-test will fail: cooling")), qPrintable(sim.log()));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("usage: selftest")).size(), 1);
+    askAgain = true;
+    QVERIFY2(sim.waitUntil([&] { return panel.countOfField("st==fail") == 1; }), qPrintable(sim.log()));
+    const int afterFail = panel.countOf("time");
+    QVERIFY(sim.waitUntil([&] { return panel.countOf("time") >= afterFail + 8; }));
+    const QByteArrayList coolingFailed = {"stdoor==pass", "stheater==pass", "stcooling==fail", "st==fail"};
+    QCOMPARE(panel.selfTestFrames(), passed + coolingFailed);
+
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+    QCOMPARE(panel.joinedChunks, 0);
+}
+
+void TestSimFrame::selfTestFailureRepeats_data()
+{
+    QTest::addColumn<QString>("row");
+    QTest::addColumn<QByteArray>("keyword");
+    QTest::newRow("door") << QStringLiteral("door") << QByteArray("stdoor");
+    QTest::newRow("heater") << QStringLiteral("heater") << QByteArray("stheater");
+    QTest::newRow("cooling") << QStringLiteral("cooling") << QByteArray("stcooling");
+}
+
+void TestSimFrame::selfTestFailureRepeats()
+{
+    QFETCH(QString, row);
+    QFETCH(QByteArray, keyword);
+    SimProcess sim({QStringLiteral("--run-for"), QStringLiteral("30"), QStringLiteral("--interval"), QStringLiteral("50"),
+                    QStringLiteral("--step-ms"), QStringLiteral("60"), QStringLiteral("--selftest-fail"), row});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    // The user presses "repeat" after the first failure, and once more when told to.
+    FakePanel panel;
+    bool repeatOnFail = true;
+    bool askAgain = false;
+    panel.script = [&](const Fields &body) -> QByteArray {
+        const QByteArray first = body.first();
+        QByteArrayList requests{"guistate==2"};
+        if (first.startsWith("hfcount")) {
+            requests.append("redost");
+        } else if (first == "st==fail" && repeatOnFail) {
+            repeatOnFail = false;
+            requests.append("redost");
+        } else if (askAgain && first.startsWith("time")) {
+            askAgain = false;
+            requests.append("redost");
+        }
+        return ackWith(requests);
+    };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+
+    QVERIFY2(sim.waitUntil([&] { return panel.countOfField("st==fail") == 2; }), qPrintable(sim.log()));
+    sim.process.write("selftest pass\n");
+    QVERIFY2(sim.waitForLine(QStringLiteral("self-test will pass")), qPrintable(sim.log()));
+    askAgain = true;
+    QVERIFY2(sim.waitUntil([&] { return panel.countOfField("guistate==26") == 1; }), qPrintable(sim.log()));
+
+    QByteArrayList failedRun;
+    for (const QByteArray &each : {QByteArray("stdoor"), QByteArray("stheater"), QByteArray("stcooling")})
+        failedRun.append(each + (each == keyword ? "==fail" : "==pass"));
+    failedRun.append("st==fail");
+    // No "oven ready" after a failure; the option holds for every test until the console changes it.
+    const QByteArrayList passedRun = {"stdoor==pass", "stheater==pass", "stcooling==pass", "st==pass", "guistate==26"};
+    QCOMPARE(panel.selfTestFrames(), failedRun + failedRun + passedRun);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("self-test: ")),
+             (QStringList{QStringLiteral("self-test: fail"), QStringLiteral("self-test: fail"), QStringLiteral("self-test: pass")}));
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+}
+
+void TestSimFrame::commissioningWalk()
+{
+    SimProcess sim({QStringLiteral("--commissioning"), QStringLiteral("--run-for"), QStringLiteral("30"), QStringLiteral("--interval"),
+                    QStringLiteral("50"), QStringLiteral("--step-ms"), QStringLiteral("50")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    // The panel reports its page in every answer. Once on the set-up pages, it answers each
+    // status frame with the next step of the user's walk.
+    FakePanel panel;
+    int page = -1;
+    int settingsReportedAt = -1;  // the frame whose answer brought the walk to the settings page
+    QList<QByteArrayList> walk = {{"lang==english", "guistate==13"},
+                                  {"unit==f", "guistate==14"},
+                                  {"date==20300115", "time==0942", "guistate==15"},
+                                  {"guistate==6"}};
+    panel.script = [&](const Fields &body) -> QByteArray {
+        const QByteArray first = body.first();
+        if (first.startsWith("ophours"))
+            page = 1;
+        else if (first == "guistate==12")
+            page = 12;
+        if (first.startsWith("time") && page >= 12 && !walk.isEmpty()) {
+            const QByteArrayList step = walk.takeFirst();
+            page = step.last().mid(10).toInt();
+            if (page == 6)
+                settingsReportedAt = panel.bodies.size() - 1;
+            return ackWith(step);
+        }
+        return ackWith(page < 0 ? QByteArrayList{} : QByteArrayList{"guistate==" + QByteArray::number(page)});
+    };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+
+    QVERIFY2(sim.waitUntil([&] { return panel.countOfField("guistate==26") == 1; }), qPrintable(sim.log()));
+    const int timeFrames = panel.countOf("time");
+    QVERIFY(sim.waitUntil([&] { return panel.countOf("time") >= timeFrames + 6; }));
+
+    QCOMPARE(panel.firstFields(0, 9), (QByteArrayList{"initialstart", "name==Ovra S1", "serialno==S1-2304-0087", "hwver==HX3-C",
+                                                      "swver==3.12.0", "ophours==1234", "guistate==12", "lang==deutsch", "unit==c"}));
+    QCOMPARE(panel.countOf("heatfile"), 8);
+    QCOMPARE(panel.bodies.at(17), Fields{"hfcount==8"});
+    // The settings page reached in the walk ends it once, whatever the pulses repeat.
+    QCOMPARE(panel.countOfField("guistate==26"), 1);
+    QVERIFY(panel.indexOf("guistate==26") > settingsReportedAt);
+    QCOMPARE(panel.countOfField("guistate==1"), 0);
+    QCOMPARE(panel.selfTestFrames(), QByteArrayList{"guistate==26"});
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("commissioning done")).size(), 1);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("language: ")), QStringList{QStringLiteral("language: english")});
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("unit: ")), QStringList{QStringLiteral("unit: f")});
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("clock set: ")).size(), 2);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("clock set: ")).last(), QStringLiteral("clock set: 2030-01-15 09:42"));
+
+    // The time and date frames follow the clock the user set; before, they were the system's.
+    const Fields firstStatus = panel.bodies.at(panel.indexOf("hfcount==8") + 1);
+    QVERIFY(firstStatus.value(1) != "date==20300115");
+    const Fields lastStatus = panel.bodies.last();
+    QCOMPARE(lastStatus.size(), 3);
+    QVERIFY2(QRegularExpression(QStringLiteral("^time==094[23]$")).match(QString::fromLatin1(lastStatus.at(0))).hasMatch(),
+             lastStatus.at(0).constData());
+    QCOMPARE(lastStatus.at(1), QByteArray("date==20300115"));
+
+    // Commissioning again from the console, the panel still on the settings page: its pulses of
+    // page 6 before it has shown the set-up pages must not end it, and the choices are kept.
+    const int before = panel.bodies.size();
+    walk = {{"guistate==6"}};
+    sim.process.write("commission\n");
+    QVERIFY2(sim.waitUntil([&] { return panel.countOfField("guistate==26") == 2; }), qPrintable(sim.log()));
+    const int restart = panel.indexOf("initialstart", before);
+    QVERIFY(restart > 0);
+    QCOMPARE(panel.firstFields(restart, 9), (QByteArrayList{"initialstart", "name==Ovra S1", "serialno==S1-2304-0087", "hwver==HX3-C",
+                                                            "swver==3.12.0", "ophours==1234", "guistate==12", "lang==english", "unit==f"}));
+    QVERIFY(settingsReportedAt > restart);
+    QVERIFY(panel.indexOf("guistate==26", restart) > settingsReportedAt);
+    const int afterSecond = panel.countOf("time");
+    QVERIFY(sim.waitUntil([&] { return panel.countOf("time") >= afterSecond + 6; }));
+    QCOMPARE(panel.countOfField("guistate==26"), 2);
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("commissioning done")).size(), 2);
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
 void TestSimFrame::rejectsBadArguments_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -518,6 +817,10 @@ void TestSimFrame::rejectsBadArguments_data()
     QTest::newRow("run-for text") << QStringList{QStringLiteral("--run-for"), QStringLiteral("soon")};
     QTest::newRow("unknown option") << QStringList{QStringLiteral("--baud"), QStringLiteral("9600")};
     QTest::newRow("stray argument") << QStringList{QStringLiteral("/dev/ttyUSB0")};
+    QTest::newRow("step zero") << QStringList{QStringLiteral("--step-ms"), QStringLiteral("0")};
+    QTest::newRow("step text") << QStringList{QStringLiteral("--step-ms"), QStringLiteral("slow")};
+    QTest::newRow("unknown self-test row") << QStringList{QStringLiteral("--selftest-fail"), QStringLiteral("oven")};
+    QTest::newRow("empty self-test row") << QStringList{QStringLiteral("--selftest-fail"), QString()};
 }
 
 void TestSimFrame::rejectsBadArguments()

@@ -9,6 +9,7 @@ All artwork is drawn from scratch for this panel in one flat style:
   red #D64545, blue #2B7BB9, light #F4F6F8 / #FFFFFF, mid grey #8A97A6.
 """
 
+import math
 import os
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -110,6 +111,17 @@ def clock_badge(cx=68, cy=68, r=23):
             f'<path d="M{cx} {cy - 10} V{cy} L{cx + 7} {cy + 5}" {stroke(SLATE, 4.5)}/>')
 
 
+def lift_door():
+    """Furnace head with the chamber opening (top) and the door plate with the hearth (bottom)."""
+    return (
+        # furnace head with the chamber opening underneath
+        f'<path d="M8 12 A6 6 0 0 1 14 6 H54 A6 6 0 0 1 60 12 V36 H48 V26 H20 V36 H8 Z" '
+        f'fill="{SLATE}"/>'
+        # door plate carrying the hearth
+        f'<rect x="10" y="78" width="48" height="10" rx="4" fill="{SLATE}"/>'
+        f'<rect x="20" y="64" width="28" height="14" rx="3" fill="{GREY}"/>')
+
+
 # ---------------------------------------------------------------- icons (96 x 96)
 def icons():
     out = {}
@@ -127,14 +139,7 @@ def icons():
     def door(up):
         arrow = ("M72 64 V30 M61 41 L72 30 L83 41" if up else
                  "M72 30 V64 M61 53 L72 64 L83 53")
-        return icon(
-            # furnace head with the chamber opening underneath
-            f'<path d="M8 12 A6 6 0 0 1 14 6 H54 A6 6 0 0 1 60 12 V36 H48 V26 H20 V36 H8 Z" '
-            f'fill="{SLATE}"/>'
-            # door plate carrying the hearth
-            f'<rect x="10" y="78" width="48" height="10" rx="4" fill="{SLATE}"/>'
-            f'<rect x="20" y="64" width="28" height="14" rx="3" fill="{GREY}"/>'
-            f'<path d="{arrow}" {stroke(ORANGE)}/>')
+        return icon(lift_door() + f'<path d="{arrow}" {stroke(ORANGE)}/>')
     out["Door/Door_Up"] = door(True)
     out["Door/Door_Down"] = door(False)
 
@@ -192,6 +197,184 @@ def icons():
         + f'<path d="M16 16 L80 80" {stroke(SLATE, 8)}/>')
     for m in (15, 30, 45, 60):
         out[f"Vortrocknen/released{m}_1"] = icon(small.format(predry_glyph()) + badge(str(m)))
+    return out
+
+
+# ---------------------------------------------------------------- menu and page icons (96 x 96)
+def star_points(cx=48, cy=51, outer=39, inner=17):
+    pts = []
+    for i in range(10):
+        r = outer if i % 2 == 0 else inner
+        a = math.radians(-90 + i * 36)
+        pts.append(f"{cx + r * math.cos(a):.1f} {cy + r * math.sin(a):.1f}")
+    return "M" + " L".join(pts) + " Z"
+
+
+def gear(cx, cy, color, ring_r=23, ring_w=14, teeth=8, tooth_w=15, tooth_out=41):
+    """Gear: a thick ring with rounded teeth; the hub stays transparent."""
+    out = f'<circle cx="{cx}" cy="{cy}" r="{ring_r}" {stroke(color, ring_w)}/>'
+    for i in range(teeth):
+        out += (f'<rect x="{cx - tooth_w / 2}" y="{cy - tooth_out}" width="{tooth_w}" '
+                f'height="{tooth_out - ring_r}" rx="4" fill="{color}" '
+                f'transform="rotate({i * 360 / teeth} {cx} {cy})"/>')
+    return out
+
+
+def menu_icons():
+    out = {}
+
+    # Exit to the main menu: house with an orange door.
+    out["Icons/home"] = icon(
+        f'<path d="M22 42 V80 A4 4 0 0 0 26 84 H70 A4 4 0 0 0 74 80 V42" {stroke(SLATE)}/>'
+        f'<path d="M10 48 L48 14 L86 48" {stroke(SLATE)}/>'
+        f'<rect x="39" y="56" width="18" height="28" rx="3" fill="{ORANGE}"/>')
+
+    # Favourites: filled orange star / slate outline.
+    out["Icons/favorite_on"] = icon(
+        f'<path d="{star_points()}" fill="{ORANGE}" stroke="{ORANGE}" stroke-width="8" '
+        f'stroke-linejoin="round"/>')
+    out["Icons/favorite_off"] = icon(f'<path d="{star_points()}" {stroke(SLATE, 8)}/>')
+
+    # Program lists: rows with orange bullets.
+    out["Icons/programs"] = icon(
+        "".join(f'<circle cx="19" cy="{y}" r="7" fill="{ORANGE}"/>'
+                f'<path d="M36 {y} H80" {stroke(SLATE)}/>' for y in (24, 48, 72)))
+
+    out["Icons/settings"] = icon(gear(48, 48, SLATE))
+
+    # Service: open-end wrench, jaw facing up-right.
+    out["Icons/service"] = icon(
+        '<mask id="jaw"><rect width="96" height="96" fill="#FFF"/>'
+        '<rect x="53" y="29" width="44" height="14" rx="7" fill="#000" '
+        'transform="rotate(-45 60 36)"/></mask>'
+        f'<g mask="url(#jaw)">'
+        f'<path d="M60 36 L20 76" {stroke(SLATE, 15)}/>'
+        f'<circle cx="60" cy="36" r="22" fill="{SLATE}"/>'
+        '</g>')
+
+    # Lift door without the arrow, centred.
+    out["Icons/door"] = icon(f'<g transform="translate(14 1)">{lift_door()}</g>')
+
+    # Stylised QR symbol: three finder squares and a few modules.
+    finder = ""
+    for x, y in ((10, 10), (60, 10), (10, 60)):
+        finder += (f'<rect x="{x + 3}" y="{y + 3}" width="20" height="20" rx="4" {stroke(SLATE, 6)}/>'
+                   f'<rect x="{x + 8.5}" y="{y + 8.5}" width="9" height="9" rx="1.5" fill="{SLATE}"/>')
+    modules = "".join(
+        f'<rect x="{x}" y="{y}" width="9" height="9" rx="1.5" fill="{c}"/>'
+        for x, y, c in ((44, 12, SLATE), (44, 28, SLATE), (12, 44, SLATE), (28, 44, SLATE),
+                        (44, 44, ORANGE), (60, 44, SLATE), (76, 44, SLATE), (60, 60, SLATE),
+                        (76, 76, SLATE), (44, 76, SLATE), (60, 76, SLATE), (76, 60, SLATE),
+                        (44, 60, SLATE)))
+    out["Icons/qrcode"] = icon(finder + modules)
+
+    # USB: the trident.
+    out["Icons/usb"] = icon(
+        f'<path d="M48 80 V24" {stroke(SLATE, 7)}/>'
+        f'<path d="M38 26 L48 10 L58 26 Z" fill="{SLATE}" stroke="{SLATE}" stroke-width="4" '
+        f'stroke-linejoin="round"/>'
+        f'<circle cx="48" cy="80" r="9" fill="{SLATE}"/>'
+        f'<path d="M48 66 L26 54 V44" {stroke(SLATE, 7)}/>'
+        f'<circle cx="26" cy="38" r="7" fill="{SLATE}"/>'
+        f'<path d="M48 58 L70 46 V36" {stroke(SLATE, 7)}/>'
+        f'<rect x="63" y="24" width="14" height="14" rx="2" fill="{SLATE}"/>')
+
+    # Language: globe.
+    out["Icons/language"] = icon(
+        f'<circle cx="48" cy="48" r="37" {stroke(SLATE, 8)}/>'
+        f'<ellipse cx="48" cy="48" rx="15" ry="37" {stroke(SLATE, 6)}/>'
+        f'<path d="M11 48 H85 M18 28 H78 M18 68 H78" {stroke(SLATE, 6)}/>')
+
+    # Temperature unit: thermometer with a degree ring.
+    out["Icons/unit"] = icon(
+        f'<rect x="32.5" y="28" width="7" height="44" rx="3.5" fill="{ORANGE}"/>'
+        f'<circle cx="36" cy="72" r="10" fill="{ORANGE}"/>'
+        f'<path d="M28 60 V20 A8 8 0 0 1 44 20 V60 A15 15 0 1 1 28 60 Z" {stroke(SLATE, 7)}/>'
+        f'<circle cx="68" cy="24" r="10" {stroke(SLATE, 7)}/>')
+
+    # Date and time: calendar page with a clock badge.
+    days = "".join(f'<rect x="{x}" y="{y}" width="8" height="8" rx="2" fill="{SLATE}"/>'
+                   for x, y in ((20, 42), (34, 42), (48, 42), (20, 56), (34, 56)))
+    out["Icons/datetime"] = icon(
+        f'<rect x="10" y="16" width="62" height="60" rx="8" {stroke(SLATE, 7)}/>'
+        f'<rect x="10" y="16" width="62" height="16" rx="6" fill="{SLATE}"/>'
+        f'<path d="M26 8 V20 M56 8 V20" {stroke(SLATE, 7)}/>'
+        + days + clock_badge(68, 68, 23))
+
+    # Device data: a chip with pins and an info mark.
+    pins = ""
+    for t in (34, 48, 62):
+        pins += (f'<path d="M{t} 10 V22 M{t} 74 V86 M10 {t} H22 M74 {t} H86" '
+                 f'{stroke(SLATE, 6)}/>')
+    out["Icons/devicedata"] = icon(
+        pins + f'<rect x="20" y="20" width="56" height="56" rx="9" fill="{SLATE}"/>'
+        + info_i(ORANGE, 48, 34, 5, 43, 64, 9))
+
+    # Self test: clipboard with green check marks.
+    out["Icons/selftest"] = icon(
+        f'<rect x="16" y="14" width="64" height="74" rx="8" {stroke(SLATE, 7)}/>'
+        f'<rect x="32" y="6" width="32" height="16" rx="5" fill="{SLATE}"/>'
+        f'<path d="M26 42 L32 48 L42 36 M26 66 L32 72 L42 60" {stroke(GREEN, 6)}/>'
+        f'<path d="M52 43 H68 M52 67 H68" {stroke(SLATE, 6)}/>')
+
+    # Failure list: amber warning triangle.
+    out["Icons/failure"] = icon(
+        f'<path d="M48 14 L84 78 L12 78 Z" fill="{AMBER}" stroke="{AMBER}" '
+        f'stroke-width="12" stroke-linejoin="round"/>'
+        + exclamation(SLATE, 48, 34, 60, 10, 5.5))
+
+    # New program: plus in a rounded square.
+    out["Icons/newprogram"] = icon(
+        f'<rect x="12" y="12" width="72" height="72" rx="16" {stroke(SLATE, 8)}/>'
+        f'<path d="M48 30 V66 M30 48 H66" {stroke(ORANGE)}/>')
+
+    # Filter: funnel.
+    out["Icons/filter"] = icon(
+        f'<path d="M12 16 H84 L56 50 V78 L40 86 V50 Z" {stroke(SLATE, 8)}/>')
+
+    # Edit: pencil, tip down-left, orange eraser.
+    out["Icons/edit"] = icon(
+        '<g transform="rotate(-45 48 48)">'
+        f'<rect x="70" y="37" width="16" height="22" rx="5" fill="{ORANGE}"/>'
+        f'<path d="M68 38 H30 L12 48 L30 58 H68 Z" {stroke(SLATE, 7)}/>'
+        f'<path d="M12 48 L20 43.5 V52.5 Z" fill="{SLATE}" stroke="{SLATE}" stroke-width="4" '
+        f'stroke-linejoin="round"/>'
+        '</g>')
+
+    # Delete: trash can with a red lid.
+    out["Icons/delete"] = icon(
+        f'<path d="M38 20 V12 H58 V20" {stroke(RED, 7)}/>'
+        f'<path d="M14 22 H82" {stroke(RED)}/>'
+        f'<path d="M22 34 L27 84 H69 L74 34" {stroke(SLATE, 8)}/>'
+        f'<path d="M40 44 V72 M56 44 V72" {stroke(SLATE, 6)}/>')
+
+    # Backspace key: key pointing left with a cross.
+    out["Icons/backspace"] = icon(
+        f'<path d="M34 20 H80 A4 4 0 0 1 84 24 V72 A4 4 0 0 1 80 76 H34 L10 48 Z" {stroke(SLATE, 8)}/>'
+        f'<path d="M47 37 L69 59 M69 37 L47 59" {stroke(SLATE, 8)}/>')
+
+    # Enter: return arrow.
+    out["Icons/enter"] = icon(
+        f'<path d="M78 16 V46 A10 10 0 0 1 68 56 H20 M38 38 L20 56 L38 74" {stroke(SLATE)}/>')
+
+    # License: document with an orange seal.
+    out["Icons/license"] = icon(
+        f'<path d="M18 14 A4 4 0 0 1 22 10 H56 L74 28 V82 A4 4 0 0 1 70 86 H22 A4 4 0 0 1 18 82 Z" '
+        f'{stroke(SLATE, 7)}/>'
+        f'<path d="M56 10 V28 H74" {stroke(SLATE, 6)}/>'
+        f'<path d="M30 36 H48 M30 50 H60" {stroke(SLATE, 6)}/>'
+        f'<circle cx="66" cy="66" r="20" fill="{WHITE}"/>'
+        f'<path d="M58 76 L54 92 L62 88 L66 94 L68 78 M74 76 L78 92 L70 88" fill="{ORANGE}" '
+        f'stroke="{ORANGE}" stroke-width="3" stroke-linejoin="round"/>'
+        f'<circle cx="66" cy="64" r="15" fill="{ORANGE}"/>'
+        f'<circle cx="66" cy="64" r="8" {stroke(WHITE, 4)}/>')
+
+    # Service PIN: padlock.
+    out["Icons/lock"] = icon(
+        f'<path d="M30 44 V32 A18 18 0 0 1 66 32 V44" {stroke(SLATE)}/>'
+        f'<rect x="16" y="42" width="64" height="46" rx="10" fill="{SLATE}"/>'
+        f'<circle cx="48" cy="60" r="7" fill="{WHITE}"/>'
+        f'<rect x="44.5" y="60" width="7" height="16" rx="3.5" fill="{WHITE}"/>')
     return out
 
 
@@ -475,7 +658,7 @@ def door_insulation():
 
 def main():
     everything = {}
-    for part in (icons, failures, results, background, materials, door_insulation):
+    for part in (icons, menu_icons, failures, results, background, materials, door_insulation):
         everything.update(part())
     for rel, text in sorted(everything.items()):
         write(rel + ".svg", text)

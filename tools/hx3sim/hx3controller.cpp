@@ -18,6 +18,18 @@ const QByteArray kSoftwareVersion = "3.12.0";
 constexpr int kOperatingHours = 1234;
 const QByteArray kLanguage = "deutsch";
 constexpr int kStartPage = 1;
+constexpr int kLanguagePage = 12;      // the first page of commissioning
+constexpr int kLastSetupPage = 15;     // pages 12..15: language, unit, date/time, device data
+constexpr int kSettingsPage = 6;       // where commissioning ends
+constexpr int kOvenReady = 26;         // "oven ready, main menu"
+
+struct SelfTestRow
+{
+    const char *name;      // as the operator names it on the command line
+    const char *keyword;   // as the result goes on the line
+};
+// In the order the controller tests them.
+constexpr SelfTestRow kSelfTestRows[] = {{"door", "stdoor"}, {"heater", "stheater"}, {"cooling", "stcooling"}};
 
 QByteArray command(const QByteArray &keyword, const QByteArray &parameter)
 {
@@ -29,6 +41,8 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     : QObject(parent)
     , m_line(line)
     , m_options(options)
+    , m_language(kLanguage)
+    , m_unit(options.unit)
 {
     m_answerTimer.setSingleShot(true);
     m_answerTimer.setInterval(kAnswerTimeoutMs);
@@ -44,10 +58,24 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     // What the panel may ask for in its answers; a new request is one more entry here.
     m_requestHandlers.insert("hfresend", &Hx3Controller::requestHeatfileResend);
     m_requestHandlers.insert("guistate", &Hx3Controller::requestGuiState);
+    m_requestHandlers.insert("redost", &Hx3Controller::requestSelfTest);
+    m_requestHandlers.insert("lang", &Hx3Controller::requestLanguage);
+    m_requestHandlers.insert("unit", &Hx3Controller::requestUnit);
+    m_requestHandlers.insert("date", &Hx3Controller::requestDate);
+    m_requestHandlers.insert("time", &Hx3Controller::requestTime);
+    // deletefailurelist, doorclose and movedoor are only logged as requests so far.
 
     // Operator commands on standard input.
     m_commandHandlers.insert(QStringLiteral("send"), &Hx3Controller::commandSend);
     m_commandHandlers.insert(QStringLiteral("quit"), &Hx3Controller::commandQuit);
+    m_commandHandlers.insert(QStringLiteral("selftest"), &Hx3Controller::commandSelfTest);
+    m_commandHandlers.insert(QStringLiteral("commission"), &Hx3Controller::commandCommission);
+
+    m_selfTest.failingRow = m_options.selftestFailRow;
+    m_selfTest.stepTimer.setInterval(m_options.stepMs);
+    connect(&m_selfTest.stepTimer, &QTimer::timeout, this, &Hx3Controller::onSelfTestStep);
+
+    m_commissioning.active = m_options.commissioning;
 }
 
 void Hx3Controller::start()
@@ -56,6 +84,15 @@ void Hx3Controller::start()
     m_statusTimer.start();
     emit message(QStringLiteral("waiting for panel on %1").arg(m_line->slavePath()));
     probePanel();
+}
+
+bool Hx3Controller::isSelfTestRow(const QByteArray &row)
+{
+    for (const SelfTestRow &known : kSelfTestRows) {
+        if (row == known.name)
+            return true;
+    }
+    return false;
 }
 
 QString Hx3Controller::summaryLine() const
@@ -69,17 +106,26 @@ QString Hx3Controller::summaryLine() const
         .arg(m_counters.requests);
 }
 
+Hx3Controller::Outgoing Hx3Controller::single(const QByteArray &field, Kind kind)
+{
+    return {{field}, kind};
+}
+
 QList<Hx3Controller::Outgoing> Hx3Controller::startupFrames() const
 {
-    QList<Outgoing> frames = {
+    QList<Outgoing> frames;
+    // The panel must know before the device data that it is not to start its self-test.
+    if (m_commissioning.active)
+        frames.append(single("initialstart", Kind::Startup));
+    frames += QList<Outgoing>{
         {{command("name", kModelName)}, Kind::Startup},
         {{command("serialno", kSerialNumber)}, Kind::Startup},
         {{command("hwver", kHardwareVersion)}, Kind::Startup},
         {{command("swver", kSoftwareVersion)}, Kind::Startup},
         {{command("ophours", QByteArray::number(kOperatingHours))}, Kind::Startup},
-        {{command("guistate", QByteArray::number(kStartPage))}, Kind::Startup},
-        {{command("lang", kLanguage)}, Kind::Startup},
-        {{command("unit", m_options.unit)}, Kind::Startup},
+        {{command("guistate", QByteArray::number(m_commissioning.active ? kLanguagePage : kStartPage))}, Kind::Startup},
+        {{command("lang", m_language)}, Kind::Startup},
+        {{command("unit", m_unit)}, Kind::Startup},
     };
     frames += heatfileFrames();
     return frames;
@@ -97,7 +143,7 @@ QList<Hx3Controller::Outgoing> Hx3Controller::heatfileFrames() const
 
 Hx3Controller::Outgoing Hx3Controller::statusFrame() const
 {
-    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime now = m_wallClock.now();
     return {{command("time", now.toString(QStringLiteral("HHmm")).toLatin1()),
              command("date", now.toString(QStringLiteral("yyyyMMdd")).toLatin1()),
              command("temp", QByteArray::number(m_furnace.chamberKelvin()))},
@@ -242,6 +288,10 @@ void Hx3Controller::panelLost()
     m_queue.clear();
     m_consecutiveTimeouts = 0;
     m_rxBuffer.clear();
+    m_panelPage = -1;
+    stopSelfTest();
+    // Commissioning not finished starts over with the next panel.
+    m_commissioning.setupPageSeen = false;
     emit message(QStringLiteral("waiting for panel on %1").arg(m_line->slavePath()));
     probePanel();
 }
@@ -263,9 +313,104 @@ void Hx3Controller::requestGuiState(const QByteArray &parameter)
 {
     bool ok = false;
     const int page = parameter.toInt(&ok);
-    if (ok)
-        m_panelPage = page;
-    emit message(QStringLiteral("panel page: ") + QString::fromUtf8(parameter));
+    // The panel repeats its page every second; only a change is news.
+    if (!ok || page != m_panelPage)
+        emit message(QStringLiteral("panel page: ") + QString::fromUtf8(parameter));
+    if (!ok)
+        return;
+    m_panelPage = page;
+    followCommissioning(page);
+}
+
+void Hx3Controller::followCommissioning(int page)
+{
+    if (!m_commissioning.active)
+        return;
+    if (page >= kLanguagePage && page <= kLastSetupPage) {
+        m_commissioning.setupPageSeen = true;
+    } else if (page == kSettingsPage && m_commissioning.setupPageSeen) {
+        m_commissioning = {};
+        emit message(QStringLiteral("commissioning done"));
+        enqueue({single(command("guistate", QByteArray::number(kOvenReady)), Kind::Startup)});
+    }
+}
+
+void Hx3Controller::requestSelfTest(const QByteArray &)
+{
+    // The panel asks again when its user repeats the test; a second ask while one runs is
+    // the same test.
+    if (m_selfTest.stepTimer.isActive()) {
+        emit message(QStringLiteral("self-test already running"));
+        return;
+    }
+    const QByteArray failing = m_selfTest.failingRow;
+    for (const SelfTestRow &row : kSelfTestRows)
+        m_selfTest.pendingResults.append(command(row.keyword, failing == row.name ? "fail" : "pass"));
+    m_selfTest.pendingResults.append(command("st", failing.isEmpty() ? "pass" : "fail"));
+    if (failing.isEmpty())
+        m_selfTest.pendingResults.append(command("guistate", QByteArray::number(kOvenReady)));
+    emit message(failing.isEmpty() ? QStringLiteral("self-test started")
+                                   : QStringLiteral("self-test started, %1 will fail").arg(QString::fromLatin1(failing)));
+    m_selfTest.stepTimer.start();
+}
+
+void Hx3Controller::onSelfTestStep()
+{
+    if (m_selfTest.pendingResults.isEmpty()) {
+        m_selfTest.stepTimer.stop();
+        return;
+    }
+    const QByteArray field = m_selfTest.pendingResults.takeFirst();
+    const auto [keyword, parameter] = simframe::splitCommand(field);
+    if (keyword == "st")
+        emit message(QStringLiteral("self-test: ") + QString::fromLatin1(parameter));
+    if (m_selfTest.pendingResults.isEmpty())
+        m_selfTest.stepTimer.stop();
+    enqueue({single(field, Kind::SelfTest)});
+}
+
+void Hx3Controller::stopSelfTest()
+{
+    m_selfTest.stepTimer.stop();
+    m_selfTest.pendingResults.clear();
+}
+
+void Hx3Controller::requestLanguage(const QByteArray &parameter)
+{
+    if (parameter.isEmpty()) {
+        emit message(QStringLiteral("language request without a language"));
+        return;
+    }
+    m_language = parameter;
+    emit message(QStringLiteral("language: ") + QString::fromUtf8(parameter));
+}
+
+void Hx3Controller::requestUnit(const QByteArray &parameter)
+{
+    if (parameter != "c" && parameter != "f") {
+        emit message(QStringLiteral("unknown unit: ") + QString::fromUtf8(parameter));
+        return;
+    }
+    m_unit = parameter;
+    emit message(QStringLiteral("unit: ") + QString::fromLatin1(parameter));
+}
+
+void Hx3Controller::requestDate(const QByteArray &parameter)
+{
+    if (!m_wallClock.setDate(parameter)) {
+        emit message(QStringLiteral("bad date: ") + QString::fromUtf8(parameter));
+        return;
+    }
+    emit message(QStringLiteral("clock set: ") + m_wallClock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
+}
+
+void Hx3Controller::requestTime(const QByteArray &parameter)
+{
+    if (!m_wallClock.setTimeOfDay(parameter)) {
+        emit message(QStringLiteral("bad time: ") + QString::fromUtf8(parameter));
+        return;
+    }
+    emit message(QStringLiteral("clock set: ") + m_wallClock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
 }
 
 void Hx3Controller::handleCommand(const QString &line)
@@ -296,4 +441,36 @@ void Hx3Controller::commandSend(const QString &arguments)
 void Hx3Controller::commandQuit(const QString &)
 {
     emit quitRequested();
+}
+
+void Hx3Controller::commandSelfTest(const QString &arguments)
+{
+    const QStringList words = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QString outcome = words.value(0);
+    const QByteArray row = words.size() > 1 ? words.at(1).toLatin1() : QByteArray("heater");
+    const bool valid = (outcome == QLatin1String("pass") && words.size() == 1)
+                       || (outcome == QLatin1String("fail") && words.size() <= 2 && isSelfTestRow(row));
+    if (!valid) {
+        emit message(QStringLiteral("usage: selftest pass | selftest fail [door|heater|cooling]"));
+        return;
+    }
+    // A test already running keeps the outcome it started with.
+    m_selfTest.failingRow = outcome == QLatin1String("pass") ? QByteArray() : row;
+    emit message(m_selfTest.failingRow.isEmpty()
+                     ? QStringLiteral("self-test will pass")
+                     : QStringLiteral("self-test will fail: ") + QString::fromLatin1(m_selfTest.failingRow));
+}
+
+void Hx3Controller::commandCommission(const QString &)
+{
+    m_commissioning.active = true;
+    m_commissioning.setupPageSeen = false;
+    stopSelfTest();
+    emit message(QStringLiteral("commissioning started"));
+    if (m_phase == Phase::Connected) {
+        enqueue(startupFrames());
+        return;
+    }
+    // The probe on the line belongs to the old sequence; the panel must see initialstart first.
+    probePanel();
 }

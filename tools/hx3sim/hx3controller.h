@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controllerclock.h"
 #include "furnacemodel.h"
 
 #include <QByteArray>
@@ -15,7 +16,8 @@ class PtyLine;
 // The controller's side of the conversation: it is the master of the line, sends one frame at
 // a time and waits for the panel's answer before the next, brings the panel up with the
 // start-up sequence, reports time and temperature, and serves what the panel asks for in its
-// answers. Everything it has to say for the log comes out as message() lines.
+// answers, including the self-test and the commissioning walk the panel starts. Everything it
+// has to say for the log comes out as message() lines.
 class Hx3Controller : public QObject
 {
     Q_OBJECT
@@ -26,6 +28,12 @@ public:
         int intervalMs = 1000;
         QByteArray unit = "c";
         bool verbose = false;
+        // Time between the self-test's results, so that a person watching sees them arrive.
+        int stepMs = 700;
+        // Self-test row that fails ("door", "heater", "cooling"); empty: every test passes.
+        QByteArray selftestFailRow;
+        // Start as a new furnace that the operator sets up first.
+        bool commissioning = false;
     };
 
     struct Counters
@@ -42,6 +50,8 @@ public:
 
     void start();
 
+    static bool isSelfTestRow(const QByteArray &row);
+
     // One operator line, e.g. "send temp==1473$$guistate==3" or "quit".
     void handleCommand(const QString &line);
 
@@ -56,7 +66,7 @@ signals:
 
 private:
     enum class Phase { WaitingForPanel, Connected };
-    enum class Kind { Startup, Heatfile, Status, Operator };
+    enum class Kind { Startup, Heatfile, Status, SelfTest, Operator };
 
     struct Outgoing
     {
@@ -67,6 +77,7 @@ private:
     using RequestHandler = void (Hx3Controller::*)(const QByteArray &parameter);
     using CommandHandler = void (Hx3Controller::*)(const QString &arguments);
 
+    static Outgoing single(const QByteArray &field, Kind kind);
     QList<Outgoing> startupFrames() const;
     QList<Outgoing> heatfileFrames() const;
     Outgoing statusFrame() const;
@@ -84,9 +95,20 @@ private:
     void handleRequest(const QByteArray &field);
     void requestHeatfileResend(const QByteArray &parameter);
     void requestGuiState(const QByteArray &parameter);
+    void requestSelfTest(const QByteArray &parameter);
+    void requestLanguage(const QByteArray &parameter);
+    void requestUnit(const QByteArray &parameter);
+    void requestDate(const QByteArray &parameter);
+    void requestTime(const QByteArray &parameter);
 
     void commandSend(const QString &arguments);
     void commandQuit(const QString &arguments);
+    void commandSelfTest(const QString &arguments);
+    void commandCommission(const QString &arguments);
+
+    void onSelfTestStep();
+    void stopSelfTest();
+    void followCommissioning(int page);
 
     PtyLine *m_line;
     Options m_options;
@@ -107,6 +129,26 @@ private:
     FurnaceModel m_furnace;
 
     int m_panelPage = -1;
+    // What the operator chose on the panel; a panel that comes back is told the same.
+    QByteArray m_language;
+    QByteArray m_unit;
+    ControllerClock m_wallClock;
+
+    // The self-test runs once per "redost"; the panel's page pulses never start one.
+    struct SelfTest
+    {
+        QByteArray failingRow;              // for the next test; empty: it passes
+        QList<QByteArray> pendingResults;   // still to go out, one per step
+        QTimer stepTimer;
+    } m_selfTest;
+
+    // A new furnace: ends when the panel, having shown one of the set-up pages, reaches the
+    // settings page. The panel's pulse from a page it showed before cannot end it.
+    struct Commissioning
+    {
+        bool active = false;
+        bool setupPageSeen = false;
+    } m_commissioning;
 
     QHash<QByteArray, RequestHandler> m_requestHandlers;
     QHash<QString, CommandHandler> m_commandHandlers;

@@ -64,7 +64,15 @@ int main(int argc, char *argv[])
                                         QStringLiteral("c|f"), QStringLiteral("c"));
     const QCommandLineOption runForOption(QStringLiteral("run-for"), QStringLiteral("Exit after this many seconds."),
                                           QStringLiteral("seconds"));
-    parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, runForOption});
+    const QCommandLineOption stepOption(QStringLiteral("step-ms"), QStringLiteral("Milliseconds between the self-test's results."),
+                                        QStringLiteral("ms"), QStringLiteral("700"));
+    const QCommandLineOption selftestFailOption(QStringLiteral("selftest-fail"),
+                                                QStringLiteral("Every self-test fails in this row: door, heater or cooling."),
+                                                QStringLiteral("row"));
+    const QCommandLineOption commissioningOption(QStringLiteral("commissioning"),
+                                                 QStringLiteral("Start as a new furnace: the panel walks the operator through its set-up."));
+    parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, runForOption, stepOption, selftestFailOption,
+                       commissioningOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -87,6 +95,17 @@ int main(int argc, char *argv[])
     if (unit != QLatin1String("c") && unit != QLatin1String("f"))
         return usageError(QStringLiteral("--unit must be c or f, not \"%1\"").arg(unit));
     options.unit = unit.toLatin1();
+
+    options.stepMs = parser.value(stepOption).toInt(&ok);
+    if (!ok || options.stepMs <= 0)
+        return usageError(QStringLiteral("--step-ms needs a positive number of milliseconds, not \"%1\"").arg(parser.value(stepOption)));
+
+    if (parser.isSet(selftestFailOption)) {
+        options.selftestFailRow = parser.value(selftestFailOption).toLatin1();
+        if (!Hx3Controller::isSelfTestRow(options.selftestFailRow))
+            return usageError(QStringLiteral("--selftest-fail must be door, heater or cooling, not \"%1\"").arg(parser.value(selftestFailOption)));
+    }
+    options.commissioning = parser.isSet(commissioningOption);
 
     int runForMs = -1;
     if (parser.isSet(runForOption)) {

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/pageinterface.h"
+
+namespace ovra {
+namespace Mainwindow {
+
+using Page = GlobalElements::Pageinterface::en_pages;
+
+// Where the user came from, as far as the back button needs to know.
+struct PageOrigins
+{
+    Page playOrigin = Page::StartUp;
+    Page editorOrigin = Page::StartUp;
+    Page selftestOrigin = Page::StartUp;
+    Page filterOrigin = Page::StartUp;
+    Page hitlistOrigin = Page::StartUp;
+    Page deviceDataOrigin = Page::StartUp;
+};
+
+// The navigation tables, free of widgets so that they can be read and tested on their own.
+namespace PageTables {
+
+// German source text of a page's title, for translation in the main window's context;
+// nullptr for the start page and for the pages titled with a program name.
+const char *Title(Page page);
+
+// Target of the back button for the page the stack shows (any index, also unknown ones).
+Page BackTarget(int shownPage, const PageOrigins &origins);
+
+// Target of the forward button for the page the stack shows.
+Page ForwardTarget(int shownPage);
+
+// Whether `from` is remembered as the origin when `to` is entered.
+bool RemembersPlayOrigin(int from);
+bool RemembersEditorOrigin(Page to, int from);
+
+} // namespace PageTables
+} // namespace Mainwindow
+} // namespace ovra

@@ -1,0 +1,137 @@
+// Failures reported by the controller and the self-test page.
+#include "app/captions.h"
+#include "app/mainwindow.h"
+#include "communication/messagehandler.h"
+#include "faults/errorhandler.h"
+#include "faults/failureseverity.h"
+#include "faults/popupfailure.h"
+#include "ui_mainwindow.h"
+
+namespace ovra {
+namespace Mainwindow {
+
+void MainWindow::Slot_StartSelftest()
+{
+    // Never during a firing.
+    if (m_currentPage == Page::ProcessProg)
+        return;
+    Statemachine(Page::Selftest);
+    m_messageHandler->SetRequest(QStringLiteral("redost"));
+}
+
+void MainWindow::SlotServiceSelftest()
+{
+    m_messageHandler->SetRequest(QStringLiteral("redost"));
+}
+
+void MainWindow::PreparePageSelftest()
+{
+    for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling})
+        row->SetIconResult(QStringLiteral("delete"));
+    m_doorCounted = m_heaterCounted = m_coolingCounted = false;
+    ui->widget_redoSelftest->setVisible(false);
+    ui->widget_exitSelftest->setVisible(false);
+    ui->widget_backSelftest->setVisible(false);
+    ui->widget_redoSelftest->SetText(Caption(Captions::SystemtestWiederholen));
+    ui->widget_testDoor->SetText(Caption(Captions::Tuermechanik));
+    ui->widget_testHeatsystem->SetText(Caption(Captions::Heizsystem));
+    ui->widget_testCooling->SetText(Caption(Captions::Kuehlsystem));
+    ui->progressBar_selftest->setValue(0);
+}
+
+void MainWindow::SlotIncreaseSelftestProgress(const QString &)
+{
+    // Each row counts once per page entry, whatever its result.
+    int add = 0;
+    const QObject *row = sender();
+    if (row == ui->widget_testHeatsystem && !m_heaterCounted) {
+        add += 25;
+        m_heaterCounted = true;
+    }
+    if (row == ui->widget_testCooling && !m_coolingCounted) {
+        add += 25;
+        m_coolingCounted = true;
+    }
+    if (row == ui->widget_testDoor && !m_doorCounted) {
+        add += 25;
+        m_doorCounted = true;
+    }
+    ui->progressBar_selftest->setValue(ui->progressBar_selftest->value() + add);
+}
+
+void MainWindow::SlotSelftestResult(const QString &result)
+{
+    if (result != m_selftestPassWord) {
+        ui->widget_redoSelftest->setVisible(true);
+        ui->widget_exitSelftest->setVisible(true);
+        return;
+    }
+    if (m_origins.selftestOrigin == Page::Service) {
+        ui->widget_backSelftest->setVisible(true);
+        ui->widget_redoSelftest->setVisible(true);
+        ui->widget_exitSelftest->setVisible(true);
+        ui->widget_exitSelftest->setEnabled(true);
+        return;
+    }
+    Statemachine(m_initialStartup ? Page::LangSelect : Page::MainMenu);
+}
+
+void MainWindow::SlotErrorHandling(const QString &codes)
+{
+    for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts)) {
+        m_errorHandler->AddError(code);
+        const QString line = ui->label_Date->text() + QStringLiteral(", ") + ui->widget_time->GetText()
+                             + QStringLiteral(": ") + code + QLatin1Char('\n');
+        ui->textEdit_FailureList->setPlainText(line + ui->textEdit_FailureList->toPlainText());
+    }
+}
+
+void MainWindow::SlotResetError(const QString &codes)
+{
+    for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts))
+        m_errorHandler->ResetError(code);
+}
+
+void MainWindow::ErrorHandling()
+{
+    const QString list = m_errorHandler->GetErrorList();
+    const bool any = !list.isEmpty();
+    for (QWidget *w : std::initializer_list<QWidget *>{ui->pushButton_info, ui->textEdit_test,
+                                                       ui->textEdit_mainMenu, ui->pushButton_infoMainMenu})
+        w->setVisible(any);
+
+    QString icon;
+    if (!any) {
+        ui->widget_processErrorInfo->setEnabled(false);
+        ui->widget_processErrorInfo->setVisible(false);
+    } else {
+        icon = GlobalElements::FailureSeverity::WorstIcon(list.split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+        ui->widget_processErrorInfo->setEnabled(true);
+        ui->widget_processErrorInfo->setVisible(true);
+    }
+    ui->pushButton_info->setIcon(QIcon(icon));
+    ui->pushButton_infoMainMenu->setIcon(QIcon(icon));
+    ui->widget_processError->setStyleSheet(icon.isEmpty() ? QString()
+                                                          : QStringLiteral("background-image: url(%1);").arg(icon));
+    ui->textEdit_test->setPlainText(list);
+    ui->textEdit_mainMenu->setPlainText(list);
+    m_popupFailure->SetFailurePopupText(m_errorHandler->GetProcessErrorList());
+}
+
+void MainWindow::SlotDeleteFailure()
+{
+    ui->textEdit_FailureList->clear();
+    ui->textEdit_test->clear();
+    ui->textEdit_test->setVisible(false);
+    ui->textEdit_mainMenu->clear();
+    ui->textEdit_mainMenu->setVisible(false);
+    ui->widget_processErrorInfo->setEnabled(false);
+    m_popupFailure->SetFailurePopupText(QString());
+    m_errorHandler->DeleteErrorListByService();
+    ui->pushButton_info->setVisible(false);
+    ui->pushButton_infoMainMenu->setVisible(false);
+    m_messageHandler->SetRequest(QStringLiteral("deletefailurelist"));
+}
+
+} // namespace Mainwindow
+} // namespace ovra

@@ -1,0 +1,26 @@
+#include "settings/languages.h"
+
+namespace ovra {
+namespace Settings {
+
+const QList<Language> &Languages()
+{
+    static const QList<Language> table = {
+        {QStringLiteral("Deutsch"), QStringLiteral("deutsch"), QStringLiteral("deutsch"), QStringLiteral("translation_de.qm"), true},
+        {QStringLiteral("English US"), QStringLiteral("englischUS"), QStringLiteral("englischUS"), QStringLiteral("translation_en_US.qm"), true},
+        {QStringLiteral("English UK"), QStringLiteral("englischUK"), QStringLiteral("englischUK"), QStringLiteral("translation_en_UK.qm"), false},
+        {QStringLiteral("Español"), QStringLiteral("spanisch"), QStringLiteral("spanisch"), QStringLiteral("translation_es.qm"), true},
+        {QStringLiteral("Français"), QStringLiteral("franzoesisch"), QStringLiteral("franzoesisch"), QStringLiteral("translation_fr.qm"), true},
+        {QStringLiteral("Italiano"), QStringLiteral("italienisch"), QStringLiteral("italienisch"), QStringLiteral("translation_it.qm"), true},
+        {QStringLiteral("日本の"), QStringLiteral("japanisch"), QStringLiteral("japanisch"), QStringLiteral("translation_jp.qm"), false},
+        {QStringLiteral("한국의"), QStringLiteral("koreanisch"), QStringLiteral("koreanisch"), QStringLiteral("translation_kr.qm"), false},
+        {QStringLiteral("Português"), QStringLiteral("portugisisch"), QStringLiteral("portugisisch"), QStringLiteral("translation_br.qm"), true},
+        {QStringLiteral("Pусский"), QStringLiteral("russisch"), QStringLiteral("russisch"), QStringLiteral("translation_ru.qm"), false},
+        {QStringLiteral("中國"), QStringLiteral("chinesisch"), QStringLiteral("chinesishc"), QStringLiteral("translation_cn.qm"), false},
+        {QStringLiteral("台灣"), QStringLiteral("taiwanesisch"), QStringLiteral("taiwanesisch"), QStringLiteral("translation_tw.qm"), false},
+    };
+    return table;
+}
+
+} // namespace Settings
+} // namespace ovra

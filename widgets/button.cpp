@@ -1,0 +1,155 @@
+#include "widgets/button.h"
+
+#include "widgets/captionfit.h"
+
+#include <QEvent>
+#include <QIcon>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QVBoxLayout>
+
+namespace ovra {
+namespace GlobalElements {
+
+const char *const Button::captionSizeProperty = "captionSize";
+
+Button::Button(QWidget *parent)
+    : QWidget(parent)
+    , m_button(new QPushButton(this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_button);
+
+    // The tile decides its own size; the caption it carries must not push the layout around
+    // each time it is refitted.
+    m_button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    m_button->setFocusPolicy(Qt::NoFocus);
+    m_button->setIconSize(QSize(iconSide, iconSide));
+    m_button->installEventFilter(this);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+
+    connect(m_button, &QPushButton::clicked, this, [this] { emit SignalButtonClicked(m_nextPage); });
+    connect(m_button, &QPushButton::toggled, this, &Button::SignalToggled);
+}
+
+void Button::SetText(const QString &text)
+{
+    m_caption = text;
+    RefitCaption();
+}
+
+QString Button::GetText() const
+{
+    return m_caption;
+}
+
+void Button::SetIcon(const QString &resourcePath)
+{
+    m_iconPath = resourcePath;
+    m_button->setIcon(resourcePath.isEmpty() ? QIcon() : QIcon(resourcePath));
+    RefitCaption();
+}
+
+void Button::SetNextPageIndex(Pageinterface::en_pages page)
+{
+    m_nextPage = page;
+}
+
+void Button::SetCheckable(bool checkable)
+{
+    m_button->setCheckable(checkable);
+}
+
+void Button::SetChecked(bool checked)
+{
+    m_button->setChecked(checked);
+}
+
+bool Button::IsChecked() const
+{
+    return m_button->isChecked();
+}
+
+QSize Button::sizeHint() const
+{
+    return QSize(240, 80);
+}
+
+QSize Button::minimumSizeHint() const
+{
+    return QSize(120, 64);
+}
+
+bool Button::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_button) {
+        switch (event->type()) {
+        case QEvent::Resize:
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+        case QEvent::Polish:
+            RefitCaption();
+            break;
+        default:
+            break;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Button::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
+        RefitCaption();
+    QWidget::changeEvent(event);
+}
+
+void Button::RefitCaption()
+{
+    // Re-polishing for a new caption size sends a font change back through the filter.
+    if (m_refitting)
+        return;
+    m_refitting = true;
+
+    // The style sheet's padding and font only count once the button is polished.
+    m_button->ensurePolished();
+
+    QStyleOptionButton option;
+    option.initFrom(m_button);
+    option.rect = m_button->rect();
+    const QRect room = m_button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, m_button);
+    int width = room.width();
+    if (!m_button->icon().isNull())
+        width -= iconSide + iconGap;
+
+    // German captions are long: a slightly smaller caption reads better than a shortened
+    // one, so the sizes are tried from large to small before anything is elided.
+    QFont font = m_button->font();
+    QString fitted;
+    bool elided = true;
+    int chosen = captionPixelSizes.front();
+    for (const int pixels : captionPixelSizes) {
+        font.setPixelSize(pixels);
+        const QFontMetrics metrics(font);
+        const int maxLines = qBound(1, room.height() / qMax(1, metrics.lineSpacing()), 2);
+        fitted = CaptionFit::Fit(m_caption, metrics, width, maxLines, &elided);
+        chosen = pixels;
+        if (!elided)
+            break;
+    }
+
+    if (m_button->property(captionSizeProperty).toInt() != chosen) {
+        m_button->setProperty(captionSizeProperty, chosen);
+        m_button->style()->unpolish(m_button);
+        m_button->style()->polish(m_button);
+    }
+    if (m_button->text() != fitted)
+        m_button->setText(fitted);
+    m_button->setToolTip(elided ? CaptionFit::DisplayText(m_caption) : QString());
+    m_refitting = false;
+}
+
+} // namespace GlobalElements
+} // namespace ovra

@@ -1,0 +1,119 @@
+#include "widgets/captionfit.h"
+
+#include <QFontMetrics>
+#include <QStringList>
+
+namespace ovra {
+namespace GlobalElements {
+
+QString CaptionFit::DisplayText(const QString &caption)
+{
+    QString out;
+    out.reserve(caption.size());
+    for (int i = 0; i < caption.size(); ++i) {
+        if (caption.at(i) == QLatin1Char('&')) {
+            // "&&" is a literal ampersand; a single one only marks the next letter.
+            if (i + 1 < caption.size() && caption.at(i + 1) == QLatin1Char('&')) {
+                out += QLatin1Char('&');
+                ++i;
+            }
+            continue;
+        }
+        out += caption.at(i);
+    }
+    return out;
+}
+
+QString CaptionFit::Escape(const QString &displayText)
+{
+    QString out = displayText;
+    out.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return out;
+}
+
+namespace {
+
+// A piece of the caption that is never split, and whether a space separates it from the
+// piece before. Hyphenated compounds ("Service-Funktionen") may break after the hyphen.
+struct Piece
+{
+    QString text;
+    bool spaceBefore;
+};
+
+QList<Piece> SplitIntoPieces(const QString &text)
+{
+    QList<Piece> pieces;
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        bool first = true;
+        int from = 0;
+        for (int i = 0; i < word.size(); ++i) {
+            // Only a hyphen between letters is a break opportunity, not a leading "-5".
+            if (word.at(i) == QLatin1Char('-') && i > 0 && i + 1 < word.size()) {
+                pieces.append({word.mid(from, i + 1 - from), first});
+                first = false;
+                from = i + 1;
+            }
+        }
+        pieces.append({word.mid(from), first});
+    }
+    return pieces;
+}
+
+QString Joined(const QString &line, const Piece &piece)
+{
+    if (line.isEmpty())
+        return piece.text;
+    return piece.spaceBefore ? line + QLatin1Char(' ') + piece.text : line + piece.text;
+}
+
+} // namespace
+
+QString CaptionFit::Fit(const QString &caption, const QFontMetrics &metrics, int width, int maxLines,
+                        bool *elided)
+{
+    const QString text = DisplayText(caption).simplified();
+    bool dropped = false;
+    if (maxLines < 1)
+        maxLines = 1;
+    if (width < 1)
+        width = 1;
+
+    QStringList lines;
+    const QList<Piece> pieces = SplitIntoPieces(text);
+    int next = 0;
+    while (next < pieces.size()) {
+        if (lines.size() == maxLines - 1) {
+            // Last line: whatever is left, shortened if it has to be.
+            QString rest;
+            for (int i = next; i < pieces.size(); ++i)
+                rest = Joined(rest, pieces.at(i));
+            const QString shown = metrics.elidedText(rest, Qt::ElideRight, width);
+            dropped = dropped || shown != rest;
+            lines << shown;
+            break;
+        }
+        QString line = pieces.at(next++).text;
+        while (next < pieces.size()) {
+            const QString longer = Joined(line, pieces.at(next));
+            if (metrics.horizontalAdvance(longer) > width)
+                break;
+            line = longer;
+            ++next;
+        }
+        if (metrics.horizontalAdvance(line) > width) {
+            // One word wider than the button: it gets a line of its own, shortened.
+            line = metrics.elidedText(line, Qt::ElideRight, width);
+            dropped = true;
+        }
+        lines << line;
+    }
+
+    if (elided)
+        *elided = dropped;
+    return Escape(lines.join(QLatin1Char('\n')));
+}
+
+} // namespace GlobalElements
+} // namespace ovra
