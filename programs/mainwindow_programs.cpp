@@ -8,7 +8,10 @@ namespace ovra {
 namespace Mainwindow {
 
 void MainWindow::PreparePageMyHitlist() {}
-void MainWindow::PreparePageMyPrograms() {}
+void MainWindow::PreparePageMyPrograms()
+{
+    ui->widget_myProgsNew->SetText(Caption(Captions::NeuesProgramm));
+}
 void MainWindow::PreparePageFixPrograms() {}
 void MainWindow::PreparePageServicePrograms() {}
 void MainWindow::PreparePageChangeProgram(const QString &) {}

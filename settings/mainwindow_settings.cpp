@@ -17,16 +17,26 @@ void MainWindow::PreparePageLanguageSelect()
         ui->widget_Lang5, ui->widget_Lang6, ui->widget_Lang7,  ui->widget_Lang8,
         ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12};
     const QList<Settings::Language> &languages = Settings::Languages();
-    for (int i = 0; i < buttons.size(); ++i) {
-        buttons.at(i)->SetText(languages.at(i).label);
-        buttons.at(i)->setVisible(languages.at(i).offered);
+    // The offered languages close ranks in the grid; the others keep their places behind them.
+    int cell = 0;
+    for (bool offered : {true, false}) {
+        for (int i = 0; i < buttons.size(); ++i) {
+            if (languages.at(i).offered != offered)
+                continue;
+            buttons.at(i)->SetText(languages.at(i).label);
+            buttons.at(i)->setVisible(offered);
+            ui->gridLayout_lang->addWidget(buttons.at(i), cell / 3, cell % 3);
+            ++cell;
+        }
     }
 }
 
 void MainWindow::PreparePageUnitSelect()
 {
-    ui->widget_UnitC->SetText(QStringLiteral("°C"));
-    ui->widget_UnitF->SetText(QStringLiteral("°F"));
+    ui->widget_UnitC->SetText(tr("°C  Celsius"));
+    ui->widget_UnitF->SetText(tr("°F  Fahrenheit"));
+    ui->widget_UnitC->SetIcon(QStringLiteral(":/Icons/unit.png"));
+    ui->widget_UnitF->SetIcon(QStringLiteral(":/Icons/unit.png"));
     ui->widget_UnitC->SetCheckable(true);
     ui->widget_UnitF->SetCheckable(true);
     ui->widget_UnitC->SetChecked(!m_fahrenheit);
@@ -72,6 +82,7 @@ void MainWindow::SlotResetDeviceSettings(bool confirmed)
 
 void MainWindow::PreparePageUSBMenu()
 {
+    ui->pushButton_USBProgress->setText(tr("Bereit"));
     ui->widget_USBMenuFWUpdate->SetText(Caption(Captions::FirmwareAktualisierung));
     ui->widget_USBMenuConfigUpdate->SetText(Caption(Captions::KonfigurationAktualisieren));
     ui->widget_USBMenuLoadMyProgs->SetText(Caption(Captions::MeineProgrammeLaden));

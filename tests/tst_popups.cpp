@@ -18,6 +18,7 @@
 #include "popups/popupusb.h"
 #include "popups/timerpopup.h"
 
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -166,6 +167,14 @@ private:
 void TstPopups::initTestCase()
 {
     Q_INIT_RESOURCE(resources);
+    // Sizes come out as on the panel only with the panel's style (it sets minimum heights).
+    QString style;
+    for (const char *path : {":/style/panel.qss", ":/style/popups.qss"}) {
+        QFile file(QString::fromLatin1(path));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        style += QString::fromUtf8(file.readAll());
+    }
+    qApp->setStyleSheet(style);
 }
 
 void TstPopups::init()

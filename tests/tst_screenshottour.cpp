@@ -1,0 +1,52 @@
+// The screenshot tour renders every page and popup; each picture is 800x480 and not blank.
+#include "app/mainwindow.h"
+#include "tools/screenshots/screenshottour.h"
+
+#include <QDialog>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+} // namespace
+
+class TestScreenshotTour : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyPageAndPopupIsRendered();
+};
+
+void TestScreenshotTour::everyPageAndPopupIsRendered()
+{
+    Q_INIT_RESOURCE(resources);
+    qInstallMessageHandler(quiet);
+    QTemporaryDir home;
+    ovra::GlobalElements::PanelOptions options;
+    options.port = home.path() + QStringLiteral("/no-line");
+    options.home = home.path();
+    options.keyPort = 0;
+    ovra::Mainwindow::MainWindow window(options);
+
+    // Kept in the build folder so that a person can look at them after the run.
+    const QString folder = QStringLiteral(OVRA_BINARY_DIR "/screenshots");
+    const QStringList files = ovra::Tools::ScreenshotTour(&window, folder).Run();
+    // Splash, 26 pages, two full-screen notices and every popup of the window.
+    const int popups = window.findChildren<QDialog *>().size();
+    QCOMPARE(files.size(), 1 + 26 + 2 + popups);
+    for (const QString &file : files) {
+        const QImage image(file);
+        QCOMPARE(image.size(), QSize(800, 480));
+        // A real page has more than a handful of colours.
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); y += 7)
+            for (int x = 0; x < image.width(); x += 7)
+                colours.insert(image.pixel(x, y));
+        QVERIFY2(colours.size() > 8, qPrintable(file));
+    }
+}
+
+QTEST_MAIN(TestScreenshotTour)
+#include "tst_screenshottour.moc"

@@ -1,0 +1,151 @@
+// The panel's start-up against the controller simulator over a pseudo-terminal: splash,
+// device data, the automatic self-test, the main menu, and the commissioning walk.
+#include "app/mainwindow.h"
+#include "ui_mainwindow.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using ovra::Mainwindow::MainWindow;
+using ovra::Mainwindow::Page;
+
+namespace {
+void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+// The simulator as a child process, with its printed lines collected.
+class Simulator
+{
+public:
+    explicit Simulator(const QStringList &arguments)
+    {
+        m_process.start(QStringLiteral(OVRA_BINARY_DIR "/tools/hx3sim/hx3sim"),
+                        QStringList{QStringLiteral("--interval"), QStringLiteral("200"),
+                                    QStringLiteral("--step-ms"), QStringLiteral("60")}
+                            + arguments);
+    }
+    ~Simulator()
+    {
+        m_process.write("quit\n");
+        if (!m_process.waitForFinished(3000))
+            m_process.kill();
+    }
+
+    QString SlavePath()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (timer.elapsed() < 5000) {
+            Collect();
+            for (const QString &line : qAsConst(m_lines)) {
+                if (line.startsWith(QLatin1String("slave: ")))
+                    return line.mid(7);
+            }
+            m_process.waitForReadyRead(100);
+        }
+        return QString();
+    }
+
+    bool Printed(const QString &line)
+    {
+        Collect();
+        return m_lines.contains(line);
+    }
+
+private:
+    void Collect()
+    {
+        while (m_process.canReadLine())
+            m_lines << QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+
+    QProcess m_process;
+    QStringList m_lines;
+};
+} // namespace
+
+class TestStartUp : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void automaticSelftestLeadsToTheMainMenu();
+    void commissioningWalksTheSettingsPages();
+
+private:
+    MainWindow *makeWindow(const QString &port, QTemporaryDir &home);
+};
+
+void TestStartUp::initTestCase()
+{
+    Q_INIT_RESOURCE(resources);
+    qInstallMessageHandler(quiet);
+}
+
+MainWindow *TestStartUp::makeWindow(const QString &port, QTemporaryDir &home)
+{
+    ovra::GlobalElements::PanelOptions options;
+    options.port = port;
+    options.home = home.path();
+    options.keyPort = 0;
+    options.selftestDelayMs = 300; // stands for the furnace's 7000 ms
+    auto *window = new MainWindow(options);
+    window->show();
+    return window;
+}
+
+void TestStartUp::automaticSelftestLeadsToTheMainMenu()
+{
+    Simulator sim({});
+    const QString slave = sim.SlavePath();
+    QVERIFY(!slave.isEmpty());
+    QTemporaryDir home;
+    QScopedPointer<MainWindow> window(makeWindow(slave, home));
+    Ui::MainWindow *ui = window->GetUi();
+    QCOMPARE(ui->stackedWidget_main->currentIndex(), 1); // the splash until the oven speaks
+
+    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::DeviceData, 10000);
+    QCOMPARE(ui->stackedWidget_main->currentIndex(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(ui->widget_Data1->GetText(), QStringLiteral("Ovra S1"), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::Selftest, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("request: redost")), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(ui->progressBar_selftest->value(), 75, 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("request: guistate==3")), 5000);
+    QCOMPARE(ui->label_Name->text(), QStringLiteral("HAUPTMENÜ"));
+    QVERIFY(ui->widget_temp->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!ui->label_Time->text().isEmpty(), 5000);
+}
+
+void TestStartUp::commissioningWalksTheSettingsPages()
+{
+    Simulator sim({QStringLiteral("--commissioning")});
+    const QString slave = sim.SlavePath();
+    QVERIFY(!slave.isEmpty());
+    QTemporaryDir home;
+    QScopedPointer<MainWindow> window(makeWindow(slave, home));
+    Ui::MainWindow *ui = window->GetUi();
+
+    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::LangSelect, 10000);
+    QVERIFY(window->IsInitialStartup());
+    QVERIFY(!window->IsSelftestPending());
+
+    auto press = [](QWidget *kit) { QTest::mouseClick(kit->findChild<QAbstractButton *>(), Qt::LeftButton); };
+    press(ui->widget_fwdLang);
+    QCOMPARE(window->CurrentPage(), Page::UnitSelect);
+    press(ui->widget_UnitF);
+    press(ui->widget_fwdUnit);
+    press(ui->widget_fwdDateTime);
+    QCOMPARE(window->CurrentPage(), Page::DeviceData2);
+    press(ui->widget_fwdDeviceData2);
+    QCOMPARE(window->CurrentPage(), Page::Settings);
+
+    // The controller closes the commissioning with the main menu.
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("unit: f")), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("commissioning done")), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 5000);
+}
+
+QTEST_MAIN(TestStartUp)
+#include "tst_startup.moc"
