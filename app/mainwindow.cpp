@@ -19,6 +19,8 @@
 #include "popups/popuptimeadjust.h"
 #include "popups/popupusb.h"
 #include "popups/timerpopup.h"
+#include "programs/newprogram.h"
+#include "programs/programhandler.h"
 #include "ui_mainwindow.h"
 
 #include <QApplication>
@@ -50,6 +52,7 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     ConnectComponents();
     ConnectNavigation();
     ConnectPageButtons();
+    ConnectPrograms();
 
     ui->stackedWidget_main->setCurrentIndex(1);
     ui->widget_timerPlayProg->SetCheckable(true);
@@ -68,8 +71,21 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     RewriteExternalScripts();
 }
 
-// The parentless core objects live until the process ends, which follows at once.
-MainWindow::~MainWindow() = default;
+// The parentless core objects are freed here too, so that a leak checker sees a clean exit;
+// the line goes first, its handler after it.
+MainWindow::~MainWindow()
+{
+    delete m_communicator;
+    delete m_internalCommunicator;
+    delete m_messageHandler;
+    delete m_programHandler;
+    delete m_errorHandler;
+    delete m_unusedPulseTimer;
+    delete m_preDryPulseTimer;
+    delete m_playEnableTimer;
+    delete m_selftestStartTimer;
+    delete ui;
+}
 
 bool MainWindow::IsSelftestPending() const
 {
@@ -106,6 +122,7 @@ void MainWindow::CreateComponents()
     m_popupUSB = new Popups::PopupUSB(this);
     m_popupQRCode = new Popups::PopupQRCode(this);
     m_popupArgonFailure = new Popups::PopupArgonFailure(this);
+    m_programHandler = new ProgramHandler::ProgramHandler();
     m_messageHandler = new MessageHandler();
     m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port);
     m_internalCommunicator = new Communication::InternalCommunicator(nullptr, m_options.keyPort);
@@ -115,8 +132,9 @@ void MainWindow::CreateComponents()
 
 void MainWindow::CreateTimers()
 {
-    // A first pulse timer was always made and replaced at once; it is never used.
-    m_preDryPulseTimer = new QTimer();
+    // A first pulse timer has always been made and replaced at once; it is never used.
+    m_unusedPulseTimer = new QTimer();
+    m_unusedPulseTimer->setInterval(1000);
     m_preDryPulseTimer = new QTimer();
     m_preDryPulseTimer->setInterval(1000);
     connect(m_preDryPulseTimer, &QTimer::timeout, this, &MainWindow::PulsePreDryTimeout);

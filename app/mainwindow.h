@@ -8,6 +8,7 @@
 #include <QStringList>
 
 class QTimer;
+class QVBoxLayout;
 
 namespace Ui {
 class MainWindow;
@@ -20,8 +21,14 @@ class InternalCommunicator;
 class MessageHandler;
 } // namespace Communication
 namespace GlobalElements {
+class Button;
 class ErrorHandler;
+class Program;
+class ProgramButton;
 } // namespace GlobalElements
+namespace ProgramHandler {
+class ProgramHandler;
+} // namespace ProgramHandler
 namespace Popups {
 class Popup;
 class PopupArgonFailure;
@@ -54,6 +61,8 @@ public:
     Communication::Communicator *GetCommunicator() const { return m_communicator; }
     Communication::InternalCommunicator *GetInternalCommunicator() const { return m_internalCommunicator; }
     GlobalElements::ErrorHandler *GetErrorHandler() const { return m_errorHandler; }
+    ProgramHandler::ProgramHandler *GetProgramHandler() const { return m_programHandler; }
+    const QList<GlobalElements::ProgramButton *> &GetProgramButtons() const { return m_programButtons; }
     Ui::MainWindow *GetUi() const { return ui; }
     Page CurrentPage() const { return m_currentPage; }
     bool IsEditMode() const { return m_editMode; }
@@ -91,6 +100,16 @@ public slots:
     void SlotResetError(const QString &codes);
     void ErrorHandling();
     void SlotDeleteFailure();
+
+    // Programs: list pages, filters, favourites, deletion, change.
+    void Slot_ShowChoosenProgram(ovra::GlobalElements::Program *program,
+                                 ovra::GlobalElements::Pageinterface::en_pages page);
+    void SlotSetProgToFav(bool on, ovra::GlobalElements::Program *program);
+    void SlotDeleteProg();
+    void SlotChangeProg();
+    void CheckChangeInProcess(const QString &message);
+    void SlotCheckHeatfileCount(int count);
+    void Slot_MaterialSelected(const QString &material);
 
     // Temperature and door.
     void SlotTempReceived(const QString &temperature);
@@ -148,6 +167,11 @@ private:
     void PreparePagePlay(int from);
     void PreparePageProcess();
     void SetDeviceDataCaptions();
+    void ClearProgramButtons();
+    void FillProgramList(QVBoxLayout *layout, QList<GlobalElements::Program *> *programs);
+    void AddFilterButtons(QVBoxLayout *layout, QList<GlobalElements::Button *> &buttons, bool byManufacturer);
+    void CheckForFilterOption(QList<GlobalElements::Program *> &programs) const;
+    void ConnectPrograms();
     void RewriteExternalScripts();
 
     Ui::MainWindow *ui;
@@ -167,12 +191,14 @@ private:
     Popups::PopupUSB *m_popupUSB = nullptr;
     Popups::PopupQRCode *m_popupQRCode = nullptr;
     Popups::PopupArgonFailure *m_popupArgonFailure = nullptr;
+    ProgramHandler::ProgramHandler *m_programHandler = nullptr;
     Communication::MessageHandler *m_messageHandler = nullptr;
     Communication::Communicator *m_communicator = nullptr;
     Communication::InternalCommunicator *m_internalCommunicator = nullptr;
     Popups::PopupDeleteProgram *m_popupDeleteProgram = nullptr;
     Popups::PopupTempWarning *m_popupTempWarning = nullptr;
 
+    QTimer *m_unusedPulseTimer = nullptr;
     QTimer *m_preDryPulseTimer = nullptr;
     QTimer *m_playEnableTimer = nullptr;
     QTimer *m_selftestStartTimer = nullptr;
@@ -191,6 +217,14 @@ private:
     float m_lastTemp = 0.0f;
     bool m_doorClosed = false;
     const QString m_selftestPassWord = QStringLiteral("pass");
+
+    // Program pages.
+    QList<GlobalElements::ProgramButton *> m_programButtons;
+    QList<GlobalElements::Button *> m_manufacturerButtons;
+    QList<GlobalElements::Button *> m_materialButtons;
+    quint16 m_hfresendCount = 0;
+    bool m_saveAtOnce = false;
+    bool m_changeInProcess = false;
 
     // Navigation memory.
     Page m_currentPage = Page::StartUp;

@@ -2,6 +2,7 @@
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "programs/newprogram.h"
 #include "ui_mainwindow.h"
 
 #include <QTimer>
@@ -269,6 +270,7 @@ void MainWindow::SetDeviceDataCaptions()
 
 void MainWindow::SlotExitButtonClicked()
 {
+    ui->widget_newProg->ResetName();
     Statemachine(Page::MainMenu);
     m_editMode = false;
 }
@@ -276,8 +278,10 @@ void MainWindow::SlotExitButtonClicked()
 void MainWindow::SlotBackButtonClicked()
 {
     const int shown = ui->stackedWidget->currentIndex();
-    if (shown == Page::NewProg)
+    if (shown == Page::NewProg) {
         m_editMode = false;
+        ui->widget_newProg->ResetName();
+    }
     Statemachine(PageTables::BackTarget(shown, m_origins));
 }
 

@@ -29,8 +29,8 @@ void PopupLeaveNewProg::Translate()
 {
     ui->retranslateUi(this);
     ui->label_Message->setText(m_destination == Destination::MainMenu
-                                   ? tr("Programm nicht gespeichert! Zum Hauptmenü?")
-                                   : tr("Programm nicht gespeichert! Zurück?"));
+                                   ? tr("Programm nicht gespeichert!\nZum Hauptmenü?")
+                                   : tr("Programm nicht gespeichert!\nZurück?"));
 }
 
 void PopupLeaveNewProg::SlotOk()

@@ -169,6 +169,12 @@ void Chart::DeleteChart()
     ApplyYAxis();
 }
 
+void Chart::ClearProgress()
+{
+    m_progress.Reset();
+    ShowIdleProfile();
+}
+
 void Chart::SetHoldClock(std::unique_ptr<HoldClock> clock)
 {
     m_progress.SetClock(std::move(clock));

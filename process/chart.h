@@ -42,6 +42,8 @@ public:
                             unsigned int temperature);
     // Empties the profile, the fill and the x labels.
     void DeleteChart();
+    // Removes the fill of a previous firing and restarts hold timing; the profile stays.
+    void ClearProgress();
 
     bool GetInitChart() const { return m_initialized; }
     void SetInitialized() { m_initialized = true; }

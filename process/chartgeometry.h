@@ -108,6 +108,8 @@ public:
 
     void SetClock(std::unique_ptr<HoldClock> clock);
     unsigned int LastHoldStage() const { return m_lastStage; }
+    // A new firing times its holds afresh.
+    void Reset() { m_lastStage = 0; }
 
     struct Result
     {

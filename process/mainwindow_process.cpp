@@ -3,11 +3,16 @@
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
 #include "popups/popuptempwarning.h"
+#include "process/chart.h"
 #include "process/temperaturetext.h"
+#include "programs/program.h"
+#include "programs/programhandler.h"
 #include "ui_mainwindow.h"
 
 namespace ovra {
 namespace Mainwindow {
+
+using GlobalElements::Pageinterface;
 
 void MainWindow::ConnectProcessLink()
 {
@@ -15,8 +20,35 @@ void MainWindow::ConnectProcessLink()
     connect(m_messageHandler, &Communication::MessageHandler::SignalDoor, this, &MainWindow::SlotDoor);
 }
 
+void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pageinterface::en_pages page)
+{
+    if (program == nullptr)
+        return;
+    const bool play = page == Page::PlayProg;
+    GlobalElements::Chart *chart = play ? ui->widget_chart_play : ui->widget_chart_process;
+    GlobalElements::DisplayElementIcon *material = play ? ui->widget_materialPlay : ui->widget_materialProcess;
+
+    // A maker's program is shown only in outline.
+    const bool userProgram = program->GetManufacturer() == ProgramHandler::ProgramHandler::userManufacturer;
+    chart->CreateChart(program->GetMatrix(), !userProgram, m_fahrenheit);
+
+    material->SetText(program->GetMaterial());
+    QString materialText = program->GetMaterial();
+    material->SetIcon(materialText.remove(QLatin1Char(' ')) == QLatin1String("Argon") ? QStringLiteral(":/Play/Gas.png")
+                                                                                     : QString());
+    if (play) {
+        ui->widget_timerPlayProg->SetChecked(false);
+        ui->widget_playProgChange->setVisible(userProgram);
+        ui->widget_playProgDelete->setVisible(userProgram);
+    }
+    ui->label_Name->setText(program->GetName());
+    Statemachine(page);
+}
+
 void MainWindow::PreparePagePlay(int from)
 {
+    if (from != Page::ProcessProg)
+        ui->widget_chart_play->ClearProgress();
     ui->widget_playNewProg->SetChecked(false);
     ui->widget_timerPlayProg->SetChecked(false);
     ui->widget_timerPreDry->SetChecked(false);
@@ -32,6 +64,7 @@ void MainWindow::PreparePagePlay(int from)
 
 void MainWindow::PreparePageProcess()
 {
+    ui->widget_chart_process->ClearProgress();
     ui->widget_temp->setVisible(false);
     ui->widget_processErrorInfo->setEnabled(false);
     ui->widget_processErrorInfo->setVisible(false);

@@ -127,7 +127,6 @@ private:
     std::unique_ptr<Ui::NewProgram> ui;
 
     const int m_maxRows = ProgramTable::maxRows;
-    const int m_columns = ProgramTable::columns;
     QList<TableRow *> m_rows;
     std::unique_ptr<Program::Matrix> m_matrix;
     QString m_selectedMaterial;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+
+namespace ovra {
+namespace GlobalElements {
+
+class Program;
+
+// Narrows the user's program list to the chosen manufacturers and materials. The chosen
+// texts are compared exactly with the programs' values, as the filter buttons give them
+// (spaces removed), so a value that contains a space never matches its own button.
+namespace ProgramFilter {
+
+void Apply(QList<Program *> &programs, const QStringList &manufacturers, const QStringList &materials);
+
+// A filter button stands for a value when its text without spaces equals the value.
+bool ButtonMatches(const QString &buttonText, const QString &value);
+
+} // namespace ProgramFilter
+} // namespace GlobalElements
+} // namespace ovra

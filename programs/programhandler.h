@@ -1,0 +1,78 @@
+#pragma once
+
+#include "programs/program.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+namespace ovra {
+namespace ProgramHandler {
+
+// The one store of heat programs. It owns every Program in its list. A record that is
+// replaced or deleted is retired rather than freed, because a list page may still hold a
+// button for it; ReleaseRetired() frees them once the pages have been rebuilt. Lists
+// returned by the getters are new objects the caller deletes; the programs stay the store's.
+class ProgramHandler : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Program = GlobalElements::Program;
+
+    explicit ProgramHandler(QObject *parent = nullptr);
+    ~ProgramHandler() override;
+
+    QList<Program *> *GetProgramList();
+    // The last program of that name, or nullptr.
+    Program *GetProgramByName(const QString &name) const;
+    QList<Program *> *GetFavoriteProgramList() const;
+    QList<Program *> *GetFixProgramList() const;
+    // Despite the names these filter, keeping the store's order.
+    QList<Program *> *GetProgramListSortedByManufacturer(const QString &manufacturer) const;
+    QList<Program *> *GetProgramListSortedByMaterial(const QString &material) const;
+
+    // The next program from the editor may replace the stored one of the same name.
+    void SetChangeActive();
+    // The next heatfile goes out as a change of the running program ("hpchange==").
+    void SetChangeInProcess();
+    bool IsChangeActive() const { return m_changeActive; }
+    bool IsChangeInProcess() const { return m_changeInProcess; }
+
+    void ParseProgToString(Program *prog);
+
+    // Frees retired records; call when no page holds a program pointer from before.
+    void ReleaseRetired();
+    int RetiredCount() const { return m_retired.size(); }
+
+    static const QString userManufacturer;
+    static const QString serviceManufacturer;
+
+signals:
+    void SignalSendProgToHX3(const QString &heatfile);
+    void SignalAddToRequest(const QString &request);
+    void SignalShowProg(ovra::GlobalElements::Program *prog);
+
+public slots:
+    void Slot_AddProgramToList(ovra::GlobalElements::Program *prog);
+    void Slot_AddReceivedProgram(ovra::GlobalElements::Program *prog);
+    void Slot_SetProgramToFav(ovra::GlobalElements::Program *prog);
+    void Slot_DeleteProgramFromFavoriteList(ovra::GlobalElements::Program *prog);
+    void Slot_DeleteProgramFromList(const QString &name);
+
+private:
+    int LastIndexOf(const QList<Program *> &list, const QString &name) const;
+    // Puts `fresh` where `old` stood in the program and favourites lists; retires `old`.
+    void Replace(int index, Program *fresh);
+    void Retire(Program *prog);
+    QList<Program *> *Filtered(bool (*keep)(const Program *, const QString &), const QString &value) const;
+
+    QList<Program *> m_programs;
+    QList<Program *> m_favorites;
+    QList<Program *> m_retired;
+    bool m_changeActive = false;
+    bool m_changeInProcess = false;
+};
+
+} // namespace ProgramHandler
+} // namespace ovra

@@ -1,0 +1,224 @@
+// The program pages with a real window: programs from the controller are listed by class,
+// favoured, filtered, shown, deleted; short counts are asked for again, ten times at most.
+#include "app/mainwindow.h"
+#include "communication/frame.h"
+#include "communication/messagehandler.h"
+#include "process/chart.h"
+#include "programs/programhandler.h"
+#include "ui_mainwindow.h"
+#include "widgets/programbutton.h"
+
+#include <QtTest>
+
+using ovra::GlobalElements::Program;
+using ovra::GlobalElements::ProgramButton;
+using ovra::Mainwindow::MainWindow;
+using ovra::Mainwindow::Page;
+namespace Frame = ovra::Communication::Frame;
+
+namespace {
+void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+QByteArray heatfile(const QString &name, const QString &maker, const QString &material, bool fav)
+{
+    return QStringLiteral("heatfile==[metainfo];name=%1;manufacturer=%2;material=%3;favorite=%4;"
+                          "[1];rate=10;temp=1273;hold=600;[2];rate=5;temp=1723;hold=1800;")
+        .arg(name, maker, material, fav ? QStringLiteral("true") : QStringLiteral("false"))
+        .toUtf8();
+}
+} // namespace
+
+class TestProgramPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void listsByClass();
+    void favouriteToggleTellsTheController();
+    void receivedFavouritesAreEchoed();
+    void filtersNarrowTheUserList();
+    void showingAndDeletingAProgram();
+    void replacedProgramOnAShownListStaysSafe();
+    void resendIsAskedForTenTimesAtMost();
+
+private:
+    QStringList send(const QByteArray &fields);
+    QStringList listed() const;
+    void click(QWidget *kit);
+
+    QScopedPointer<QTemporaryDir> m_home;
+    QScopedPointer<MainWindow> m_window;
+    Ui::MainWindow *ui = nullptr;
+};
+
+void TestProgramPages::initTestCase()
+{
+    Q_INIT_RESOURCE(resources);
+    qInstallMessageHandler(quiet);
+}
+
+void TestProgramPages::init()
+{
+    m_home.reset(new QTemporaryDir);
+    ovra::GlobalElements::PanelOptions options;
+    options.port = m_home->path() + QStringLiteral("/no-line");
+    options.home = m_home->path();
+    options.keyPort = 0;
+    m_window.reset(new MainWindow(options));
+    ui = m_window->GetUi();
+    m_window->show();
+    send(heatfile(QStringLiteral("Mein Speed"), QStringLiteral("user"), QStringLiteral("Zirkon"), true));
+    send(heatfile(QStringLiteral("Mein Argon"), QStringLiteral("user"), QStringLiteral("Argon"), false));
+    send(heatfile(QStringLiteral("Zirkon HT"), QStringLiteral("DentaCeram"), QStringLiteral("Zirkon"), false));
+    send(heatfile(QStringLiteral("Glanz"), QStringLiteral("Dental Werk"), QStringLiteral("Glaskeramik"), false));
+    send(heatfile(QStringLiteral("Kalibrierung"), QStringLiteral("service"), QStringLiteral("Zirkon"), false));
+}
+
+void TestProgramPages::cleanup()
+{
+    m_window.reset();
+}
+
+QStringList TestProgramPages::send(const QByteArray &fields)
+{
+    const QByteArray answer =
+        m_window->GetMessageHandler()->HandleMessage(QString::fromLatin1(Frame::Build(fields)));
+    QStringList parts = QString::fromUtf8(answer.mid(1, answer.size() - 2)).split(QStringLiteral("$$"));
+    parts.removeLast();
+    parts.removeFirst();
+    return parts;
+}
+
+QStringList TestProgramPages::listed() const
+{
+    QStringList names;
+    for (const ProgramButton *button : m_window->GetProgramButtons())
+        names << button->GetText();
+    return names;
+}
+
+void TestProgramPages::click(QWidget *kit)
+{
+    QTest::mouseClick(kit->findChild<QAbstractButton *>(), Qt::LeftButton);
+}
+
+void TestProgramPages::listsByClass()
+{
+    send("guistate==10");
+    QCOMPARE(listed(), (QStringList{QStringLiteral("Mein Speed"), QStringLiteral("Mein Argon")}));
+    send("guistate==11");
+    QCOMPARE(listed(), (QStringList{QStringLiteral("Zirkon HT"), QStringLiteral("Glanz")}));
+    send("guistate==19");
+    QCOMPARE(listed(), QStringList{QStringLiteral("Kalibrierung")});
+    send("guistate==4");
+    QCOMPARE(listed(), QStringList{QStringLiteral("Mein Speed")});
+    QVERIFY(m_window->GetProgramButtons().first()->IsFavChecked());
+}
+
+void TestProgramPages::favouriteToggleTellsTheController()
+{
+    send("guistate==10");
+    ProgramButton *argon = m_window->GetProgramButtons().at(1);
+    QTest::mouseClick(argon->GetFavButtonObject(), Qt::LeftButton);
+    QCOMPARE(send("temp==300"), QStringList{QStringLiteral("tofavorite==Mein Argon,true")});
+    send("guistate==4");
+    QCOMPARE(listed(), (QStringList{QStringLiteral("Mein Speed"), QStringLiteral("Mein Argon")}));
+    QTest::mouseClick(m_window->GetProgramButtons().at(0)->GetFavButtonObject(), Qt::LeftButton);
+    QCOMPARE(send("temp==300"), QStringList{QStringLiteral("tofavorite==Mein Speed,false")});
+}
+
+void TestProgramPages::receivedFavouritesAreEchoed()
+{
+    // Every heatfile's favourite flag goes back to the controller as it was received.
+    QCOMPARE(send(heatfile(QStringLiteral("Neu"), QStringLiteral("user"), QStringLiteral("Zirkon"), false)),
+             QStringList{QStringLiteral("tofavorite==Neu,false")});
+}
+
+void TestProgramPages::filtersNarrowTheUserList()
+{
+    send(heatfile(QStringLiteral("Fremd"), QStringLiteral("user"), QStringLiteral("Glaskeramik"), false));
+    send("guistate==22");
+    QStringList makers;
+    for (auto *b : ui->scrollAreaWidgetContents_Manufacturer->findChildren<ovra::GlobalElements::Button *>())
+        makers << b->GetText();
+    QCOMPARE(makers.size(), 4); // user, DentaCeram, Dental Werk, service
+    send("guistate==23");
+    const auto materials = ui->scrollAreaWidgetContents_Material->findChildren<ovra::GlobalElements::Button *>();
+    QCOMPARE(materials.size(), 3);
+    for (auto *b : materials) {
+        if (b->GetText() == QLatin1String("Zirkon"))
+            click(b);
+    }
+    send("guistate==10");
+    QCOMPARE(listed(), QStringList{QStringLiteral("Mein Speed")});
+
+    // Visiting the filter page again adds no second button for a known value.
+    send("guistate==23");
+    QCOMPARE(ui->scrollAreaWidgetContents_Material->findChildren<ovra::GlobalElements::Button *>().size(), 3);
+    // "Dental Werk" never matches its own button: with it checked nothing is listed.
+    send("guistate==22");
+    for (auto *b : ui->scrollAreaWidgetContents_Manufacturer->findChildren<ovra::GlobalElements::Button *>()) {
+        if (b->GetText() == QLatin1String("Dental Werk"))
+            click(b);
+    }
+    // ... and it gets another button on every visit.
+    send("guistate==22");
+    QCOMPARE(ui->scrollAreaWidgetContents_Manufacturer->findChildren<ovra::GlobalElements::Button *>().size(), 6);
+    send("guistate==10");
+    QCOMPARE(listed(), QStringList());
+}
+
+void TestProgramPages::showingAndDeletingAProgram()
+{
+    send("guistate==11");
+    click(m_window->GetProgramButtons().at(0)); // Zirkon HT, a maker's program
+    QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
+    QCOMPARE(ui->label_Name->text(), QStringLiteral("Zirkon HT")); // not in upper case
+    QVERIFY(!ui->widget_playProgChange->isVisibleTo(ui->page_playProg));
+    QCOMPARE(ui->widget_chart_play->GetProfile().points.size(), 4); // summary: (0,0) and three points
+
+    click(ui->widget_backPlayNewProg);
+    QCOMPARE(m_window->CurrentPage(), Page::FixProgs);
+
+    send("guistate==10");
+    click(m_window->GetProgramButtons().at(1)); // Mein Argon
+    QCOMPARE(ui->widget_materialPlay->GetIcon(), QStringLiteral(":/Play/Gas.png"));
+    QVERIFY(ui->widget_playProgDelete->isVisibleTo(ui->page_playProg));
+    QCOMPARE(ui->widget_chart_play->GetProfile().points.size(), 5);
+    send("temp==300"); // drop the page reports
+    m_window->SlotDeleteProg();
+    QVERIFY(send("temp==300").contains(QStringLiteral("hpdelete==Mein Argon")));
+    QCOMPARE(m_window->CurrentPage(), Page::MyProgs);
+    QCOMPARE(listed(), QStringList{QStringLiteral("Mein Speed")});
+}
+
+void TestProgramPages::replacedProgramOnAShownListStaysSafe()
+{
+    send("guistate==10");
+    ProgramButton *shown = m_window->GetProgramButtons().at(0);
+    // The controller replaces the program while its button is on screen.
+    send(heatfile(QStringLiteral("Mein Speed"), QStringLiteral("user"), QStringLiteral("Argon"), false));
+    click(shown); // the old record is still alive (checked under the sanitizer build)
+    QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
+    click(ui->widget_backPlayNewProg);
+    QCOMPARE(m_window->CurrentPage(), Page::MyProgs);
+    QCOMPARE(m_window->GetProgramHandler()->RetiredCount(), 0); // freed with the rebuilt list
+    click(m_window->GetProgramButtons().at(0));
+    QCOMPARE(ui->widget_materialPlay->GetText(), QStringLiteral("Argon"));
+}
+
+void TestProgramPages::resendIsAskedForTenTimesAtMost()
+{
+    int asked = 0;
+    for (int i = 0; i < 12; ++i)
+        asked += send("hfcount==9").count(QStringLiteral("hfresend"));
+    QCOMPARE(asked, 10);
+    QCOMPARE(send("hfcount==5"), QStringList()); // as many as stored: nothing to ask
+}
+
+QTEST_MAIN(TestProgramPages)
+#include "tst_programpages.moc"
