@@ -72,18 +72,20 @@ void MainWindow::ClearProgramButtons()
 void MainWindow::FillProgramList(QVBoxLayout *layout, QList<Program *> *programs)
 {
     ClearProgramButtons();
+    // One repaint for the whole list, not one per row.
+    QWidget *list = layout->parentWidget();
+    list->setUpdatesEnabled(false);
     int at = layout->count() - 1; // before the closing spacer
     for (Program *program : qAsConst(*programs)) {
         auto *button = new ProgramButton();
-        button->SetText(program->GetName());
-        button->SetButtonProgram(program);
-        button->SetFavChecked(program->IsFav());
+        button->SetButtonProgram(program); // shows the name and the favourite state too
         layout->insertWidget(at++, button);
         connect(button, &ProgramButton::SignalProgButtonClicked, this,
                 [this](Program *p) { Slot_ShowChoosenProgram(p, Page::PlayProg); });
         connect(button, &ProgramButton::SignalSetProgToFav, this, &MainWindow::SlotSetProgToFav);
         m_programButtons.append(button);
     }
+    list->setUpdatesEnabled(true);
     delete programs;
 }
 

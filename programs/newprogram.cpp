@@ -205,6 +205,7 @@ void NewProgram::AddRow(unsigned int rate, unsigned int temp, unsigned int time)
     row->SetFahrenheit(m_fahrenheit);
     // Before the spacer that keeps the rows at the top.
     ui->verticalLayout_rows->insertWidget(ui->verticalLayout_rows->count() - 1, row);
+    // Deliberate: the rate is converted like a temperature (see ProgramTable::ReadRows).
     row->SetRate(ProgramTable::ToFahrenheit(rate, m_fahrenheit));
     row->SetTemp(ProgramTable::ToFahrenheit(temp, m_fahrenheit));
     row->SetTime(time);

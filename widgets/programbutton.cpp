@@ -46,7 +46,12 @@ void ProgramButton::SetButtonProgram(Program *program)
 void ProgramButton::SetText(const QString &text)
 {
     m_caption = text;
-    RefitCaption();
+    // Fitting needs the final size and style; a button not yet shown is fitted when it is
+    // polished and laid out, which keeps a list of hundreds quick to build.
+    if (ui->pushButton_title->testAttribute(Qt::WA_WState_Polished))
+        RefitCaption();
+    else
+        ui->pushButton_title->setText(CaptionFit::Escape(m_caption));
 }
 
 void ProgramButton::SetNextPageIndex(Pageinterface::en_pages page)
@@ -133,9 +138,12 @@ bool ProgramButton::eventFilter(QObject *watched, QEvent *event)
 
 void ProgramButton::ShowFavState(bool checked)
 {
-    const QString path = QString::fromLatin1(checked ? favOnIcon : favOffIcon);
-    if (QFile::exists(path)) {
-        ui->pushButton_fav->setIcon(QIcon(path));
+    // Decoded once for all rows of all lists.
+    static const QIcon onIcon(QString::fromLatin1(favOnIcon));
+    static const QIcon offIcon(QString::fromLatin1(favOffIcon));
+    static const bool haveIcons = QFile::exists(QString::fromLatin1(favOnIcon));
+    if (haveIcons) {
+        ui->pushButton_fav->setIcon(checked ? onIcon : offIcon);
         ui->pushButton_fav->setText(QString());
     } else {
         // Without the star images (e.g. a build without resources) a star glyph still
