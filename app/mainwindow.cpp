@@ -75,6 +75,7 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
 // the line goes first, its handler after it.
 MainWindow::~MainWindow()
 {
+    ReleaseListScrolling();
     delete m_communicator;
     delete m_internalCommunicator;
     delete m_messageHandler;

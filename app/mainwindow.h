@@ -8,6 +8,7 @@
 #include <QStringList>
 
 class QTimer;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace Ui {
@@ -172,6 +173,8 @@ private:
     void AddFilterButtons(QVBoxLayout *layout, QList<GlobalElements::Button *> &buttons, bool byManufacturer);
     void CheckForFilterOption(QList<GlobalElements::Program *> &programs) const;
     void ConnectPrograms();
+    QList<QScrollArea *> ListAreas() const;
+    void ReleaseListScrolling();
     void RewriteExternalScripts();
 
     Ui::MainWindow *ui;

@@ -21,7 +21,11 @@ PopupLicense::PopupLicense(QWidget *parent)
     ui->plainTextEdit_License->setPlainText(LicenseNoticeText(QString::fromLatin1(qVersion())));
 }
 
-PopupLicense::~PopupLicense() = default;
+PopupLicense::~PopupLicense()
+{
+    // The gesture recogniser a grab registers is only given back by ungrabbing.
+    QScroller::ungrabGesture(ui->plainTextEdit_License->viewport());
+}
 
 void PopupLicense::Translate()
 {

@@ -110,7 +110,10 @@ Chart::Chart(QWidget *parent)
     m_profileSeries->attachAxis(m_axisX);
     m_profileSeries->attachAxis(m_axisY);
 
+    // The view made a chart of its own and hands it back on replacement.
+    QChart *placeholder = m_view->chart();
     m_view->setChart(m_chart);
+    delete placeholder;
 
     ShowIdleProfile();
     ApplyXAxis();

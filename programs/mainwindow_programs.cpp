@@ -52,10 +52,21 @@ void MainWindow::ConnectPrograms()
     connect(editor, &GlobalElements::NewProgram::SignalBackToProgs, this, &MainWindow::SlotBackButtonClicked);
 
     // Long lists scroll with a finger, with momentum.
-    for (QScrollArea *area : {ui->scrollArea_Hitlist, ui->scrollArea_MyProgs, ui->scrollArea_FixProgs,
-                              ui->scrollArea_ServiceProgs, ui->scrollArea_Manufacturer, ui->scrollArea_Material}) {
+    for (QScrollArea *area : ListAreas())
         QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
-    }
+}
+
+QList<QScrollArea *> MainWindow::ListAreas() const
+{
+    return {ui->scrollArea_Hitlist, ui->scrollArea_MyProgs, ui->scrollArea_FixProgs,
+            ui->scrollArea_ServiceProgs, ui->scrollArea_Manufacturer, ui->scrollArea_Material};
+}
+
+void MainWindow::ReleaseListScrolling()
+{
+    // The gesture recogniser a grab registers is only given back by ungrabbing.
+    for (QScrollArea *area : ListAreas())
+        QScroller::ungrabGesture(area->viewport());
 }
 
 void MainWindow::ClearProgramButtons()
