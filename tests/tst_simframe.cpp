@@ -1,8 +1,11 @@
 // The controller simulator: its frame functions against hand-computed values, its sample
-// programs against the heatfile rules, its clock arithmetic, and the real program against a
-// small fake panel: start-up, self-test and commissioning.
+// programs against the heatfile rules, its heatfile reader and program store, its clock
+// arithmetic, and the real program against a small fake panel: start-up, self-test,
+// commissioning and the program store the panel edits.
 
 #include "controllerclock.h"
+#include "heatfile.h"
+#include "programstore.h"
 #include "sampleprograms.h"
 #include "simframe.h"
 
@@ -10,13 +13,16 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
+#include <algorithm>
 #include <cerrno>
 #include <functional>
 
@@ -80,6 +86,11 @@ public:
     int joinedChunks = 0;       // reads that brought start and end byte together
     int validAnswers = 0;
     int writeErrors = 0;
+    // Reads frames out of the byte stream however the reads cut it, instead of dropping a
+    // frame whose start and end byte come in one read as the panel does. For the cases about
+    // what the frames say: under a loaded machine the line's split can slip now and then, and
+    // a frame lost that way is not what they test.
+    bool readsWholeStream = false;
 
     int countOf(const QByteArray &keyword) const
     {
@@ -114,6 +125,30 @@ public:
         return fields;
     }
 
+    // Every hand-over of the programs: the heatfile texts in the order they came, and the count
+    // that closed them.
+    struct ProgramRound
+    {
+        QByteArrayList texts;
+        QByteArray count;
+    };
+    QList<ProgramRound> programRounds() const
+    {
+        QList<ProgramRound> rounds;
+        ProgramRound open;
+        for (const Fields &body : bodies) {
+            const auto [keyword, parameter] = simframe::splitCommand(body.first());
+            if (keyword == "heatfile") {
+                open.texts.append(parameter);
+            } else if (keyword == "hfcount") {
+                open.count = parameter;
+                rounds.append(open);
+                open = {};
+            }
+        }
+        return rounds;
+    }
+
     // The self-test results and the "oven ready" state, in the order they came.
     QByteArrayList selfTestFrames() const
     {
@@ -146,8 +181,15 @@ private:
     {
         const int stx = chunk.indexOf(simframe::kStx);
         const int etx = chunk.indexOf(simframe::kEtx);
-        if (stx >= 0 && etx >= 0) {
+        if (stx >= 0 && etx >= 0)
             ++joinedChunks;
+        if (readsWholeStream) {
+            m_buffer += chunk;
+            for (const QByteArray &content : simframe::takeFrames(m_buffer))
+                dispatch(content);
+            return;
+        }
+        if (stx >= 0 && etx >= 0) {
             m_buffer.clear();
             return;
         }
@@ -160,8 +202,14 @@ private:
             return;
         }
         m_buffer += chunk.left(etx);
-        Fields fields = simframe::splitFields(m_buffer);
+        const QByteArray content = m_buffer;
         m_buffer.clear();
+        dispatch(content);
+    }
+
+    void dispatch(const QByteArray &content)
+    {
+        Fields fields = simframe::splitFields(content);
         if (!simframe::checksumMatches(fields) || fields.size() < 2) {
             ++badChecksums;
             return;
@@ -282,12 +330,20 @@ private slots:
     void commandSplitting();
     void printableRaw();
     void samplePrograms();
+    void heatfileRoundTrip();
+    void heatfileRejects_data();
+    void heatfileRejects();
+    void generatedPrograms();
+    void storeKeepsOneProgramPerName();
     void controllerClock();
     void simulatorAgainstFakePanel();
     void selfTestAnswersRedost();
     void selfTestFailureRepeats_data();
     void selfTestFailureRepeats();
     void commissioningWalk();
+    void panelEditsTheStore();
+    void programsFromFile();
+    void manyPrograms();
     void rejectsBadArguments_data();
     void rejectsBadArguments();
     void linkIsManaged();
@@ -420,7 +476,8 @@ void TestSimFrame::printableRaw()
 
 void TestSimFrame::samplePrograms()
 {
-    const QList<sampleprograms::Program> programs = sampleprograms::programs();
+    const QList<heatfile::Program> programs = sampleprograms::programs();
+    QSet<QString> zirkonMakers;
     int user = 0;
     int service = 0;
     int fixed = 0;
@@ -429,7 +486,7 @@ void TestSimFrame::samplePrograms()
     const QRegularExpression forbidden(QStringLiteral("[.;=,]|\\$\\$"));
     const QRegularExpression segmentPattern(QStringLiteral("^\\[(\\d)\\];rate=(\\d+);temp=(\\d+);hold=(\\d+);(argon=on;)?$"));
 
-    for (const sampleprograms::Program &program : programs) {
+    for (const heatfile::Program &program : programs) {
         QVERIFY2(!forbidden.match(program.name).hasMatch(), qPrintable(program.name));
         QVERIFY(!program.name.isEmpty());
         QVERIFY(program.segments.size() >= 1 && program.segments.size() <= 4);
@@ -440,9 +497,11 @@ void TestSimFrame::samplePrograms()
             ++service;
         } else {
             ++fixed;
+            if (program.material == QLatin1String("Zirkon"))
+                zirkonMakers.insert(program.manufacturer);
         }
 
-        const QString text = QString::fromUtf8(sampleprograms::heatfileText(program));
+        const QString text = QString::fromUtf8(heatfile::text(program));
         const QString head = QStringLiteral("[metainfo];name=%1;manufacturer=%2;material=%3;favorite=%4;")
                                  .arg(program.name, program.manufacturer, program.material,
                                       QLatin1String(program.favorite ? "true" : "false"));
@@ -458,7 +517,7 @@ void TestSimFrame::samplePrograms()
         for (int i = 0; i < segments.size(); ++i) {
             const QRegularExpressionMatch m = segmentPattern.match(segments.at(i));
             QVERIFY2(m.hasMatch(), qPrintable(segments.at(i)));
-            const sampleprograms::Segment &segment = program.segments.at(i);
+            const heatfile::Segment &segment = program.segments.at(i);
             QCOMPARE(m.captured(1).toInt(), i + 1);
             QCOMPARE(m.captured(2).toInt(), segment.rate);
             QCOMPARE(m.captured(3).toInt(), segment.tempCelsius + 273);
@@ -474,6 +533,157 @@ void TestSimFrame::samplePrograms()
     QCOMPARE(service, 2);
     QVERIFY(fixed >= 3);
     QCOMPARE(argon, 1);
+    QCOMPARE(zirkonMakers.size(), 2);
+}
+
+void TestSimFrame::heatfileRoundTrip()
+{
+    // Written by hand: Kelvin and seconds on the line, argon after every hold.
+    const QByteArray argonText = "[metainfo];name=Ti Sinter 2;manufacturer=Metallix;material=Argon;favorite=true;"
+                                 "[1];rate=20;temp=1073;hold=600;argon=on;[2];rate=5;temp=1623;hold=0;argon=on;";
+    heatfile::Program program;
+    QString error;
+    QVERIFY2(heatfile::parse(argonText, &program, &error), qPrintable(error));
+    const heatfile::Program expected{QStringLiteral("Ti Sinter 2"), QStringLiteral("Metallix"), QStringLiteral("Argon"), true,
+                                     {{20, 800, 10}, {5, 1350, 0}}};
+    QVERIFY(program == expected);
+    QCOMPARE(heatfile::text(program), argonText);
+
+    // The edges of the conversions: 273 K is 0 °C, a hold of 0 stays 0, umlauts pass unchanged.
+    const QByteArray edge = QStringLiteral("[metainfo];name=Glühen;manufacturer=user;material=;favorite=false;"
+                                           "[1];rate=1;temp=273;hold=0;")
+                                .toUtf8();
+    QVERIFY2(heatfile::parse(edge, &program, &error), qPrintable(error));
+    QCOMPARE(program.segments, (QList<heatfile::Segment>{{1, 0, 0}}));
+    QCOMPARE(heatfile::text(program), edge);
+
+    // Everything the simulator itself sends reads back to the same program.
+    const QList<heatfile::Program> all = sampleprograms::programs() + sampleprograms::generated(200);
+    for (const heatfile::Program &each : all) {
+        heatfile::Program back;
+        QVERIFY2(heatfile::parse(heatfile::text(each), &back, &error), qPrintable(each.name + QLatin1String(": ") + error));
+        QVERIFY2(back == each, qPrintable(each.name));
+    }
+}
+
+void TestSimFrame::heatfileRejects_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("reason");
+
+    const QByteArray head = "[metainfo];name=P;manufacturer=user;material=Zirkon;favorite=false;";
+    const QByteArray segment = "[1];rate=10;temp=1273;hold=600;";
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("empty text");
+    QTest::newRow("last element open") << QByteArray(head + segment).chopped(1) << QStringLiteral("not closed");
+    QTest::newRow("empty element") << QByteArray(head + ";" + segment) << QStringLiteral("element 6 is empty");
+    QTest::newRow("no metainfo") << QByteArray(head.mid(11) + segment) << QStringLiteral("expected [metainfo]");
+    QTest::newRow("name with suffix") << QByteArray(QByteArray(head).replace("name=P", "name=P.hf") + segment)
+                                      << QStringLiteral("element 2: the name \"P.hf\" contains \".\"");
+    QTest::newRow("name with comma") << QByteArray(QByteArray(head).replace("name=P", "name=P,1") + segment) << QStringLiteral("contains \",\"");
+    QTest::newRow("empty name") << QByteArray(QByteArray(head).replace("name=P", "name=") + segment) << QStringLiteral("name is empty");
+    QTest::newRow("second =") << QByteArray(QByteArray(head).replace("name=P", "name=P=Q") + segment) << QStringLiteral("second \"=\"");
+    QTest::newRow("no manufacturer") << QByteArray(QByteArray(head).replace("manufacturer=user", "manufacturer=") + segment)
+                                     << QStringLiteral("element 3: no manufacturer");
+    QTest::newRow("favorite yes") << QByteArray(QByteArray(head).replace("favorite=false", "favorite=yes") + segment)
+                                  << QStringLiteral("true or false");
+    QTest::newRow("meta order") << QByteArray(QByteArray(head).replace("name=P;manufacturer=user", "manufacturer=user;name=P") + segment)
+                                << QStringLiteral("element 2: expected name=");
+    QTest::newRow("no segment") << head << QStringLiteral("no segment");
+    QTest::newRow("segment skipped") << QByteArray(head + segment + QByteArray(segment).replace("[1]", "[3]"))
+                                     << QStringLiteral("element 10: expected [2], found [3]");
+    QTest::newRow("rate 0") << QByteArray(head + "[1];rate=0;temp=1273;hold=600;") << QStringLiteral("element 7: a rate of 0");
+    QTest::newRow("negative rate") << QByteArray(head + "[1];rate=-5;temp=1273;hold=600;") << QStringLiteral("not a plain number");
+    QTest::newRow("leading zero") << QByteArray(head + "[1];rate=010;temp=1273;hold=600;") << QStringLiteral("not a plain number");
+    QTest::newRow("too many digits") << QByteArray(head + "[1];rate=99999999999;temp=1273;hold=600;") << QStringLiteral("not a plain number");
+    QTest::newRow("celsius sent") << QByteArray(head + "[1];rate=10;temp=100;hold=600;") << QStringLiteral("element 8: temp=100 is below 273");
+    QTest::newRow("minutes sent") << QByteArray(head + "[1];rate=10;temp=1273;hold=90;")
+                                  << QStringLiteral("element 9: hold=90 is not whole minutes");
+    QTest::newRow("segment order") << QByteArray(head + "[1];temp=1273;rate=10;hold=600;") << QStringLiteral("expected rate=");
+    QTest::newRow("extra element") << QByteArray(head + segment + "gas=n2;") << QStringLiteral("expected [2], found gas=n2");
+    QTest::newRow("argon missing") << QByteArray(QByteArray(head).replace("Zirkon", "Argon") + segment + "[2];rate=1;temp=300;hold=0;argon=on;")
+                                   << QStringLiteral("element 10: expected argon=on, found [2]");
+    QTest::newRow("argon at the end missing") << QByteArray(QByteArray(head).replace("Zirkon", "Argon") + segment)
+                                              << QStringLiteral("ends where argon=on should follow");
+    QTest::newRow("argon without the material") << QByteArray(head + segment + "argon=on;")
+                                                << QStringLiteral("argon=on in a program of material \"Zirkon\"");
+    QTest::newRow("material in other case") << QByteArray(QByteArray(head).replace("Zirkon", "argon") + segment + "argon=on;")
+                                            << QStringLiteral("argon=on in a program");
+    QByteArray eleven = head;
+    for (int i = 1; i <= 11; ++i)
+        eleven += "[" + QByteArray::number(i) + "];rate=10;temp=1273;hold=600;";
+    QTest::newRow("eleven segments") << eleven << QStringLiteral("more than 10 segments");
+    QTest::newRow("line break") << QByteArray(head + segment + "\n") << QStringLiteral("control character 0x0a");
+    QTest::newRow("not utf-8") << QByteArray(QByteArray(head).replace("name=P", "name=P\xfc") + segment) << QStringLiteral("not UTF-8");
+}
+
+void TestSimFrame::heatfileRejects()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, reason);
+    const heatfile::Program untouched{QStringLiteral("keep"), QStringLiteral("user"), QString(), true, {{1, 2, 3}}};
+    heatfile::Program program = untouched;
+    QString error;
+    QVERIFY(!heatfile::parse(text, &program, &error));
+    QVERIFY2(error.contains(reason), qPrintable(error));
+    QVERIFY(program == untouched);
+}
+
+void TestSimFrame::generatedPrograms()
+{
+    const QList<heatfile::Program> programs = sampleprograms::generated(200);
+    QCOMPARE(programs.size(), 200);
+    QCOMPARE(programs.first().name, QStringLiteral("Programm 001"));
+    QCOMPARE(programs.last().name, QStringLiteral("Programm 200"));
+    QSet<QString> names;
+    QSet<int> lengths;
+    QMap<QString, int> kinds;
+    for (const heatfile::Program &program : programs) {
+        names.insert(program.name);
+        QVERIFY2(heatfile::nameProblem(program.name).isEmpty(), qPrintable(program.name));
+        lengths.insert(program.segments.size());
+        const bool own = program.manufacturer == QLatin1String("user") || program.manufacturer == QLatin1String("service");
+        ++kinds[own ? program.manufacturer : (program.material == QLatin1String("Argon") ? QStringLiteral("argon") : QStringLiteral("fixed"))];
+        kinds[QStringLiteral("favourite")] += program.favorite ? 1 : 0;
+        // Within what the panel lets a user enter, so that the lists show ordinary values.
+        for (const heatfile::Segment &segment : program.segments) {
+            QVERIFY(segment.rate >= 5 && segment.rate <= 50);
+            QVERIFY(segment.tempCelsius >= 600 && segment.tempCelsius <= 1550);
+            QVERIFY(segment.holdMinutes >= 0 && segment.holdMinutes <= 120);
+        }
+    }
+    QCOMPARE(names.size(), 200);
+    QCOMPARE(lengths.size(), 10);
+    QVERIFY(*std::min_element(lengths.begin(), lengths.end()) == 1);
+    QVERIFY(*std::max_element(lengths.begin(), lengths.end()) == heatfile::kMaxSegments);
+    for (const QString &kind : {QStringLiteral("user"), QStringLiteral("service"), QStringLiteral("fixed"), QStringLiteral("argon"),
+                                QStringLiteral("favourite")})
+        QVERIFY2(kinds.value(kind) > 0, qPrintable(kind));
+    QVERIFY(kinds.value(QStringLiteral("favourite")) < kinds.value(QStringLiteral("user")));
+    QVERIFY(sampleprograms::generated(200) == programs);
+    // Past 999 the numbers widen, so that the names still sort in order.
+    QCOMPARE(sampleprograms::generated(1000).first().name, QStringLiteral("Programm 0001"));
+}
+
+void TestSimFrame::storeKeepsOneProgramPerName()
+{
+    const auto named = [](const QString &name, int rate) {
+        return heatfile::Program{name, QStringLiteral("user"), QStringLiteral("Zirkon"), false, {{rate, 1000, 0}}};
+    };
+    ProgramStore store({named(QStringLiteral("A"), 1), named(QStringLiteral("B"), 1), named(QStringLiteral("A"), 2)});
+    QCOMPARE(store.size(), 2);
+    QCOMPARE(store.programs().first().segments.first().rate, 2);
+
+    QVERIFY(store.put(named(QStringLiteral("B"), 3)) == ProgramStore::Put::Replaced);
+    QVERIFY(store.put(named(QStringLiteral("C"), 1)) == ProgramStore::Put::Added);
+    QCOMPARE(store.indexOf(QStringLiteral("B")), 1);
+    QCOMPARE(store.programs().at(1).segments.first().rate, 3);
+
+    QVERIFY(store.setFavorite(QStringLiteral("C"), true));
+    QVERIFY(store.programs().at(2).favorite);
+    QVERIFY(!store.setFavorite(QStringLiteral("c"), true));
+    QCOMPARE(store.remove(QStringLiteral("A")), 1);
+    QCOMPARE(store.remove(QStringLiteral("A")), 0);
+    QCOMPARE(store.indexOf(QStringLiteral("C")), 1);
 }
 
 void TestSimFrame::controllerClock()
@@ -807,6 +1017,180 @@ void TestSimFrame::commissioningWalk()
     QCOMPARE(panel.badChecksums, 0);
 }
 
+void TestSimFrame::panelEditsTheStore()
+{
+    SimProcess sim({QStringLiteral("--verbose"), QStringLiteral("--run-for"), QStringLiteral("30"), QStringLiteral("--interval"),
+                    QStringLiteral("50")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    // What the controller hands over at start: the sample programs, texts as the rules make them.
+    QByteArrayList expected;
+    for (const heatfile::Program &program : sampleprograms::programs())
+        expected.append(heatfile::text(program));
+
+    const QByteArray created = "[metainfo];name=Titan Argon;manufacturer=user;material=Argon;favorite=false;"
+                               "[1];rate=20;temp=1073;hold=600;argon=on;[2];rate=10;temp=1573;hold=3600;argon=on;";
+    const QByteArray reheated = "[metainfo];name=Ausheizen;manufacturer=service;material=Leerbrand;favorite=false;"
+                                "[1];rate=40;temp=1473;hold=1800;";
+    const QByteArray changed = "[metainfo];name=Schnellsintern;manufacturer=user;material=Zirkon;favorite=false;"
+                               "[1];rate=40;temp=1793;hold=2700;";
+    const QByteArray changedUnknown = "[metainfo];name=Nur Geaendert;manufacturer=user;material=Zirkon;favorite=false;"
+                                      "[1];rate=10;temp=1273;hold=0;";
+    const QByteArray malformed = "[metainfo];name=Kaputt.hf;manufacturer=user;material=Zirkon;favorite=false;[1];rate=10;temp=1273;hold=0;";
+
+    // One edit per status frame, each followed by asking for the programs again; the panel
+    // waits for each hand-over before the next edit.
+    const QList<QByteArrayList> edits = {
+        {"heatfile==" + created, "heatfile==" + reheated, "hfresend"},
+        {"hpchange==" + changed, "hpchange==" + changedUnknown, "hfresend"},
+        {"hpdelete==Glasur 930", "hfresend"},
+        {"tofavorite==Schnellsintern,true", "tofavorite==Standard Zirkon,false", "hfresend"},
+        {"heatfile==" + malformed, "hpchange==" + QByteArray(changed).replace("hold=2700", "hold=45"), "hpdelete==Glasur 930",
+         "tofavorite==Nirgends,true", "tofavorite==Ausheizen,maybe", "tofavorite==Ausheizen", "hfresend"},
+    };
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    int sent = 0;
+    panel.script = [&](const Fields &body) -> QByteArray {
+        if (body.first().startsWith("time") && sent < edits.size() && panel.countOf("hfcount") == sent + 1)
+            return ackWith(edits.at(sent++));
+        return ackWith({});
+    };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+    QVERIFY2(sim.waitUntil([&] { return panel.countOf("hfcount") == edits.size() + 1; }), qPrintable(sim.log()));
+
+    const QList<FakePanel::ProgramRound> rounds = panel.programRounds();
+    QCOMPARE(rounds.size(), edits.size() + 1);
+    const auto checkRound = [&](int round) {
+        QCOMPARE(rounds.at(round).texts, expected);
+        QCOMPARE(rounds.at(round).count, QByteArray::number(expected.size()));
+    };
+    checkRound(0);
+
+    // A new program goes to the end, a known name is replaced where it stands.
+    expected[7] = reheated;
+    expected.append(created);
+    checkRound(1);
+    expected[1] = changed;
+    expected.append(changedUnknown);
+    checkRound(2);
+    expected.removeAt(2);
+    checkRound(3);
+    expected[0].replace("favorite=true", "favorite=false");
+    expected[1].replace("favorite=false", "favorite=true");
+    checkRound(4);
+    // Nothing of the bad requests reached the store.
+    checkRound(5);
+
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("stored: ")),
+             (QStringList{QStringLiteral("stored: Titan Argon"), QStringLiteral("stored: Ausheizen")}));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("heatfile text: ")).first(), QStringLiteral("heatfile text: ") + QString::fromUtf8(created));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("changed: ")),
+             (QStringList{QStringLiteral("changed: Schnellsintern"), QStringLiteral("changed: Nur Geaendert (was unknown, added)")}));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("deleted: ")), QStringList{QStringLiteral("deleted: Glasur 930")});
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("delete of unknown program: ")),
+             QStringList{QStringLiteral("delete of unknown program: Glasur 930")});
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("favourite")),
+             (QStringList{QStringLiteral("favourite: Schnellsintern on"), QStringLiteral("favourite: Standard Zirkon off"),
+                          QStringLiteral("favourite of unknown program: Nirgends")}));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("bad favourite request: ")),
+             (QStringList{QStringLiteral("bad favourite request: Ausheizen,maybe"), QStringLiteral("bad favourite request: Ausheizen")}));
+    const QStringList bad = sim.linesStartingWith(QStringLiteral("bad heatfile: "));
+    QCOMPARE(bad.size(), 2);
+    QVERIFY2(bad.at(0).contains(QLatin1String("Kaputt.hf")), qPrintable(bad.at(0)));
+    QVERIFY2(bad.at(1).contains(QLatin1String("hold=45 is not whole minutes")), qPrintable(bad.at(1)));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("heatfile text: ")).size(), 4);
+
+    // The console shows the same store; the dump is the exact texts, ready for --programs.
+    sim.process.write("programs\ndump\n");
+    QVERIFY2(sim.waitUntil([&] {
+                 const int at = sim.lines.indexOf(QStringLiteral("# programs: %1").arg(expected.size()));
+                 return at >= 0 && sim.lines.size() > at + expected.size();
+             }),
+             qPrintable(sim.log()));
+    const QStringList heads = sim.linesStartingWith(QStringLiteral("programs: 9 (name | manufacturer | material | fav | "));
+    QCOMPARE(heads.size(), 1);
+    const int listAt = sim.lines.indexOf(heads.first());
+    QCOMPARE(sim.lines.at(listAt + 1), QStringLiteral("Standard Zirkon | user | Zirkon | - | 25/900/0 10/1450/120"));
+    QCOMPARE(sim.lines.at(listAt + 2), QStringLiteral("Schnellsintern | user | Zirkon | fav | 40/1520/45"));
+    QCOMPARE(sim.lines.at(listAt + 7), QStringLiteral("Ausheizen | service | Leerbrand | - | 40/1200/30"));
+    QCOMPARE(sim.lines.at(listAt + 8), QStringLiteral("Titan Argon | user | Argon | - | 20/800/10 10/1300/60"));
+    const int dumpAt = sim.lines.indexOf(QStringLiteral("# programs: 9"));
+    QStringList dumped = sim.lines.mid(dumpAt + 1, expected.size());
+    QStringList wanted;
+    for (const QByteArray &text : qAsConst(expected))
+        wanted.append(QString::fromUtf8(text));
+    QCOMPARE(dumped, wanted);
+
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
+void TestSimFrame::programsFromFile()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("programs.txt"));
+    const QByteArray first = "[metainfo];name=Eins;manufacturer=user;material=Zirkon;favorite=true;[1];rate=10;temp=1773;hold=7200;";
+    const QByteArray second = "[metainfo];name=Zwei;manufacturer=Metallix;material=Argon;favorite=false;[1];rate=5;temp=1273;hold=60;argon=on;";
+    const QByteArray secondAgain = QByteArray(second).replace("rate=5", "rate=6");
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        // Line 4 writes the temperature in °C; line 6 comes from an editor with CRLF endings.
+        file.write("# Testprogramme\n\n" + first + "\n"
+                   "[metainfo];name=Drei;manufacturer=user;material=Zirkon;favorite=false;[1];rate=10;temp=100;hold=0;\n"
+                   + second + "\n   \n" + secondAgain + "\r\n");
+    }
+    SimProcess sim({QStringLiteral("--programs"), path, QStringLiteral("--many"), QStringLiteral("2"), QStringLiteral("--run-for"),
+                    QStringLiteral("30"), QStringLiteral("--interval"), QStringLiteral("200")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("waiting for panel")), qPrintable(sim.log()));
+    QVERIFY2(sim.lines.first().startsWith(QLatin1String("slave: ")), qPrintable(sim.log()));
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("bad heatfile: ")),
+             QStringList{QStringLiteral("bad heatfile: %1:4: element 8: temp=100 is below 273 (Kelvin expected)").arg(path)});
+    QCOMPARE(sim.linesStartingWith(QStringLiteral("programs: ")),
+             (QStringList{QStringLiteral("programs: %1:7: replaces the earlier Zwei").arg(path),
+                          QStringLiteral("programs: %1: 3 read, 1 bad line(s) skipped").arg(path)}));
+
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+    QVERIFY2(sim.waitUntil([&] { return panel.countOf("hfcount") == 1; }), qPrintable(sim.log()));
+    const FakePanel::ProgramRound round = panel.programRounds().first();
+    QCOMPARE(round.count, QByteArray("4"));
+    QCOMPARE(round.texts.mid(0, 2), (QByteArrayList{first, secondAgain}));
+    QVERIFY(round.texts.at(2).startsWith("[metainfo];name=Programm 001;"));
+    QVERIFY(round.texts.at(3).startsWith("[metainfo];name=Programm 002;"));
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+}
+
+void TestSimFrame::manyPrograms()
+{
+    SimProcess sim({QStringLiteral("--many"), QStringLiteral("200"), QStringLiteral("--run-for"), QStringLiteral("60"),
+                    QStringLiteral("--interval"), QStringLiteral("500")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+    QVERIFY2(sim.waitUntil([&] { return panel.countOf("hfcount") == 1; }, 30000), qPrintable(sim.log()));
+
+    const FakePanel::ProgramRound round = panel.programRounds().first();
+    QCOMPARE(round.count, QByteArray("208"));
+    QCOMPARE(round.texts.size(), 208);
+    // The samples first, then the generated ones in their order, each one a good text.
+    for (int i = 0; i < round.texts.size(); ++i) {
+        heatfile::Program program;
+        QString error;
+        QVERIFY2(heatfile::parse(round.texts.at(i), &program, &error), qPrintable(error));
+        if (i < 8)
+            QCOMPARE(program.name, sampleprograms::programs().at(i).name);
+        else
+            QCOMPARE(program.name, QStringLiteral("Programm %1").arg(i - 7, 3, 10, QLatin1Char('0')));
+    }
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
 void TestSimFrame::rejectsBadArguments_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -821,6 +1205,11 @@ void TestSimFrame::rejectsBadArguments_data()
     QTest::newRow("step text") << QStringList{QStringLiteral("--step-ms"), QStringLiteral("slow")};
     QTest::newRow("unknown self-test row") << QStringList{QStringLiteral("--selftest-fail"), QStringLiteral("oven")};
     QTest::newRow("empty self-test row") << QStringList{QStringLiteral("--selftest-fail"), QString()};
+    QTest::newRow("missing program file") << QStringList{QStringLiteral("--programs"), QStringLiteral("/nonexistent/programs.txt")};
+    QTest::newRow("program file a folder") << QStringList{QStringLiteral("--programs"), QStringLiteral("/")};
+    QTest::newRow("many negative") << QStringList{QStringLiteral("--many"), QStringLiteral("-1")};
+    QTest::newRow("many text") << QStringList{QStringLiteral("--many"), QStringLiteral("lots")};
+    QTest::newRow("many too many") << QStringList{QStringLiteral("--many"), QStringLiteral("10000")};
 }
 
 void TestSimFrame::rejectsBadArguments()

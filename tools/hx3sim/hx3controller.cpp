@@ -1,7 +1,6 @@
 #include "hx3controller.h"
 
 #include "ptyline.h"
-#include "sampleprograms.h"
 #include "simframe.h"
 
 #include <QDateTime>
@@ -43,6 +42,7 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     , m_options(options)
     , m_language(kLanguage)
     , m_unit(options.unit)
+    , m_store(options.programs)
 {
     m_answerTimer.setSingleShot(true);
     m_answerTimer.setInterval(kAnswerTimeoutMs);
@@ -63,6 +63,10 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_requestHandlers.insert("unit", &Hx3Controller::requestUnit);
     m_requestHandlers.insert("date", &Hx3Controller::requestDate);
     m_requestHandlers.insert("time", &Hx3Controller::requestTime);
+    m_requestHandlers.insert("heatfile", &Hx3Controller::requestStoreProgram);
+    m_requestHandlers.insert("hpchange", &Hx3Controller::requestChangeProgram);
+    m_requestHandlers.insert("hpdelete", &Hx3Controller::requestDeleteProgram);
+    m_requestHandlers.insert("tofavorite", &Hx3Controller::requestFavorite);
     // deletefailurelist, doorclose and movedoor are only logged as requests so far.
 
     // Operator commands on standard input.
@@ -70,6 +74,8 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_commandHandlers.insert(QStringLiteral("quit"), &Hx3Controller::commandQuit);
     m_commandHandlers.insert(QStringLiteral("selftest"), &Hx3Controller::commandSelfTest);
     m_commandHandlers.insert(QStringLiteral("commission"), &Hx3Controller::commandCommission);
+    m_commandHandlers.insert(QStringLiteral("programs"), &Hx3Controller::commandPrograms);
+    m_commandHandlers.insert(QStringLiteral("dump"), &Hx3Controller::commandDump);
 
     m_selfTest.failingRow = m_options.selftestFailRow;
     m_selfTest.stepTimer.setInterval(m_options.stepMs);
@@ -134,10 +140,9 @@ QList<Hx3Controller::Outgoing> Hx3Controller::startupFrames() const
 QList<Hx3Controller::Outgoing> Hx3Controller::heatfileFrames() const
 {
     QList<Outgoing> frames;
-    const QList<sampleprograms::Program> programs = sampleprograms::programs();
-    for (const sampleprograms::Program &program : programs)
-        frames.append({{command("heatfile", sampleprograms::heatfileText(program))}, Kind::Heatfile});
-    frames.append({{command("hfcount", QByteArray::number(programs.size()))}, Kind::Heatfile});
+    for (const heatfile::Program &program : m_store.programs())
+        frames.append({{command("heatfile", heatfile::text(program))}, Kind::Heatfile});
+    frames.append({{command("hfcount", QByteArray::number(m_store.size()))}, Kind::Heatfile});
     return frames;
 }
 
@@ -413,6 +418,61 @@ void Hx3Controller::requestTime(const QByteArray &parameter)
     emit message(QStringLiteral("clock set: ") + m_wallClock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
 }
 
+bool Hx3Controller::parseProgram(const QByteArray &text, heatfile::Program *program)
+{
+    QString reason;
+    if (!heatfile::parse(text, program, &reason)) {
+        emit message(QStringLiteral("bad heatfile: ") + reason);
+        return false;
+    }
+    if (m_options.verbose)
+        emit message(QStringLiteral("heatfile text: ") + QString::fromUtf8(text));
+    return true;
+}
+
+void Hx3Controller::requestStoreProgram(const QByteArray &parameter)
+{
+    heatfile::Program program;
+    if (!parseProgram(parameter, &program))
+        return;
+    m_store.put(program);
+    emit message(QStringLiteral("stored: ") + program.name);
+}
+
+void Hx3Controller::requestChangeProgram(const QByteArray &parameter)
+{
+    heatfile::Program program;
+    if (!parseProgram(parameter, &program))
+        return;
+    // The panel should only change programs it got from us; one we lack is kept all the same,
+    // and the log says so.
+    const bool known = m_store.put(program) == ProgramStore::Put::Replaced;
+    emit message(QStringLiteral("changed: ") + program.name + (known ? QString() : QStringLiteral(" (was unknown, added)")));
+}
+
+void Hx3Controller::requestDeleteProgram(const QByteArray &parameter)
+{
+    const QString name = QString::fromUtf8(parameter);
+    emit message(m_store.remove(name) > 0 ? QStringLiteral("deleted: ") + name : QStringLiteral("delete of unknown program: ") + name);
+}
+
+void Hx3Controller::requestFavorite(const QByteArray &parameter)
+{
+    // Names cannot hold a comma, so the last one separates name and flag.
+    const int comma = parameter.lastIndexOf(',');
+    const QByteArray flag = comma < 0 ? QByteArray() : parameter.mid(comma + 1);
+    if (flag != "true" && flag != "false") {
+        emit message(QStringLiteral("bad favourite request: ") + QString::fromUtf8(parameter));
+        return;
+    }
+    const QString name = QString::fromUtf8(parameter.left(comma));
+    if (!m_store.setFavorite(name, flag == "true")) {
+        emit message(QStringLiteral("favourite of unknown program: ") + name);
+        return;
+    }
+    emit message(QStringLiteral("favourite: %1 %2").arg(name, QLatin1String(flag == "true" ? "on" : "off")));
+}
+
 void Hx3Controller::handleCommand(const QString &line)
 {
     const QString trimmed = line.trimmed();
@@ -473,4 +533,19 @@ void Hx3Controller::commandCommission(const QString &)
     }
     // The probe on the line belongs to the old sequence; the panel must see initialstart first.
     probePanel();
+}
+
+void Hx3Controller::commandPrograms(const QString &)
+{
+    emit message(QStringLiteral("programs: %1 (name | manufacturer | material | fav | rate/target C/hold min per segment)").arg(m_store.size()));
+    for (const heatfile::Program &program : m_store.programs())
+        emit message(heatfile::describe(program));
+}
+
+void Hx3Controller::commandDump(const QString &)
+{
+    // Starts with "#", so that the dump is a program file as it stands.
+    emit message(QStringLiteral("# programs: %1").arg(m_store.size()));
+    for (const heatfile::Program &program : m_store.programs())
+        emit message(QString::fromUtf8(heatfile::text(program)));
 }

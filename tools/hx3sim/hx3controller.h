@@ -2,6 +2,8 @@
 
 #include "controllerclock.h"
 #include "furnacemodel.h"
+#include "programstore.h"
+#include "sampleprograms.h"
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -34,6 +36,8 @@ public:
         QByteArray selftestFailRow;
         // Start as a new furnace that the operator sets up first.
         bool commissioning = false;
+        // What the program store holds at start.
+        QList<heatfile::Program> programs = sampleprograms::programs();
     };
 
     struct Counters
@@ -59,6 +63,7 @@ public:
     QString summaryLine() const;
     bool isConnected() const { return m_phase == Phase::Connected; }
     int panelPage() const { return m_panelPage; }
+    const ProgramStore &programStore() const { return m_store; }
 
 signals:
     void message(const QString &line);
@@ -100,11 +105,18 @@ private:
     void requestUnit(const QByteArray &parameter);
     void requestDate(const QByteArray &parameter);
     void requestTime(const QByteArray &parameter);
+    void requestStoreProgram(const QByteArray &parameter);
+    void requestChangeProgram(const QByteArray &parameter);
+    void requestDeleteProgram(const QByteArray &parameter);
+    void requestFavorite(const QByteArray &parameter);
+    bool parseProgram(const QByteArray &text, heatfile::Program *program);
 
     void commandSend(const QString &arguments);
     void commandQuit(const QString &arguments);
     void commandSelfTest(const QString &arguments);
     void commandCommission(const QString &arguments);
+    void commandPrograms(const QString &arguments);
+    void commandDump(const QString &arguments);
 
     void onSelfTestStep();
     void stopSelfTest();
@@ -133,6 +145,7 @@ private:
     QByteArray m_language;
     QByteArray m_unit;
     ControllerClock m_wallClock;
+    ProgramStore m_store;
 
     // The self-test runs once per "redost"; the panel's page pulses never start one.
     struct SelfTest

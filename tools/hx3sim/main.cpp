@@ -2,7 +2,9 @@
 
 #include "consoleinput.h"
 #include "hx3controller.h"
+#include "programstore.h"
 #include "ptyline.h"
+#include "sampleprograms.h"
 #include "signalwatcher.h"
 
 #include <QCommandLineParser>
@@ -17,6 +19,7 @@
 
 namespace {
 constexpr int kUsageError = 2;
+constexpr int kMaxGenerated = 9999;
 
 // Tests and scripts read us through a pipe, so every line goes out at once.
 void printLine(const QString &line)
@@ -71,8 +74,14 @@ int main(int argc, char *argv[])
                                                 QStringLiteral("row"));
     const QCommandLineOption commissioningOption(QStringLiteral("commissioning"),
                                                  QStringLiteral("Start as a new furnace: the panel walks the operator through its set-up."));
+    const QCommandLineOption programsOption(QStringLiteral("programs"),
+                                            QStringLiteral("Start with the programs of <file> (one heatfile text a line) instead of the samples."),
+                                            QStringLiteral("file"));
+    const QCommandLineOption manyOption(QStringLiteral("many"),
+                                        QStringLiteral("Add <n> generated programs (\"Programm 001\" ...) after the others, for long lists."),
+                                        QStringLiteral("n"));
     parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, runForOption, stepOption, selftestFailOption,
-                       commissioningOption});
+                       commissioningOption, programsOption, manyOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -87,6 +96,7 @@ int main(int argc, char *argv[])
     options.verbose = parser.isSet(verboseOption);
 
     bool ok = false;
+    QString error;
     options.intervalMs = parser.value(intervalOption).toInt(&ok);
     if (!ok || options.intervalMs <= 0)
         return usageError(QStringLiteral("--interval needs a positive number of milliseconds, not \"%1\"").arg(parser.value(intervalOption)));
@@ -107,6 +117,28 @@ int main(int argc, char *argv[])
     }
     options.commissioning = parser.isSet(commissioningOption);
 
+    // Said once the line is up, so that "slave:" stays the first line for whoever reads us.
+    QStringList programNotes;
+    if (parser.isSet(programsOption)) {
+        ProgramStore store;
+        if (!store.loadFile(parser.value(programsOption), &programNotes, &error))
+            return usageError(QStringLiteral("--programs: ") + error);
+        options.programs = store.programs();
+    }
+    if (parser.isSet(manyOption)) {
+        const int count = parser.value(manyOption).toInt(&ok);
+        if (!ok || count < 0 || count > kMaxGenerated)
+            return usageError(QStringLiteral("--many needs a count from 0 to %1, not \"%2\"").arg(kMaxGenerated).arg(parser.value(manyOption)));
+        ProgramStore store(options.programs);
+        const int before = store.size();
+        for (const heatfile::Program &program : sampleprograms::generated(count))
+            store.put(program);
+        if (store.size() != before + count)
+            programNotes.append(QStringLiteral("programs: %1 generated ones took the place of programs of the same name")
+                                    .arg(before + count - store.size()));
+        options.programs = store.programs();
+    }
+
     int runForMs = -1;
     if (parser.isSet(runForOption)) {
         const double seconds = parser.value(runForOption).toDouble(&ok);
@@ -118,12 +150,13 @@ int main(int argc, char *argv[])
     }
 
     PtyLine line;
-    QString error;
     if (!line.open(&error)) {
         std::fprintf(stderr, "hx3sim: cannot create the pseudo-terminal: %s\n", qPrintable(error));
         return 1;
     }
     printLine(QStringLiteral("slave: %1").arg(line.slavePath()));
+    for (const QString &note : qAsConst(programNotes))
+        printLine(note);
 
     if (parser.isSet(linkOption)) {
         switch (line.createLink(parser.value(linkOption), &error)) {

@@ -18,7 +18,9 @@ namespace {
 // most, and how long to wait after that before the end byte, so the two never share a read.
 constexpr int kPollIntervalMs = 1;
 constexpr int kGiveUpMs = 1000;
-constexpr int kSettleMs = 3;
+// Long enough for a busy panel to have handled the body before the end byte arrives;
+// a real line leaves a similar gap. At one frame a second it costs nothing.
+constexpr int kSettleMs = 15;
 
 QString errnoText(const char *what)
 {

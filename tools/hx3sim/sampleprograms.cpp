@@ -2,10 +2,7 @@
 
 namespace sampleprograms {
 
-namespace {
-constexpr int kKelvinOffset = 273;
-const QString kArgon = QStringLiteral("Argon");
-}  // namespace
+using heatfile::Program;
 
 QList<Program> programs()
 {
@@ -19,30 +16,44 @@ QList<Program> programs()
         {QStringLiteral("Prime Translucent"), QStringLiteral("DentaCeram"), zirkon, false,
          {{20, 900, 30}, {10, 1200, 0}, {5, 1530, 120}, {50, 800, 0}}},
         {QStringLiteral("Multilayer HT"), QStringLiteral("Zircos"), zirkon, false, {{15, 1100, 15}, {8, 1480, 90}}},
-        {QStringLiteral("CoCr Laser"), QStringLiteral("Metallix"), kArgon, false,
+        {QStringLiteral("CoCr Laser"), QStringLiteral("Metallix"), QStringLiteral("Argon"), false,
          {{30, 800, 10}, {15, 1150, 20}, {10, 1300, 60}}},
         {QStringLiteral("Kalibrierung"), service, QStringLiteral("Leerbrand"), false, {{50, 1000, 30}, {20, 1500, 10}}},
         {QStringLiteral("Ausheizen"), service, QStringLiteral("Leerbrand"), false, {{50, 1100, 60}}},
     };
 }
 
-QByteArray heatfileText(const Program &program)
+QList<Program> generated(int count)
 {
-    QString text = QStringLiteral("[metainfo];name=%1;manufacturer=%2;material=%3;favorite=%4;")
-                       .arg(program.name, program.manufacturer, program.material,
-                            program.favorite ? QStringLiteral("true") : QStringLiteral("false"));
-    const bool argon = program.material == kArgon;
-    for (int i = 0; i < program.segments.size(); ++i) {
-        const Segment &segment = program.segments.at(i);
-        text += QStringLiteral("[%1];rate=%2;temp=%3;hold=%4;")
-                    .arg(i + 1)
-                    .arg(segment.rate)
-                    .arg(segment.tempCelsius + kKelvinOffset)
-                    .arg(segment.holdMinutes * 60);
-        if (argon)
-            text += QStringLiteral("argon=on;");
+    static const QString makers[] = {QStringLiteral("DentaCeram"), QStringLiteral("Zircos"), QStringLiteral("Metallix")};
+    const int width = qMax(3, QString::number(count).size());
+    QList<Program> list;
+    list.reserve(count);
+    for (int i = 1; i <= count; ++i) {
+        Program program;
+        program.name = QStringLiteral("Programm %1").arg(i, width, 10, QLatin1Char('0'));
+        switch (i % 3) {
+        case 1:
+            program.manufacturer = QStringLiteral("user");
+            program.material = i % 2 != 0 ? QStringLiteral("Zirkon") : QStringLiteral("Glaskeramik");
+            program.favorite = i % 15 == 1;
+            break;
+        case 2:
+            program.manufacturer = makers[(i / 3) % 3];
+            program.material = program.manufacturer == makers[2] ? QStringLiteral("Argon") : QStringLiteral("Zirkon");
+            break;
+        default:
+            program.manufacturer = QStringLiteral("service");
+            program.material = QStringLiteral("Leerbrand");
+            break;
+        }
+        // Steps of 7 through ten give every length from 1 to 10 in any ten programs in a row.
+        const int segments = 1 + (i * 7) % heatfile::kMaxSegments;
+        for (int s = 0; s < segments; ++s)
+            program.segments.append({5 + (i * 3 + s * 11) % 46, 600 + ((i * 37 + s * 113) % 96) * 10, ((i + s * 7) % 25) * 5});
+        list.append(program);
     }
-    return text.toUtf8();
+    return list;
 }
 
 }  // namespace sampleprograms

@@ -1,34 +1,18 @@
 #pragma once
 
-#include <QByteArray>
-#include <QList>
-#include <QString>
+#include "heatfile.h"
 
-// The heat programs the controller holds and hands to the panel at start-up.
+#include <QList>
+
+// The heat programs a controller fresh from the factory holds.
 namespace sampleprograms {
 
-struct Segment
-{
-    int rate = 0;          // degrees per minute
-    int tempCelsius = 0;   // target of the segment
-    int holdMinutes = 0;   // time held at the target
-};
+// Own programs of the operator (one a favourite), makers' programs of two makers in zirconia
+// and one under argon, and service programs.
+QList<heatfile::Program> programs();
 
-struct Program
-{
-    QString name;
-    // "user": the operator's own program; "service": a service program; anything else: the
-    // maker of the material, whose program the operator cannot change.
-    QString manufacturer;
-    // "Argon" switches the gas on in every segment.
-    QString material;
-    bool favorite = false;
-    QList<Segment> segments;
-};
-
-QList<Program> programs();
-
-// The text of a program as the heatfile command carries it: Kelvin and seconds on the line.
-QByteArray heatfileText(const Program &program);
+// "Programm 001" ... for long lists: user, maker's and service programs in turn, 1 to 10
+// segments. The same count always gives the same programs.
+QList<heatfile::Program> generated(int count);
 
 }  // namespace sampleprograms
