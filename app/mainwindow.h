@@ -8,6 +8,7 @@
 #include <QStringList>
 
 class QTimer;
+class QPlainTextEdit;
 class QScrollArea;
 class QVBoxLayout;
 
@@ -73,6 +74,11 @@ public:
     // A firing is running; the display key then leaves the door alone.
     void SetHeatProgramInProgress(bool running) { m_heatProgramInProgress = running; }
     bool IsFahrenheit() const { return m_fahrenheit; }
+    bool IsHeatProgramInProgress() const { return m_heatProgramInProgress; }
+    unsigned int PreDryMinutes() const { return m_preDryMinutes; }
+    Popups::TimerPopup *GetTimerPopup() const { return m_timerPopup; }
+    Popups::PopupTempWarning *GetTempWarning() const { return m_popupTempWarning; }
+    Popups::PopupArgonFailure *GetArgonFailurePopup() const { return m_popupArgonFailure; }
     bool IsSelftestPending() const;
 
 public slots:
@@ -111,6 +117,26 @@ public slots:
     void CheckChangeInProcess(const QString &message);
     void SlotCheckHeatfileCount(int count);
     void Slot_MaterialSelected(const QString &material);
+
+    // Firing: start, progress, result, stop, end-time estimate, pre-dry and delayed start.
+    void SlotGenerateProgRequest();
+    void SlotHeatfileInProgress(const QString &info);
+    void SlotSetHeatProcessResult(const QString &result);
+    void SlotReqStopHeatfile(bool confirmed);
+    void SlotChartClicked();
+    void CalculateProcessTime(ovra::GlobalElements::Program *program, unsigned short preDry, const QString &timer);
+    void UpdateProcessTime();
+    void DisplayRemainingTime(const QString &minutes);
+    void SlotIncPreDryTime();
+    void Slot_ShowTimerPopup();
+
+    // Material, door insulation and argon.
+    void SlotMaterialChanged(const QString &material);
+    void SlotMaterialChangedReaction();
+    void SlotSetArgonOven(const QString &text);
+    void SlotArgonPressureFailure(const QString &result);
+    void SlotInsulationMissing();
+    void SlotDoorIsolationInsert();
 
     // Temperature and door.
     void SlotTempReceived(const QString &temperature);
@@ -228,6 +254,13 @@ private:
     quint16 m_hfresendCount = 0;
     bool m_saveAtOnce = false;
     bool m_changeInProcess = false;
+
+    // Firing.
+    unsigned int m_preDryMinutes = 0;
+    bool m_preDryRunning = false;
+    unsigned int m_currentTemp = 0;
+    bool m_argonOven = false;
+    QPlainTextEdit *m_autostartNote = nullptr;
 
     // Navigation memory.
     Page m_currentPage = Page::StartUp;

@@ -271,6 +271,7 @@ void MainWindow::SetDeviceDataCaptions()
 void MainWindow::SlotExitButtonClicked()
 {
     ui->widget_newProg->ResetName();
+    m_changeInProcess = false; // a change of the running program ends with the editor
     Statemachine(Page::MainMenu);
     m_editMode = false;
 }
@@ -280,6 +281,7 @@ void MainWindow::SlotBackButtonClicked()
     const int shown = ui->stackedWidget->currentIndex();
     if (shown == Page::NewProg) {
         m_editMode = false;
+        m_changeInProcess = false;
         ui->widget_newProg->ResetName();
     }
     Statemachine(PageTables::BackTarget(shown, m_origins));

@@ -6,8 +6,16 @@
 #include "process/chart.h"
 #include "process/temperaturetext.h"
 #include "programs/program.h"
+#include "faults/errorhandler.h"
 #include "programs/programhandler.h"
+#include "popups/popupargonfailure.h"
+#include "popups/popupstop.h"
+#include "popups/timerpopup.h"
+#include "process/processtime.h"
 #include "ui_mainwindow.h"
+
+#include <QPlainTextEdit>
+#include <QTimer>
 
 namespace ovra {
 namespace Mainwindow {
@@ -16,8 +24,32 @@ using GlobalElements::Pageinterface;
 
 void MainWindow::ConnectProcessLink()
 {
-    connect(m_messageHandler, &Communication::MessageHandler::SignalTemperature, this, &MainWindow::SlotTempReceived);
-    connect(m_messageHandler, &Communication::MessageHandler::SignalDoor, this, &MainWindow::SlotDoor);
+    using Communication::MessageHandler;
+    using GlobalElements::Iconbutton;
+    connect(m_messageHandler, &MessageHandler::SignalTemperature, this, &MainWindow::SlotTempReceived);
+    connect(m_messageHandler, &MessageHandler::SignalDoor, this, &MainWindow::SlotDoor);
+    connect(m_messageHandler, &MessageHandler::SignalHeatfileInfo, this, &MainWindow::SlotHeatfileInProgress);
+    connect(m_messageHandler, &MessageHandler::SignalHeatfileProcess, this, &MainWindow::SlotSetHeatProcessResult);
+    connect(m_messageHandler, &MessageHandler::SignalArgon, this, &MainWindow::SlotSetArgonOven);
+    connect(m_messageHandler, &MessageHandler::SignalMaterialChanged, this, &MainWindow::SlotMaterialChanged);
+    connect(m_messageHandler, &MessageHandler::SignalInsulationMissing, this, &MainWindow::SlotInsulationMissing);
+    connect(m_timerPopup, &Popups::TimerPopup::SignalAutoStartTimerSet, this, &MainWindow::UpdateProcessTime);
+    // Leaving the popup without a time leaves no delayed start behind.
+    connect(m_timerPopup, &QDialog::rejected, this, [this] {
+        if (m_timerPopup->GetRequestedTimer().isEmpty())
+            ui->widget_timerPlayProg->SetChecked(false);
+    });
+    connect(m_popupStop, &Popups::PopupStop::SignalPopupStopButton, this, &MainWindow::SlotReqStopHeatfile);
+    connect(ui->widget_chart_process, &GlobalElements::Chart::SignalChartClicked, this, &MainWindow::SlotChartClicked);
+    connect(ui->widget_timerPreDry, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotIncPreDryTime);
+    connect(ui->widget_timerPlayProg, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::Slot_ShowTimerPopup);
+    connect(ui->widget_playNewProg, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotGenerateProgRequest);
+    connect(ui->widget_acceptMaterialChanged, &Iconbutton::Signal_ButtonClicked, this,
+            &MainWindow::SlotMaterialChangedReaction);
+    connect(ui->widget_rejectMaterialChanged, &Iconbutton::Signal_ButtonClicked, this,
+            &MainWindow::SlotMaterialChangedReaction);
+    connect(ui->widget_doorIsolation_accept, &Iconbutton::Signal_ButtonClicked, this,
+            &MainWindow::SlotDoorIsolationInsert);
 }
 
 void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pageinterface::en_pages page)
@@ -37,7 +69,19 @@ void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pagei
     material->SetIcon(materialText.remove(QLatin1Char(' ')) == QLatin1String("Argon") ? QStringLiteral(":/Play/Gas.png")
                                                                                      : QString());
     if (play) {
+        if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
+            ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
+            delete m_autostartNote;
+            m_autostartNote = nullptr;
+            ui->horizontalLayout_playButtons->setSpacing(6);
+        }
+        // A program is shown without pre-dry and without a delayed start.
+        ui->widget_timerPreDry->SetChecked(false);
+        ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
         ui->widget_timerPlayProg->SetChecked(false);
+        m_timerPopup->ResetRequest();
+        m_preDryMinutes = 0;
+        CalculateProcessTime(program, 0, m_timerPopup->GetRequestedTimer());
         ui->widget_playProgChange->setVisible(userProgram);
         ui->widget_playProgDelete->setVisible(userProgram);
     }
@@ -78,6 +122,273 @@ void MainWindow::PreparePageProcess()
     ui->widget_processPreDryInfo->setAttribute(Qt::WA_TransparentForMouseEvents, true);
 }
 
+void MainWindow::SlotGenerateProgRequest()
+{
+    m_errorHandler->DeleteProcessErrorList();
+    // Neither a start nor a door movement may be sent twice within a second.
+    ui->widget_playNewProg->setEnabled(false);
+    ui->widget_doorPlayNewProg->setEnabled(false);
+    m_playEnableTimer->start();
+
+    if (ui->widget_playNewProg->IsChecked()) {
+        const QString name = ui->label_Name->text();
+        const QString pre = QString::number(m_preDryMinutes);
+        const QString request = ui->widget_timerPlayProg->IsChecked()
+                                    ? m_timerPopup->GetRequestedTimer() + QLatin1Char(',') + name + QLatin1Char(',') + pre
+                                    : QStringLiteral("hpstart==") + name + QLatin1Char(',') + pre;
+        m_preDryMinutes = 0;
+        m_messageHandler->SetRequest(request);
+        ui->widget_timerPlayProg->setVisible(false);
+        ui->widget_doorPlayNewProg->setVisible(false);
+    } else {
+        // Pressed again: the start, or the delayed start, is called off.
+        SlotReqStopHeatfile(true);
+        m_messageHandler->SetRequest(QStringLiteral("timer=="));
+        ui->widget_timerPlayProg->setVisible(true);
+        ui->widget_doorPlayNewProg->setVisible(true);
+    }
+}
+
+void MainWindow::SlotHeatfileInProgress(const QString &info)
+{
+    if (info.isEmpty()) {
+        // The firing is over.
+        ui->widget_timerPlayProg->setEnabled(true);
+        ui->widget_playNewProg->setEnabled(true);
+        ui->widget_exitProcessProg->setEnabled(true);
+        ui->widget_backProcessProg->setEnabled(true);
+        ui->widget_doorProcessProg->setVisible(true);
+        ui->widget_processPreDryInfo->setVisible(false);
+        ui->widget_processPreDryInfo->SetChecked(false);
+        m_preDryRunning = false;
+        m_heatProgramInProgress = false;
+        return;
+    }
+    const QStringList fields = info.split(QLatin1Char(';'));
+    if (fields.size() < 4)
+        return;
+    m_heatProgramInProgress = true;
+    if (m_currentPage != Page::ProcessProg && !m_changeInProcess) {
+        // A firing started elsewhere, or before the panel, brings the panel to it.
+        if (GlobalElements::Program *program = m_programHandler->GetProgramByName(fields.at(0)))
+            Slot_ShowChoosenProgram(program, Page::ProcessProg);
+    }
+    if (m_currentPage != Page::ProcessProg || m_changeInProcess)
+        return;
+    ui->widget_backProcessProg->setEnabled(false);
+    ui->widget_exitProcessProg->setEnabled(false);
+    ui->widget_doorProcessProg->setVisible(false);
+    DisplayRemainingTime(fields.at(1));
+    if (fields.at(2) == QLatin1String("pre")) {
+        m_preDryRunning = true;
+        ui->widget_processPreDryInfo->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
+        ui->widget_processPreDryInfo->setVisible(true);
+        ui->widget_processPreDryInfo->SetChecked(true);
+    } else {
+        m_preDryRunning = false;
+        ui->widget_processPreDryInfo->setVisible(false);
+        ui->widget_processPreDryInfo->SetChecked(false);
+        ui->widget_chart_process->UpdateChart(fields.at(2).toUInt(), fields.at(3), m_currentTemp);
+    }
+}
+
+void MainWindow::SlotSetHeatProcessResult(const QString &result)
+{
+    if (result == QLatin1String("hpsuccess")) {
+        ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/success.png);"));
+        ui->widget_chart_process->UpdateChart(99, QStringLiteral("done"), m_currentTemp);
+    } else {
+        ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    }
+    m_heatProgramInProgress = false;
+    ui->widget_exitProcessProg->setVisible(true);
+    ui->widget_backProcessProg->setVisible(true);
+    ui->widget_stopProcessProg->setVisible(false);
+    ui->widget_doorProcessProg->setVisible(true);
+}
+
+void MainWindow::SlotReqStopHeatfile(bool confirmed)
+{
+    if (!confirmed)
+        return;
+    // A failure shown before the stop stays visible.
+    if (!ui->label_processResult->styleSheet().contains(QLatin1String("Failure")))
+        ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    m_messageHandler->SetRequest(QStringLiteral("hpstop"));
+    m_heatProgramInProgress = false;
+    ui->widget_exitProcessProg->setVisible(true);
+    ui->widget_backProcessProg->setVisible(true);
+    ui->widget_stopProcessProg->setVisible(false);
+    ui->widget_doorProcessProg->setVisible(true);
+}
+
+void MainWindow::SlotChartClicked()
+{
+    // Only a running firing's program can be changed from its chart.
+    if (!ui->widget_stopProcessProg->isVisibleTo(ui->page_processProg))
+        return;
+    m_changeInProcess = true;
+    m_saveAtOnce = true;
+    m_editMode = true;
+    m_programHandler->SetChangeInProcess();
+    Statemachine(Page::ChangeProg);
+}
+
+void MainWindow::CalculateProcessTime(GlobalElements::Program *program, unsigned short preDry, const QString &timer)
+{
+    if (program == nullptr || program->GetMatrix()->isEmpty())
+        return;
+    using namespace Process::ProcessTime;
+    const int oven = OvenCelsiusFromDisplay(ui->widget_tempPlay->GetText(), m_fahrenheit);
+    const qint64 minutes = Minutes(*program->GetMatrix(), oven, preDry, m_fahrenheit);
+    ui->widget_showPlayTime->SetText(EndOfDay(StartClock(ui->label_Time->text(), timer), minutes));
+}
+
+void MainWindow::DisplayRemainingTime(const QString &minutes)
+{
+    const QString end = Process::ProcessTime::EndOfDay(ui->label_Time->text(), minutes.toLongLong());
+    ui->widget_showPlayTime->SetText(end);
+    ui->widget_showProcessTime->SetText(end);
+}
+
+void MainWindow::UpdateProcessTime()
+{
+    GlobalElements::Program *program = m_programHandler->GetProgramByName(ui->label_Name->text());
+    const QString timer = m_timerPopup->GetRequestedTimer();
+    CalculateProcessTime(program, static_cast<unsigned short>(m_preDryMinutes), timer);
+
+    const bool userProgram = program != nullptr && program->GetManufacturer() == ProgramHandler::ProgramHandler::userManufacturer;
+    if (m_autostartNote == nullptr && ui->widget_timerPlayProg->IsChecked()) {
+        const QString request = timer.section(QStringLiteral("=="), 1);
+        const QString date = request.section(QLatin1Char(','), 0, 0);
+        const QString time = request.section(QLatin1Char(','), 1, 1);
+        const QString blanks = QStringLiteral("      ");
+        const QString text = QStringLiteral("      Autostart: ") + QLatin1Char('\n') + blanks + time.left(2)
+                             + QLatin1Char(':') + time.mid(2, 2) + QLatin1Char('\n') + blanks + date.mid(6, 2)
+                             + QLatin1Char('/') + date.mid(4, 2) + QLatin1Char('/') + date.left(4);
+        if (ui->horizontalLayout_playButtons->count() < 4) {
+            m_autostartNote = new QPlainTextEdit(text);
+            m_autostartNote->setObjectName(QStringLiteral("plainTextEdit_autostart"));
+            m_autostartNote->setReadOnly(true);
+            m_autostartNote->setFont(QFont(QStringLiteral("Monserrat"), 16));
+            m_autostartNote->setStyleSheet(QStringLiteral("QPlainTextEdit{\n border: 0px;\n color: rgb(83, 88, 91);\n}"));
+            m_autostartNote->setFocusPolicy(Qt::NoFocus);
+            m_autostartNote->setAttribute(Qt::WA_TransparentForMouseEvents);
+            m_autostartNote->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+            m_autostartNote->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+            m_autostartNote->setFixedSize(200, 64);
+            ui->horizontalLayout_playButtons->insertWidget(0, m_autostartNote);
+            ui->horizontalLayout_playButtons->setSpacing(0);
+            ui->widget_playProgChange->setVisible(false);
+            ui->widget_playProgDelete->setVisible(false);
+        }
+    } else if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
+        ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
+        delete m_autostartNote;
+        m_autostartNote = nullptr;
+        ui->horizontalLayout_playButtons->setSpacing(6);
+        ui->widget_playProgChange->setVisible(userProgram);
+        ui->widget_playProgDelete->setVisible(userProgram);
+    }
+}
+
+void MainWindow::SlotIncPreDryTime()
+{
+    struct Step
+    {
+        unsigned int next;
+        bool checked;
+        const char *icon;
+    };
+    static const QList<QPair<unsigned int, Step>> steps = {
+        {0, {15, true, ":/Vortrocknen/released15_1.png"}},
+        {15, {30, true, ":/Vortrocknen/released30_1.png"}},
+        {30, {45, true, ":/Vortrocknen/released45_1.png"}},
+        {45, {60, true, ":/Vortrocknen/released60_1.png"}},
+        {60, {0, false, ":/Vortrocknen/Dry_Up_Timer.png"}},
+    };
+    Step step = {0, false, ":/Vortrocknen/Dry_Up_Timer.png"};
+    for (const auto &entry : steps) {
+        if (entry.first == m_preDryMinutes)
+            step = entry.second;
+    }
+    m_preDryMinutes = step.next;
+    ui->widget_timerPreDry->SetChecked(step.checked);
+    ui->widget_timerPreDry->SetIcon(QString::fromLatin1(step.icon));
+    CalculateProcessTime(m_programHandler->GetProgramByName(ui->label_Name->text()),
+                         static_cast<unsigned short>(m_preDryMinutes), m_timerPopup->GetRequestedTimer());
+}
+
+void MainWindow::Slot_ShowTimerPopup()
+{
+    if (ui->widget_timerPlayProg->IsChecked() && m_autostartNote == nullptr) {
+        if (m_timerPopup->SetDateTime(ui->label_Date->text(), ui->label_Time->text()))
+            m_timerPopup->open();
+        else
+            ui->widget_timerPlayProg->SetChecked(false);
+        return;
+    }
+    m_timerPopup->ResetRequest();
+    UpdateProcessTime();
+}
+
+void MainWindow::SlotMaterialChanged(const QString &material)
+{
+    const QString picture = material == QLatin1String("argon") ? QStringLiteral("url(:/Material/Argon.jpg);")
+                                                                : QStringLiteral("url(:/Material/Zirkon.jpg);");
+    // Scoped to the screen itself: its buttons keep their own look.
+    ui->page_MatChange->setStyleSheet(QStringLiteral("QWidget#page_MatChange { background: ") + picture
+                                      + QStringLiteral(" }"));
+    ui->stackedWidget_main->setCurrentIndex(2);
+}
+
+void MainWindow::SlotMaterialChangedReaction()
+{
+    if (sender() == ui->widget_acceptMaterialChanged) {
+        m_messageHandler->SetRequest(QStringLiteral("matchanged"));
+    } else if (sender() == ui->widget_rejectMaterialChanged) {
+        m_messageHandler->SetRequest(QStringLiteral("matnotchanged"));
+        ui->widget_playNewProg->SetChecked(false);
+        SlotGenerateProgRequest();
+    }
+    ui->stackedWidget_main->setCurrentIndex(0);
+}
+
+void MainWindow::SlotSetArgonOven(const QString &text)
+{
+    if (text == QLatin1String("True")) {
+        m_argonOven = true;
+        // Connected once per report, as the controller expects.
+        connect(m_messageHandler, &Communication::MessageHandler::SignalSelftestArgon, this,
+                &MainWindow::SlotArgonPressureFailure);
+    }
+    ui->progressBar_selftest->setMaximum(75);
+}
+
+void MainWindow::SlotArgonPressureFailure(const QString &result)
+{
+    if (result == m_selftestPassWord)
+        return;
+    m_popupArgonFailure->open();
+    SlotReqStopHeatfile(true);
+}
+
+void MainWindow::SlotInsulationMissing()
+{
+    const QString picture = m_argonOven ? QStringLiteral("background: url(:/Tuerisolation/TuerisoArgon.jpg);")
+                                        : QStringLiteral("background: url(:/Tuerisolation/TuerisoZirkon.jpg);");
+    ui->page_DoorIso->setStyleSheet(QStringLiteral("QWidget#page_DoorIso { ") + picture + QStringLiteral(" }"));
+    ui->stackedWidget_main->setCurrentIndex(3);
+}
+
+void MainWindow::SlotDoorIsolationInsert()
+{
+    m_messageHandler->SetRequest(QStringLiteral("insulationinsert"));
+    ui->stackedWidget_main->setCurrentIndex(0);
+    if (m_initialStartup)
+        m_selftestStartTimer->start(m_options.selftestDelayMs);
+}
+
 void MainWindow::SlotTempReceived(const QString &temperature)
 {
     const Process::TemperatureText shown = Process::TemperatureText::FromCelsiusText(temperature, m_fahrenheit);
@@ -85,6 +396,7 @@ void MainWindow::SlotTempReceived(const QString &temperature)
     ui->widget_tempProcess->SetText(shown.text);
     ui->widget_temp->SetText(shown.text);
     m_lastTemp = static_cast<float>(shown.value);
+    m_currentTemp = shown.value;
     CheckTempDoor();
 }
 

@@ -222,8 +222,11 @@ void MainWindow::PreparePageChangeProgram(const QString &name)
 
 void MainWindow::CheckChangeInProcess(const QString &message)
 {
-    if (message.contains(QLatin1String("hpchange")))
+    // The change of the running program has gone out: progress reports count again.
+    if (message.contains(QLatin1String("hpchange"))) {
         m_saveAtOnce = false;
+        m_changeInProcess = false;
+    }
 }
 
 void MainWindow::SlotCheckHeatfileCount(int count)

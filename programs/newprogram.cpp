@@ -97,7 +97,11 @@ NewProgram::NewProgram(QWidget *parent)
     Translate();
 }
 
-NewProgram::~NewProgram() = default;
+NewProgram::~NewProgram()
+{
+    // The gesture recogniser a grab registers is only given back by ungrabbing.
+    QScroller::ungrabGesture(ui->scrollArea_rows->viewport());
+}
 
 void NewProgram::SetupDigitPad()
 {

@@ -1,0 +1,106 @@
+// The end-time estimate and the temperature text: integer minutes, falls timed like rises,
+// the pre-dry term's unit asymmetry, the 24-hour wrap.
+#include "process/processtime.h"
+#include "process/temperaturetext.h"
+
+#include <QtTest>
+
+using namespace ovra::Process;
+
+class TestProcessTime : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void minutes_data();
+    void minutes();
+    void endOfDay_data();
+    void endOfDay();
+    void startClockOfADelayedStart();
+    void ovenTemperatureFromTheDisplay();
+    void temperatureText();
+};
+
+void TestProcessTime::minutes_data()
+{
+    QTest::addColumn<ProcessTime::Matrix>("matrix");
+    QTest::addColumn<int>("oven");
+    QTest::addColumn<uint>("pre");
+    QTest::addColumn<bool>("fahrenheit");
+    QTest::addColumn<qint64>("expected");
+
+    QTest::newRow("one segment") << ProcessTime::Matrix{{10u, 1000u, 30u}} << 20 << 0u << false << qint64(128);
+    QTest::newRow("remainder dropped") << ProcessTime::Matrix{{7u, 1000u, 0u}} << 20 << 0u << false << qint64(140);
+    QTest::newRow("fall counts") << ProcessTime::Matrix{{10u, 1000u, 0u}, {5u, 900u, 10u}} << 20 << 0u << false
+                                 << qint64(98 + 20 + 10);
+    QTest::newRow("oven hotter than target") << ProcessTime::Matrix{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);
+    QTest::newRow("pre-dry hot oven, celsius") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << false
+                                               << qint64(0 + 15 - 7);
+    QTest::newRow("pre-dry hot oven, fahrenheit") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << true
+                                                  << qint64(15);
+    QTest::newRow("pre-dry cold oven") << ProcessTime::Matrix{{10u, 20u, 0u}} << 20 << 30u << true << qint64(41);
+    QTest::newRow("no pre-dry adds nothing") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 0u << false << qint64(0);
+    QTest::newRow("zero rate is no time") << ProcessTime::Matrix{{0u, 1000u, 5u}} << 20 << 0u << false << qint64(5);
+}
+
+void TestProcessTime::minutes()
+{
+    QFETCH(ProcessTime::Matrix, matrix);
+    QFETCH(int, oven);
+    QFETCH(uint, pre);
+    QFETCH(bool, fahrenheit);
+    QFETCH(qint64, expected);
+    QCOMPARE(ProcessTime::Minutes(matrix, oven, pre, fahrenheit), expected);
+}
+
+void TestProcessTime::endOfDay_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<qint64>("minutes");
+    QTest::addColumn<QString>("end");
+    QTest::newRow("past midnight") << "23:30" << qint64(90) << "01:00";
+    QTest::newRow("same day") << "09:05" << qint64(128) << "11:13";
+    QTest::newRow("whole day") << "10:00" << qint64(1440) << "10:00";
+    QTest::newRow("negative estimate") << "00:10" << qint64(-20) << "23:50";
+    QTest::newRow("unreadable clock") << "" << qint64(65) << "01:05";
+}
+
+void TestProcessTime::endOfDay()
+{
+    QFETCH(QString, start);
+    QFETCH(qint64, minutes);
+    QTEST(ProcessTime::EndOfDay(start, minutes), "end");
+}
+
+void TestProcessTime::startClockOfADelayedStart()
+{
+    QCOMPARE(ProcessTime::StartClock(QStringLiteral("10:00"), QString()), QStringLiteral("10:00"));
+    QCOMPARE(ProcessTime::StartClock(QStringLiteral("10:00"), QStringLiteral("timer==20270303,0905")),
+             QStringLiteral("09:05"));
+}
+
+void TestProcessTime::ovenTemperatureFromTheDisplay()
+{
+    QCOMPARE(ProcessTime::OvenCelsiusFromDisplay(QStringLiteral("1200°C"), false), 1200);
+    QCOMPARE(ProcessTime::OvenCelsiusFromDisplay(QStringLiteral("392°F"), true), 200);
+    QCOMPARE(ProcessTime::OvenCelsiusFromDisplay(QStringLiteral("70°F"), true), 21);
+    QCOMPARE(ProcessTime::OvenCelsiusFromDisplay(QString(), false), 0);
+    QCOMPARE(ProcessTime::OvenCelsiusFromDisplay(QString(), true), -17); // 0 °F
+}
+
+void TestProcessTime::temperatureText()
+{
+    const TemperatureText c = TemperatureText::FromCelsiusText(QStringLiteral("1200"), false);
+    QCOMPARE(c.text, QStringLiteral("1200°C"));
+    QCOMPARE(c.value, 1200u);
+    const TemperatureText f = TemperatureText::FromCelsiusText(QStringLiteral("21.6"), true);
+    QCOMPARE(f.text, QStringLiteral("70°F"));
+    QCOMPARE(f.value, 70u);
+    // A wrapped reading from the controller stays a number, never undefined.
+    const TemperatureText wrapped = TemperatureText::FromCelsiusText(QStringLiteral("4294967295"), true);
+    QCOMPARE(wrapped.text, QStringLiteral("2147483647°F"));
+    QCOMPARE(TemperatureText::FromCelsiusText(QStringLiteral("hot"), true).text, QStringLiteral("32°F"));
+}
+
+QTEST_GUILESS_MAIN(TestProcessTime)
+#include "tst_processtime.moc"
