@@ -276,7 +276,8 @@ void MainWindow::UpdateProcessTime()
             m_autostartNote->setAttribute(Qt::WA_TransparentForMouseEvents);
             m_autostartNote->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
             m_autostartNote->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-            m_autostartNote->setFixedSize(200, 64);
+            m_autostartNote->document()->setDocumentMargin(0);
+            m_autostartNote->setFixedSize(180, 72); // three lines at 16 pt
             ui->horizontalLayout_playButtons->insertWidget(0, m_autostartNote);
             ui->horizontalLayout_playButtons->setSpacing(0);
             ui->widget_playProgChange->setVisible(false);

@@ -1,7 +1,15 @@
 // The panel's start-up against the controller simulator over a pseudo-terminal: splash,
 // device data, the automatic self-test, the main menu, and the commissioning walk.
 #include "app/mainwindow.h"
+#include "programs/newprogram.h"
+#include "programs/tablerow.h"
 #include "ui_mainwindow.h"
+#include "widgets/iconbutton.h"
+#include "widgets/keyboard.h"
+#include "widgets/programbutton.h"
+
+#include <QLineEdit>
+#include <QPushButton>
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -72,6 +80,7 @@ private slots:
     void initTestCase();
     void automaticSelftestLeadsToTheMainMenu();
     void commissioningWalksTheSettingsPages();
+    void programCreatedOnThePanelReachesTheController();
 
 private:
     MainWindow *makeWindow(const QString &port, QTemporaryDir &home);
@@ -145,6 +154,64 @@ void TestStartUp::commissioningWalksTheSettingsPages()
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("unit: f")), 5000);
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("commissioning done")), 5000);
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 5000);
+}
+
+void TestStartUp::programCreatedOnThePanelReachesTheController()
+{
+    Simulator sim({QStringLiteral("--verbose")});
+    const QString slave = sim.SlavePath();
+    QVERIFY(!slave.isEmpty());
+    QTemporaryDir home;
+    QScopedPointer<MainWindow> window(makeWindow(slave, home));
+    Ui::MainWindow *ui = window->GetUi();
+    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 15000);
+
+    // The controller's user programs are listed.
+    auto press = [](QWidget *w) {
+        auto *button = qobject_cast<QAbstractButton *>(w) ? qobject_cast<QAbstractButton *>(w)
+                                                           : w->findChild<QAbstractButton *>();
+        QTest::mouseClick(button, Qt::LeftButton);
+    };
+    window->Statemachine(Page::MyProgs);
+    QTRY_VERIFY_WITH_TIMEOUT(window->GetProgramButtons().size() >= 3, 5000);
+
+    // A new program, typed on the panel's own pads.
+    press(ui->widget_myProgsNew);
+    QCOMPARE(window->CurrentPage(), Page::NewProg);
+    ovra::GlobalElements::NewProgram *editor = ui->widget_newProg;
+    auto type = [&](QLineEdit *field, const QString &digits) {
+        QTest::mouseClick(field, Qt::LeftButton);
+        for (const QChar d : digits)
+            press(editor->findChild<QPushButton *>(QStringLiteral("pushButton_pad") + d));
+    };
+    ovra::GlobalElements::TableRow *row = editor->GetRows().first();
+    type(row->GetRateField(), QStringLiteral("25"));
+    type(row->GetTempField(), QStringLiteral("1450"));
+    type(row->GetTimeField(), QStringLiteral("40"));
+    press(editor->findChild<QPushButton *>(QStringLiteral("pushButton_padEnter")));
+    ovra::GlobalElements::TableRow *second = editor->GetRows().at(1);
+    type(second->GetRateField(), QStringLiteral("10"));
+    type(second->GetTempField(), QStringLiteral("1530"));
+    type(second->GetTimeField(), QStringLiteral("120"));
+    press(editor->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_fwd")));
+    press(editor->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_fwdChart")));
+    ovra::GlobalElements::Keyboard *keyboard = editor->findChild<ovra::GlobalElements::Keyboard *>();
+    press(keyboard->findChild<QPushButton *>(QStringLiteral("pushButton_shift")));
+    for (const char *key : {"k", "r", "o", "n", "e"})
+        press(keyboard->findChild<QPushButton *>(QStringLiteral("pushButton_") + QLatin1String(key)));
+    QCOMPARE(editor->GetNameField()->text(), QStringLiteral("Krone"));
+    press(editor->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_save")));
+
+    // The controller stores exactly what the panel wrote; the panel shows the new program.
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("heatfile text: [metainfo];name=Krone;manufacturer=user;"
+                                                        "material=Zirkon;favorite=false;[1];rate=25;temp=1723;"
+                                                        "hold=2400;[2];rate=10;temp=1803;hold=7200;")),
+                             5000);
+    QVERIFY(sim.Printed(QStringLiteral("stored: Krone")));
+    QCOMPARE(window->CurrentPage(), Page::PlayProg);
+    QCOMPARE(ui->label_Name->text(), QStringLiteral("Krone"));
+    window->Statemachine(Page::MyProgs);
+    QVERIFY(window->GetProgramButtons().last()->GetText() == QStringLiteral("Krone"));
 }
 
 QTEST_MAIN(TestStartUp)

@@ -4,12 +4,18 @@
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 #include "popups/popupusb.h"
+#include "popups/timerpopup.h"
+#include "programs/newprogram.h"
+#include "programs/programhandler.h"
+#include "widgets/button.h"
 #include "ui_mainwindow.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 
 namespace ovra {
 namespace Tools {
@@ -94,25 +100,86 @@ QStringList ScreenshotTour::Run()
     Feed("code==4711");
     Feed("stdoor==pass$$stheater==pass$$stcooling==fail");
     Feed("error==E1234,E201");
+    FeedPrograms();
     Feed("guistate==26"); // leaves the device data page, which ends commissioning
     Feed("guistate==12");
     Feed("guistate==26");
+
+    ProgramHandler::ProgramHandler *store = m_window->GetProgramHandler();
+    GlobalElements::Program *speed = store->GetProgramByName(QStringLiteral("Zirkon Speed"));
+    GlobalElements::NewProgram *editor = ui->widget_newProg;
 
     for (int page = 0; page <= int(Page::ChangeProg); ++page) {
         if (page == int(Page::DeviceData)) {
             ui->stackedWidget->setCurrentIndex(page); // shown only once at start-up
             ui->label_Name->setText(QStringLiteral("GERÄTEDATEN"));
+        } else if (page == int(Page::PlayProg) || page == int(Page::ProcessProg)) {
+            m_window->Slot_ShowChoosenProgram(speed, static_cast<Page>(page));
+        } else if (page == int(Page::ChangeProg)) {
+            m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+            m_window->Statemachine(Page::ChangeProg);
         } else {
-            if (page == int(Page::PlayProg) || page == int(Page::ProcessProg) || page == int(Page::ChangeProg))
-                ui->label_Name->setText(QStringLiteral("Zirkon Speed"));
             m_window->Statemachine(static_cast<Page>(page));
         }
         if (page == int(Page::Selftest)) // results arrive after the page is prepared
             Feed("stdoor==pass$$stheater==pass$$stcooling==fail$$st==fail");
         if (page == int(Page::ServicePIN))
             ui->lineEdit_servicePin->setText(QStringLiteral("12"));
+        if (page == int(Page::NewProg))
+            editor->AddRow(20, 900, 10);
+        if (page == int(Page::ProcessProg))
+            Feed("temp==1373$$hpinfo==Zirkon Speed;74;2;heat$$esttime==10:49");
+        if (page == int(Page::DisplayManufacturer) || page == int(Page::DisplayMaterial)) {
+            // One choice made, as the user would.
+            const auto buttons = ui->stackedWidget->currentWidget()->findChildren<GlobalElements::Button *>();
+            for (GlobalElements::Button *button : buttons) {
+                if (button->GetText() == QLatin1String("user") || button->GetText() == QLatin1String("Zirkon"))
+                    button->SetChecked(true);
+            }
+        }
         Save(numbered(QString::fromLatin1(pageNames[page])));
     }
+    editor->SlotDeleteTableContent();
+
+    // The editor's other two views, and a refused name.
+    m_window->Statemachine(Page::MyProgs);
+    m_window->Slot_ShowChoosenProgram(store->GetProgramByName(QStringLiteral("Mein Langzeit")), Page::PlayProg);
+    m_window->Statemachine(Page::ChangeProg);
+    editor->SlotCreateChart();
+    Save(numbered(QStringLiteral("editor_chart")));
+    editor->SlotSaveProg(Page::NewProg);
+    Save(numbered(QStringLiteral("editor_save")));
+    editor->GetNameField()->setText(QStringLiteral("Krone; neu"));
+    editor->SlotCheckOverride();
+    Save(numbered(QStringLiteral("editor_refused")));
+    editor->SlotDeleteTableContent();
+    m_window->SlotExitButtonClicked();
+
+    // A program with pre-dry, and with a delayed start.
+    m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+    m_window->SlotIncPreDryTime();
+    m_window->SlotIncPreDryTime();
+    Save(numbered(QStringLiteral("program_predry")));
+    m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+    ui->widget_timerPlayProg->SetChecked(true);
+    m_window->GetTimerPopup()->SetDateTime(QStringLiteral("23.11.2026"), QStringLiteral("06:30"));
+    m_window->GetTimerPopup()->findChild<QPushButton *>(QStringLiteral("pushButton_ok"))->click();
+    Save(numbered(QStringLiteral("program_autostart")));
+
+    // Fahrenheit: the program and a firing under way, then its end.
+    Feed("unit==f");
+    m_window->Slot_ShowChoosenProgram(store->GetProgramByName(QStringLiteral("Mein Langzeit")), Page::PlayProg);
+    Save(numbered(QStringLiteral("program_fahrenheit")));
+    m_window->Slot_ShowChoosenProgram(store->GetProgramByName(QStringLiteral("Mein Langzeit")), Page::ProcessProg);
+    Feed("temp==1473$$hpinfo==Mein Langzeit;45;2;hold");
+    Save(numbered(QStringLiteral("process_fahrenheit")));
+    Feed("hpsuccess$$hpinfo==");
+    Save(numbered(QStringLiteral("process_success")));
+    Feed("unit==c");
+    m_window->Slot_ShowChoosenProgram(speed, Page::ProcessProg);
+    Feed("temp==1073$$hpinfo==Zirkon Speed;90;1;heat");
+    Feed("hpfailed$$hpinfo==");
+    Save(numbered(QStringLiteral("process_abort")));
 
     m_window->Statemachine(Page::MainMenu);
     ui->stackedWidget_main->setCurrentIndex(2);
@@ -123,8 +190,7 @@ QStringList ScreenshotTour::Run()
     Save(numbered(QStringLiteral("doorinsulation")));
     ui->stackedWidget_main->setCurrentIndex(0);
 
-    ui->label_Name->setText(QStringLiteral("Zirkon Speed"));
-    m_window->Statemachine(Page::PlayProg);
+    m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
     for (QDialog *popup : m_window->findChildren<QDialog *>()) {
         if (auto *usb = qobject_cast<Popups::PopupUSB *>(popup)) {
             usb->SetText(QStringLiteral("  Firmware Aktualisierung...\n  Bitte warten..."));
@@ -134,6 +200,48 @@ QStringList ScreenshotTour::Run()
         SavePopup(numbered(QStringLiteral("popup_") + name), popup);
     }
     return m_written;
+}
+
+void ScreenshotTour::FeedPrograms()
+{
+    struct Sample
+    {
+        const char *name;
+        const char *maker;
+        const char *material;
+        bool fav;
+        QList<QList<unsigned int>> segments; // rate, °C, minutes
+    };
+    const QList<Sample> samples = {
+        {"Zirkon Speed", "user", "Zirkon", true, {{40, 900, 0}, {25, 1450, 20}, {10, 1530, 40}}},
+        {"Mein Langzeit", "user", "Zirkon", false, {{10, 900, 30}, {5, 1450, 60}, {3, 1500, 120}}},
+        {"Brücke 14-gliedrig", "user", "Zirkon", true, {{8, 1100, 60}, {4, 1480, 150}}},
+        {"Argon Krone", "user", "Argon", false, {{15, 850, 10}, {10, 1250, 30}}},
+        {"Abendprogramm", "user", "Zirkon", false, {{5, 1500, 180}}},
+        {"DC Zirkon HT", "DentaCeram", "Zirkon", false, {{10, 1000, 30}, {5, 1530, 120}}},
+        {"DC Zirkon Speed", "DentaCeram", "Zirkon", false, {{35, 1560, 25}}},
+        {"ZS Translucent", "Zircos", "Zirkon", false, {{20, 1100, 0}, {8, 1500, 90}}},
+        {"ZS Multilayer", "Zircos", "Zirkon", true, {{15, 1200, 20}, {6, 1480, 100}}},
+        {"MX Kobalt-Chrom", "Metallix", "Argon", false, {{25, 900, 15}, {10, 1280, 45}}},
+        {"Kalibrierung", "service", "Zirkon", false, {{20, 1200, 60}}},
+        {"Ausheizen", "service", "Zirkon", false, {{10, 1600, 90}}},
+    };
+    for (const Sample &sample : samples) {
+        // The line carries Latin-1: that is how the panel reads the controller's bytes.
+        QByteArray text = "heatfile==[metainfo];name=" + QString::fromUtf8(sample.name).toLatin1() + ";manufacturer=" + sample.maker
+                          + ";material=" + sample.material + ";favorite=" + (sample.fav ? "true" : "false") + ";";
+        for (int i = 0; i < sample.segments.size(); ++i) {
+            const QList<unsigned int> &row = sample.segments.at(i);
+            text += "[" + QByteArray::number(i + 1) + "];rate=" + QByteArray::number(row.at(0)) + ";temp="
+                    + QByteArray::number(row.at(1) + 273) + ";hold=" + QByteArray::number(row.at(2) * 60) + ";";
+            if (QByteArray(sample.material) == "Argon")
+                text += "argon=on;";
+        }
+        Feed(text);
+    }
+    for (int i = 1; i <= 14; ++i) // enough to make the user's list scroll
+        Feed("heatfile==[metainfo];name=Kunde " + QByteArray::number(100 + i)
+             + ";manufacturer=user;material=Zirkon;favorite=false;[1];rate=20;temp=1773;hold=3600;");
 }
 
 } // namespace Tools

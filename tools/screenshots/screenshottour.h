@@ -24,6 +24,7 @@ public:
 
 private:
     void Feed(const QByteArray &fields);
+    void FeedPrograms();
     bool Save(const QString &name);
     bool SavePopup(const QString &name, QDialog *popup);
 
