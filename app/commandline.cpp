@@ -7,6 +7,15 @@
 namespace ovra {
 namespace GlobalElements {
 
+PanelOptions PanelOptions::Sandbox(const QString &home)
+{
+    PanelOptions options;
+    options.port = home + QStringLiteral("/no-line");
+    options.home = home;
+    options.keyPort = 0;
+    return options;
+}
+
 CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptions &options,
                                         QString &output)
 {

@@ -17,6 +17,10 @@ struct PanelOptions
     bool quitAfterStart = false;
     // Development aid: wait before the automatic self-test (the furnace waits 7000 ms).
     int selftestDelayMs = 7000;
+
+    // For running the panel away from the furnace (tests, benchmarks, tools): no serial
+    // device, any free display-key port, `home` standing for the device's home.
+    static PanelOptions Sandbox(const QString &home);
 };
 
 class CommandLine

@@ -43,11 +43,7 @@ int main(int argc, char *argv[])
     const int reports = argc > 1 ? std::max(100, atoi(argv[1])) : 36000; // ten hours
 
     QTemporaryDir home;
-    ovra::GlobalElements::PanelOptions options;
-    options.port = home.path() + QStringLiteral("/no-line");
-    options.home = home.path();
-    options.keyPort = 0;
-    ovra::Mainwindow::MainWindow window(options);
+    ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
     window.show();
     auto feed = [&window](const QByteArray &fields) {
         window.GetMessageHandler()->HandleMessage(QString::fromLatin1(ovra::Communication::Frame::Build(fields)));

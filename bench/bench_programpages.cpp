@@ -43,11 +43,7 @@ int main(int argc, char *argv[])
     std::vector<double> receive, build, paint;
     for (int run = 0; run < 5; ++run) {
         QTemporaryDir home;
-        ovra::GlobalElements::PanelOptions options;
-        options.port = home.path() + QStringLiteral("/no-line");
-        options.home = home.path();
-        options.keyPort = 0;
-        ovra::Mainwindow::MainWindow window(options);
+        ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
         window.show();
         QApplication::processEvents();
 

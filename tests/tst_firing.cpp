@@ -2,6 +2,7 @@
 // result and stop, pre-dry steps, the delayed start, the door and its hot-door warning,
 // material change, door insulation and the argon check.
 #include "app/mainwindow.h"
+#include "panelharness.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 #include "popups/popupargonfailure.h"
@@ -53,8 +54,8 @@ private:
     void click(QWidget *kit);
     void openProgram(const QString &name);
 
-    QScopedPointer<QTemporaryDir> m_home;
-    QScopedPointer<MainWindow> m_window;
+    QScopedPointer<PanelHarness> m_panel;
+    MainWindow *m_window = nullptr;
     Ui::MainWindow *ui = nullptr;
 };
 
@@ -66,14 +67,9 @@ void TestFiring::initTestCase()
 
 void TestFiring::init()
 {
-    m_home.reset(new QTemporaryDir);
-    ovra::GlobalElements::PanelOptions options;
-    options.port = m_home->path() + QStringLiteral("/no-line");
-    options.home = m_home->path();
-    options.keyPort = 0;
-    m_window.reset(new MainWindow(options));
+    m_panel.reset(new PanelHarness());
+    m_window = m_panel->Window();
     ui = m_window->GetUi();
-    m_window->show();
     send("time==1000$$date==20261122$$temp==293");
     send("heatfile==[metainfo];name=Speed;manufacturer=user;material=Zirkon;favorite=false;"
          "[1];rate=10;temp=1273;hold=1800;[2];rate=5;temp=1773;hold=600;");
@@ -83,19 +79,15 @@ void TestFiring::init()
 
 void TestFiring::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
+    m_window = nullptr;
 }
 
 QStringList TestFiring::send(const QByteArray &fields)
 {
-    const QByteArray answer =
-        m_window->GetMessageHandler()->HandleMessage(QString::fromLatin1(Frame::Build(fields)));
-    QStringList parts = QString::fromUtf8(answer.mid(1, answer.size() - 2)).split(QStringLiteral("$$"));
-    parts.removeLast();
-    parts.removeFirst();
     // Page reports and favourite echoes are not what these cases look at.
     QStringList requests;
-    for (const QString &p : qAsConst(parts)) {
+    for (const QString &p : m_panel->Send(fields)) {
         if (!p.startsWith(QLatin1String("guistate==")) && !p.startsWith(QLatin1String("tofavorite==")))
             requests << p;
     }
@@ -104,9 +96,7 @@ QStringList TestFiring::send(const QByteArray &fields)
 
 void TestFiring::click(QWidget *kit)
 {
-    auto *button = kit->findChild<QAbstractButton *>();
-    QVERIFY(button != nullptr);
-    QTest::mouseClick(button, Qt::LeftButton);
+    PanelHarness::Click(kit);
 }
 
 void TestFiring::openProgram(const QString &name)

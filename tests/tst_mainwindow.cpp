@@ -1,6 +1,7 @@
 // The main window as the controller and the user drive it: start-up, the page state
 // machine's guards, navigation buttons, the display key and the self-test page.
 #include "app/mainwindow.h"
+#include "panelharness.h"
 #include "communication/frame.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
@@ -46,8 +47,8 @@ private:
     QStringList send(const QByteArray &fields);
     void click(QWidget *kitWidget);
 
-    QScopedPointer<QTemporaryDir> m_home;
-    QScopedPointer<MainWindow> m_window;
+    QScopedPointer<PanelHarness> m_panel;
+    MainWindow *m_window = nullptr;
     Ui::MainWindow *ui = nullptr;
 };
 
@@ -59,39 +60,25 @@ void TestMainWindow::initTestCase()
 
 void TestMainWindow::init()
 {
-    m_home.reset(new QTemporaryDir);
-    ovra::GlobalElements::PanelOptions options;
-    options.port = m_home->path() + QStringLiteral("/no-line");
-    options.home = m_home->path();
-    options.keyPort = 0;
-    options.selftestDelayMs = 30;
-    m_window.reset(new MainWindow(options));
+    m_panel.reset(new PanelHarness(30));
+    m_window = m_panel->Window();
     ui = m_window->GetUi();
-    m_window->show();
 }
 
 void TestMainWindow::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
+    m_window = nullptr;
 }
 
 QStringList TestMainWindow::send(const QByteArray &fields)
 {
-    const QByteArray answer =
-        m_window->GetMessageHandler()->HandleMessage(QString::fromLatin1(Frame::Build(fields)));
-    if (!Frame::IsChecksumValid(QString::fromLatin1(answer)))
-        return {QStringLiteral("<bad answer>")};
-    QStringList parts = QString::fromLatin1(answer.mid(1, answer.size() - 2)).split(QStringLiteral("$$"));
-    parts.removeLast();  // checksum
-    parts.removeFirst(); // ack / nack
-    return parts;
+    return m_panel->Send(fields);
 }
 
 void TestMainWindow::click(QWidget *kitWidget)
 {
-    auto *button = kitWidget->findChild<QAbstractButton *>();
-    QVERIFY(button != nullptr);
-    QTest::mouseClick(button, Qt::LeftButton);
+    PanelHarness::Click(kitWidget);
 }
 
 void TestMainWindow::startsOnTheSplashAndSendsNothing()

@@ -1,6 +1,7 @@
 // The program pages with a real window: programs from the controller are listed by class,
 // favoured, filtered, shown, deleted; short counts are asked for again, ten times at most.
 #include "app/mainwindow.h"
+#include "panelharness.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 #include "process/chart.h"
@@ -50,8 +51,8 @@ private:
     QStringList listed() const;
     void click(QWidget *kit);
 
-    QScopedPointer<QTemporaryDir> m_home;
-    QScopedPointer<MainWindow> m_window;
+    QScopedPointer<PanelHarness> m_panel;
+    MainWindow *m_window = nullptr;
     Ui::MainWindow *ui = nullptr;
 };
 
@@ -63,14 +64,9 @@ void TestProgramPages::initTestCase()
 
 void TestProgramPages::init()
 {
-    m_home.reset(new QTemporaryDir);
-    ovra::GlobalElements::PanelOptions options;
-    options.port = m_home->path() + QStringLiteral("/no-line");
-    options.home = m_home->path();
-    options.keyPort = 0;
-    m_window.reset(new MainWindow(options));
+    m_panel.reset(new PanelHarness());
+    m_window = m_panel->Window();
     ui = m_window->GetUi();
-    m_window->show();
     send(heatfile(QStringLiteral("Mein Speed"), QStringLiteral("user"), QStringLiteral("Zirkon"), true));
     send(heatfile(QStringLiteral("Mein Argon"), QStringLiteral("user"), QStringLiteral("Argon"), false));
     send(heatfile(QStringLiteral("Zirkon HT"), QStringLiteral("DentaCeram"), QStringLiteral("Zirkon"), false));
@@ -80,17 +76,13 @@ void TestProgramPages::init()
 
 void TestProgramPages::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
+    m_window = nullptr;
 }
 
 QStringList TestProgramPages::send(const QByteArray &fields)
 {
-    const QByteArray answer =
-        m_window->GetMessageHandler()->HandleMessage(QString::fromLatin1(Frame::Build(fields)));
-    QStringList parts = QString::fromUtf8(answer.mid(1, answer.size() - 2)).split(QStringLiteral("$$"));
-    parts.removeLast();
-    parts.removeFirst();
-    return parts;
+    return m_panel->Send(fields);
 }
 
 QStringList TestProgramPages::listed() const
@@ -103,7 +95,7 @@ QStringList TestProgramPages::listed() const
 
 void TestProgramPages::click(QWidget *kit)
 {
-    QTest::mouseClick(kit->findChild<QAbstractButton *>(), Qt::LeftButton);
+    PanelHarness::Click(kit);
 }
 
 void TestProgramPages::listsByClass()

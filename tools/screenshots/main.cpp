@@ -23,11 +23,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     QTemporaryDir home;
-    ovra::GlobalElements::PanelOptions options;
-    options.port = home.path() + QStringLiteral("/no-line"); // a tour needs no controller
-    options.home = home.path();
-    options.keyPort = 0;
-    ovra::Mainwindow::MainWindow window(options);
+    ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
     const QStringList files = ovra::Tools::ScreenshotTour(&window, QString::fromLocal8Bit(argv[1])).Run();
     for (const QString &file : files)
         std::printf("%s\n", qPrintable(file));

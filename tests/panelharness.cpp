@@ -1,0 +1,37 @@
+#include "panelharness.h"
+
+#include "communication/frame.h"
+#include "communication/messagehandler.h"
+
+#include <QAbstractButton>
+#include <QtTest>
+
+namespace Frame = ovra::Communication::Frame;
+
+PanelHarness::PanelHarness(int selftestDelayMs)
+{
+    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(m_home.path());
+    options.selftestDelayMs = selftestDelayMs;
+    m_window.reset(new ovra::Mainwindow::MainWindow(options));
+    m_window->show();
+}
+
+QStringList PanelHarness::Send(const QByteArray &fields)
+{
+    const QByteArray answer = m_window->GetMessageHandler()->HandleMessage(QString::fromLatin1(Frame::Build(fields)));
+    if (!Frame::IsChecksumValid(QString::fromLatin1(answer)))
+        return {QStringLiteral("<bad answer>")};
+    QStringList parts = QString::fromUtf8(answer.mid(1, answer.size() - 2)).split(QStringLiteral("$$"));
+    parts.removeLast();  // checksum
+    parts.removeFirst(); // ack / nack
+    return parts;
+}
+
+void PanelHarness::Click(QWidget *widget)
+{
+    auto *button = qobject_cast<QAbstractButton *>(widget);
+    if (button == nullptr)
+        button = widget->findChild<QAbstractButton *>();
+    QVERIFY(button != nullptr);
+    QTest::mouseClick(button, Qt::LeftButton);
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/mainwindow.h"
+
+#include <QScopedPointer>
+#include <QStringList>
+#include <QTemporaryDir>
+
+class QWidget;
+
+// A main window offscreen with its own home folder and no serial line, driven by controller
+// frames fed straight into its message handler.
+class PanelHarness
+{
+public:
+    explicit PanelHarness(int selftestDelayMs = 7000);
+
+    ovra::Mainwindow::MainWindow *Window() const { return m_window.data(); }
+
+    // Feeds one frame; returns the requests that went out with the answer, or
+    // "<bad answer>" when the answer's checksum is wrong.
+    QStringList Send(const QByteArray &fields);
+
+    // Presses the touch button inside a widget-kit widget (or the button itself).
+    static void Click(QWidget *widget);
+
+private:
+    QTemporaryDir m_home;
+    QScopedPointer<ovra::Mainwindow::MainWindow> m_window;
+};
