@@ -23,7 +23,7 @@ PopupLicense::PopupLicense(QWidget *parent)
 
 PopupLicense::~PopupLicense()
 {
-    // The gesture recogniser a grab registers is only given back by ungrabbing.
+    // Leaves no flick gesture registered for a widget that is going away.
     QScroller::ungrabGesture(ui->plainTextEdit_License->viewport());
 }
 

@@ -64,7 +64,7 @@ QList<QScrollArea *> MainWindow::ListAreas() const
 
 void MainWindow::ReleaseListScrolling()
 {
-    // The gesture recogniser a grab registers is only given back by ungrabbing.
+    // Leaves no flick gesture registered for a widget that is going away.
     for (QScrollArea *area : ListAreas())
         QScroller::ungrabGesture(area->viewport());
 }

@@ -99,7 +99,7 @@ NewProgram::NewProgram(QWidget *parent)
 
 NewProgram::~NewProgram()
 {
-    // The gesture recogniser a grab registers is only given back by ungrabbing.
+    // Leaves no flick gesture registered for a widget that is going away.
     QScroller::ungrabGesture(ui->scrollArea_rows->viewport());
 }
 
