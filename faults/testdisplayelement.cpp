@@ -2,11 +2,10 @@
 
 #include "widgets/elidedlabel.h"
 #include "widgets/iconbutton.h"
+#include "widgets/widgetstyle.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QPointer>
-#include <QStyleOption>
 
 namespace ovra {
 namespace GlobalElements {
@@ -77,10 +76,7 @@ void TestDisplayElement::SetIconResult(const QString &result)
 
 void TestDisplayElement::paintEvent(QPaintEvent *)
 {
-    QStyleOption option;
-    option.initFrom(this);
-    QPainter painter(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    WidgetStyle::PaintBackground(this);
 }
 
 } // namespace GlobalElements

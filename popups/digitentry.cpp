@@ -1,8 +1,10 @@
 #include "popups/digitentry.h"
 
+#include "widgets/widgetstyle.h"
+
+#include <QAbstractButton>
 #include <QEvent>
 #include <QLineEdit>
-#include <QStyle>
 #include <QVariant>
 
 namespace ovra {
@@ -72,6 +74,15 @@ void DigitEntry::Next()
         SetCurrent((m_current + 1) % m_fields.size());
 }
 
+void DigitEntry::ConnectPad(const QVector<QAbstractButton *> &digitKeys, QAbstractButton *clear,
+                            QAbstractButton *next)
+{
+    for (int digit = 0; digit < digitKeys.size(); ++digit)
+        connect(digitKeys.at(digit), &QAbstractButton::clicked, this, [this, digit] { TypeDigit(digit); });
+    connect(clear, &QAbstractButton::clicked, this, &DigitEntry::RemoveLast);
+    connect(next, &QAbstractButton::clicked, this, &DigitEntry::Next);
+}
+
 bool DigitEntry::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress) {
@@ -93,8 +104,7 @@ void DigitEntry::MarkCurrent()
         if (field->property("current").toBool() == current)
             continue;
         field->setProperty("current", current);
-        field->style()->unpolish(field);
-        field->style()->polish(field);
+        GlobalElements::WidgetStyle::Repolish(field);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QVector>
 
+class QAbstractButton;
 class QLineEdit;
 
 namespace ovra {
@@ -33,6 +34,10 @@ public:
     void TypeDigit(int digit);
     void RemoveLast();
     void Next();
+
+    // Hooks a pad's keys up: digitKeys[i] types the digit i, clear takes the last digit
+    // back, next moves on to the next field.
+    void ConnectPad(const QVector<QAbstractButton *> &digitKeys, QAbstractButton *clear, QAbstractButton *next);
 
 signals:
     void SignalCurrentChanged(int index);

@@ -1,8 +1,9 @@
 #include "popups/popupbase.h"
 
+#include "widgets/widgetstyle.h"
+
 #include <QEvent>
 #include <QKeyEvent>
-#include <QStyle>
 
 namespace ovra {
 namespace Popups {
@@ -17,9 +18,7 @@ PopupBase::PopupBase(QWidget *parent)
 
 void PopupBase::Repolish(QWidget *widget)
 {
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-    widget->update();
+    GlobalElements::WidgetStyle::Repolish(widget);
 }
 
 void PopupBase::changeEvent(QEvent *event)

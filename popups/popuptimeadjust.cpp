@@ -1,5 +1,6 @@
 #include "popups/popuptimeadjust.h"
 
+#include "popups/datetimefields.h"
 #include "popups/digitentry.h"
 #include "ui_popuptimeadjust.h"
 #include "widgets/confirmbuttons.h"
@@ -39,13 +40,9 @@ PopupTimeAdjust::PopupTimeAdjust(QWidget *parent)
     }
     m_entry->SetFields(m_fields);
 
-    const QVector<QPushButton *> digits = {ui->pushButton_0, ui->pushButton_1, ui->pushButton_2, ui->pushButton_3,
-                                           ui->pushButton_4, ui->pushButton_5, ui->pushButton_6, ui->pushButton_7,
-                                           ui->pushButton_8, ui->pushButton_9};
-    for (int digit = 0; digit < digits.size(); ++digit)
-        connect(digits.at(digit), &QPushButton::clicked, this, [this, digit] { m_entry->TypeDigit(digit); });
-    connect(ui->pushButton_Clear, &QPushButton::clicked, m_entry, &DigitEntry::RemoveLast);
-    connect(ui->pushButton_Next, &QPushButton::clicked, m_entry, &DigitEntry::Next);
+    m_entry->ConnectPad({ui->pushButton_0, ui->pushButton_1, ui->pushButton_2, ui->pushButton_3, ui->pushButton_4,
+                         ui->pushButton_5, ui->pushButton_6, ui->pushButton_7, ui->pushButton_8, ui->pushButton_9},
+                        ui->pushButton_Clear, ui->pushButton_Next);
     connect(ui->pushButton_OK, &QPushButton::clicked, this, &PopupTimeAdjust::SlotOk);
     connect(ui->pushButton_Cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -62,24 +59,14 @@ void PopupTimeAdjust::SetDateTime(const QString &date, const QString &time)
     DateTimeEntry entry;
     if (!SplitDateTime(date, time, &entry))
         return;
-    ui->lineEdit_day->setText(entry.day);
-    ui->lineEdit_month->setText(entry.month);
-    ui->lineEdit_year->setText(entry.year);
-    ui->lineEdit_hour->setText(entry.hour);
-    ui->lineEdit_minute->setText(entry.minute);
+    ShowDateTimeEntry(m_fields, entry);
     MarkInvalid({});
     m_entry->SetCurrent(0);
 }
 
 DateTimeEntry PopupTimeAdjust::GetEntry() const
 {
-    DateTimeEntry entry;
-    entry.day = ui->lineEdit_day->text();
-    entry.month = ui->lineEdit_month->text();
-    entry.year = ui->lineEdit_year->text();
-    entry.hour = ui->lineEdit_hour->text();
-    entry.minute = ui->lineEdit_minute->text();
-    return entry;
+    return ReadDateTimeEntry(m_fields);
 }
 
 void PopupTimeAdjust::SlotOk()

@@ -1,6 +1,6 @@
 #include "popups/timerpopup.h"
 
-#include "popups/datetimeentry.h"
+#include "popups/datetimefields.h"
 #include "popups/digitentry.h"
 #include "popups/timerinput.h"
 #include "ui_timerpopup.h"
@@ -15,6 +15,12 @@ namespace {
 void setPattern(QLineEdit *field, const char *pattern)
 {
     field->setValidator(new QRegularExpressionValidator(QRegularExpression(QString::fromLatin1(pattern)), field));
+}
+
+TimerEntry ReadTimerEntry(const QVector<QLineEdit *> &fields)
+{
+    const DateTimeEntry typed = ReadDateTimeEntry(fields);
+    return ParseTimerEntry(typed.day, typed.month, typed.year, typed.hour, typed.minute);
 }
 } // namespace
 
@@ -38,13 +44,9 @@ TimerPopup::TimerPopup(QWidget *parent)
     m_fields = {ui->lineEdit_day, ui->lineEdit_month, ui->lineEdit_year, ui->lineEdit_hour, ui->lineEdit_minute};
     m_entry->SetFields(m_fields);
 
-    const QVector<QPushButton *> digits = {ui->pushButton_0, ui->pushButton_1, ui->pushButton_2, ui->pushButton_3,
-                                           ui->pushButton_4, ui->pushButton_5, ui->pushButton_6, ui->pushButton_7,
-                                           ui->pushButton_8, ui->pushButton_9};
-    for (int digit = 0; digit < digits.size(); ++digit)
-        connect(digits.at(digit), &QPushButton::clicked, this, [this, digit] { m_entry->TypeDigit(digit); });
-    connect(ui->pushButton_clr, &QPushButton::clicked, m_entry, &DigitEntry::RemoveLast);
-    connect(ui->pushButton_enter, &QPushButton::clicked, m_entry, &DigitEntry::Next);
+    m_entry->ConnectPad({ui->pushButton_0, ui->pushButton_1, ui->pushButton_2, ui->pushButton_3, ui->pushButton_4,
+                         ui->pushButton_5, ui->pushButton_6, ui->pushButton_7, ui->pushButton_8, ui->pushButton_9},
+                        ui->pushButton_clr, ui->pushButton_enter);
     connect(ui->pushButton_ok, &QPushButton::clicked, this, &TimerPopup::SlotOk);
     connect(ui->pushButton_cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -61,11 +63,7 @@ bool TimerPopup::SetDateTime(const QString &date, const QString &time)
     DateTimeEntry entry;
     if (!SplitDateTime(date, time, &entry))
         return false;
-    ui->lineEdit_day->setText(entry.day);
-    ui->lineEdit_month->setText(entry.month);
-    ui->lineEdit_year->setText(entry.year);
-    ui->lineEdit_hour->setText(entry.hour);
-    ui->lineEdit_minute->setText(entry.minute);
+    ShowDateTimeEntry(m_fields, entry);
     for (QLineEdit *field : qAsConst(m_fields)) {
         field->setProperty("invalid", false);
         Repolish(field);
@@ -87,24 +85,15 @@ void TimerPopup::SetClock(std::function<QDateTime()> clock)
 void TimerPopup::CheckInput()
 {
     const QDateTime now = m_clock();
-    const TimerEntry entered = ParseTimerEntry(ui->lineEdit_day->text(), ui->lineEdit_month->text(),
-                                               ui->lineEdit_year->text(), ui->lineEdit_hour->text(),
-                                               ui->lineEdit_minute->text());
-    const TimerEntry corrected = CorrectTimerEntry(entered, now.date(), now.time());
-    ui->lineEdit_day->setText(TwoDigits(corrected.day));
-    ui->lineEdit_month->setText(TwoDigits(corrected.month));
-    ui->lineEdit_year->setText(QString::number(corrected.year));
-    ui->lineEdit_hour->setText(TwoDigits(corrected.hour));
-    ui->lineEdit_minute->setText(TwoDigits(corrected.minute));
+    const TimerEntry corrected = CorrectTimerEntry(ReadTimerEntry(m_fields), now.date(), now.time());
+    ShowDateTimeEntry(m_fields, {TwoDigits(corrected.day), TwoDigits(corrected.month), QString::number(corrected.year),
+                                 TwoDigits(corrected.hour), TwoDigits(corrected.minute)});
 }
 
 void TimerPopup::SlotOk()
 {
     CheckInput();
-    const TimerEntry entry = ParseTimerEntry(ui->lineEdit_day->text(), ui->lineEdit_month->text(),
-                                             ui->lineEdit_year->text(), ui->lineEdit_hour->text(),
-                                             ui->lineEdit_minute->text());
-    m_requestedTimer = TimerRequestText(entry);
+    m_requestedTimer = TimerRequestText(ReadTimerEntry(m_fields));
     emit SignalAutoStartTimerSet();
     accept();
 }

@@ -1,13 +1,13 @@
 #include "widgets/button.h"
 
+#include "widgets/buttonkit.h"
 #include "widgets/captionfit.h"
+#include "widgets/widgetstyle.h"
 
 #include <QEvent>
 #include <QIcon>
 #include <QPushButton>
-#include <QStyle>
-#include <QStyleOptionButton>
-#include <QVBoxLayout>
+#include <QVariant>
 
 namespace ovra {
 namespace GlobalElements {
@@ -18,16 +18,8 @@ Button::Button(QWidget *parent)
     : QWidget(parent)
     , m_button(new QPushButton(this))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_button);
-
-    // The tile decides its own size; the caption it carries must not push the layout around
-    // each time it is refitted.
-    m_button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    m_button->setFocusPolicy(Qt::NoFocus);
+    ButtonKit::Embed(this, m_button);
     m_button->setIconSize(QSize(iconSide, iconSide));
-    m_button->installEventFilter(this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 
     connect(m_button, &QPushButton::clicked, this, [this] { emit SignalButtonClicked(m_nextPage); });
@@ -84,18 +76,8 @@ QSize Button::minimumSizeHint() const
 
 bool Button::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_button) {
-        switch (event->type()) {
-        case QEvent::Resize:
-        case QEvent::FontChange:
-        case QEvent::StyleChange:
-        case QEvent::Polish:
-            RefitCaption();
-            break;
-        default:
-            break;
-        }
-    }
+    if (watched == m_button && ButtonKit::NeedsRefit(event))
+        RefitCaption();
     return QWidget::eventFilter(watched, event);
 }
 
@@ -113,13 +95,7 @@ void Button::RefitCaption()
         return;
     m_refitting = true;
 
-    // The style sheet's padding and font only count once the button is polished.
-    m_button->ensurePolished();
-
-    QStyleOptionButton option;
-    option.initFrom(m_button);
-    option.rect = m_button->rect();
-    const QRect room = m_button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, m_button);
+    const QRect room = ButtonKit::CaptionRoom(m_button);
     int width = room.width();
     if (!m_button->icon().isNull())
         width -= iconSide + iconGap;
@@ -142,8 +118,7 @@ void Button::RefitCaption()
 
     if (m_button->property(captionSizeProperty).toInt() != chosen) {
         m_button->setProperty(captionSizeProperty, chosen);
-        m_button->style()->unpolish(m_button);
-        m_button->style()->polish(m_button);
+        WidgetStyle::Repolish(m_button);
     }
     if (m_button->text() != fitted)
         m_button->setText(fitted);

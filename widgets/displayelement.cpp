@@ -1,10 +1,9 @@
 #include "widgets/displayelement.h"
 
 #include "widgets/elidedlabel.h"
+#include "widgets/widgetstyle.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
-#include <QStyleOption>
 
 namespace ovra {
 namespace GlobalElements {
@@ -41,10 +40,7 @@ QSize DisplayElement::minimumSizeHint() const
 
 void DisplayElement::paintEvent(QPaintEvent *)
 {
-    QStyleOption option;
-    option.initFrom(this);
-    QPainter painter(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    WidgetStyle::PaintBackground(this);
 }
 
 } // namespace GlobalElements

@@ -1,12 +1,11 @@
 #include "widgets/displayelementicon.h"
 
 #include "widgets/elidedlabel.h"
+#include "widgets/widgetstyle.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QPainter>
-#include <QStyleOption>
 
 namespace ovra {
 namespace GlobalElements {
@@ -62,10 +61,7 @@ QSize DisplayElementIcon::minimumSizeHint() const
 
 void DisplayElementIcon::paintEvent(QPaintEvent *)
 {
-    QStyleOption option;
-    option.initFrom(this);
-    QPainter painter(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    WidgetStyle::PaintBackground(this);
 }
 
 void DisplayElementIcon::resizeEvent(QResizeEvent *event)

@@ -1,9 +1,9 @@
 #include "widgets/iconbutton.h"
 
-#include <QEvent>
+#include "widgets/buttonkit.h"
+
 #include <QIcon>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace ovra {
 namespace GlobalElements {
@@ -12,14 +12,8 @@ Iconbutton::Iconbutton(QWidget *parent)
     : QWidget(parent)
     , m_button(new QToolButton(this))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_button);
-
-    m_button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    m_button->setFocusPolicy(Qt::NoFocus);
+    ButtonKit::Embed(this, m_button);
     m_button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    m_button->installEventFilter(this);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
     connect(m_button, &QToolButton::clicked, this, &Iconbutton::Signal_ButtonClicked);
@@ -83,18 +77,8 @@ QSize Iconbutton::minimumSizeHint() const
 
 bool Iconbutton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_button) {
-        switch (event->type()) {
-        case QEvent::Resize:
-        case QEvent::FontChange:
-        case QEvent::StyleChange:
-        case QEvent::Polish:
-            UpdateIconSize();
-            break;
-        default:
-            break;
-        }
-    }
+    if (watched == m_button && ButtonKit::NeedsRefit(event))
+        UpdateIconSize();
     return QWidget::eventFilter(watched, event);
 }
 

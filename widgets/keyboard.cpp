@@ -1,28 +1,15 @@
 #include "widgets/keyboard.h"
 
 #include "ui_keyboard.h"
+#include "widgets/buttonkit.h"
 
-#include <QFile>
-#include <QIcon>
 #include <QLineEdit>
 
 namespace ovra {
 namespace GlobalElements {
 
 namespace {
-
-// Shows the image when it is there, a glyph of the same meaning otherwise.
-void SetKeyFace(QPushButton *key, const QString &iconPath, const QString &fallback)
-{
-    if (QFile::exists(iconPath)) {
-        key->setIcon(QIcon(iconPath));
-        key->setIconSize(QSize(32, 32));
-        key->setText(QString());
-    } else {
-        key->setText(fallback);
-    }
-}
-
+const int keyIconSide = 32;
 } // namespace
 
 Keyboard::Keyboard(QWidget *parent)
@@ -31,16 +18,12 @@ Keyboard::Keyboard(QWidget *parent)
 {
     ui->setupUi(this);
 
-    for (QPushButton *key : findChildren<QPushButton *>()) {
-        const QString keyText = key->property("keyText").toString();
-        if (keyText.isEmpty())
-            continue;
-        m_characterKeys << key;
-        connect(key, &QPushButton::clicked, this, [this, keyText] { OnCharacterKey(keyText); });
-    }
+    m_characterKeys = ButtonKit::ConnectTextKeys(this, [this](const QString &keyText) { OnCharacterKey(keyText); });
 
-    SetKeyFace(ui->pushButton_backspace, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"));
-    SetKeyFace(ui->pushButton_enter, QStringLiteral(":/Icons/enter.png"), QStringLiteral("\u21B5"));
+    ButtonKit::SetKeyFace(ui->pushButton_backspace, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"),
+                          keyIconSide);
+    ButtonKit::SetKeyFace(ui->pushButton_enter, QStringLiteral(":/Icons/enter.png"), QStringLiteral("\u21B5"),
+                          keyIconSide);
     ui->pushButton_shift->setText(QStringLiteral("\u21E7"));
     ui->pushButton_shift->setCheckable(true);
     // Holding backspace clears a name quickly, as on any keyboard.

@@ -1,11 +1,10 @@
 #include "widgets/numpad.h"
 
 #include "ui_numpad.h"
+#include "widgets/buttonkit.h"
+#include "widgets/widgetstyle.h"
 
-#include <QFile>
-#include <QIcon>
 #include <QLineEdit>
-#include <QStyle>
 
 namespace ovra {
 namespace GlobalElements {
@@ -13,18 +12,7 @@ namespace GlobalElements {
 const char *const NumPad::codeStateProperty = "codeState";
 
 namespace {
-
-void SetKeyFace(QPushButton *key, const QString &iconPath, const QString &fallback)
-{
-    if (QFile::exists(iconPath)) {
-        key->setIcon(QIcon(iconPath));
-        key->setIconSize(QSize(36, 36));
-        key->setText(QString());
-    } else {
-        key->setText(fallback);
-    }
-}
-
+const int keyIconSide = 36;
 } // namespace
 
 NumPad::NumPad(QWidget *parent)
@@ -33,13 +21,10 @@ NumPad::NumPad(QWidget *parent)
 {
     ui->setupUi(this);
 
-    for (QPushButton *key : findChildren<QPushButton *>()) {
-        const QString digit = key->property("keyText").toString();
-        if (!digit.isEmpty())
-            connect(key, &QPushButton::clicked, this, [this, digit] { OnDigit(digit); });
-    }
-    SetKeyFace(ui->pushButton_clear, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"));
-    SetKeyFace(ui->pushButton_ok, QStringLiteral(":/Icons/check.png"), QStringLiteral("OK"));
+    ButtonKit::ConnectTextKeys(this, [this](const QString &digit) { OnDigit(digit); });
+    ButtonKit::SetKeyFace(ui->pushButton_clear, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"),
+                          keyIconSide);
+    ButtonKit::SetKeyFace(ui->pushButton_ok, QStringLiteral(":/Icons/check.png"), QStringLiteral("OK"), keyIconSide);
     connect(ui->pushButton_clear, &QPushButton::clicked, this, &NumPad::OnClear);
     connect(ui->pushButton_ok, &QPushButton::clicked, this, &NumPad::OnOk);
 }
@@ -135,10 +120,7 @@ void NumPad::ShowWrong(bool wrong)
     if (m_field->property(codeStateProperty).toString() == state)
         return;
     m_field->setProperty(codeStateProperty, state);
-    // A changed dynamic property only shows once the style sheet is re-applied.
-    m_field->style()->unpolish(m_field);
-    m_field->style()->polish(m_field);
-    m_field->update();
+    WidgetStyle::Repolish(m_field);
 }
 
 } // namespace GlobalElements

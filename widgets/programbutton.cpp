@@ -2,14 +2,12 @@
 
 #include "ui_programbutton.h"
 
+#include "widgets/buttonkit.h"
 #include "widgets/captionfit.h"
 
-#include <QEvent>
 #include <QFile>
 #include <QIcon>
 #include <QSignalBlocker>
-#include <QStyle>
-#include <QStyleOptionButton>
 
 namespace ovra {
 namespace GlobalElements {
@@ -121,18 +119,8 @@ void ProgramButton::on_pushButton_fav_toggled(bool checked)
 
 bool ProgramButton::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ui->pushButton_title) {
-        switch (event->type()) {
-        case QEvent::Resize:
-        case QEvent::FontChange:
-        case QEvent::StyleChange:
-        case QEvent::Polish:
-            RefitCaption();
-            break;
-        default:
-            break;
-        }
-    }
+    if (watched == ui->pushButton_title && ButtonKit::NeedsRefit(event))
+        RefitCaption();
     return QWidget::eventFilter(watched, event);
 }
 
@@ -156,11 +144,7 @@ void ProgramButton::ShowFavState(bool checked)
 void ProgramButton::RefitCaption()
 {
     QPushButton *title = ui->pushButton_title;
-    title->ensurePolished();
-    QStyleOptionButton option;
-    option.initFrom(title);
-    option.rect = title->rect();
-    const QRect room = title->style()->subElementRect(QStyle::SE_PushButtonContents, &option, title);
+    const QRect room = ButtonKit::CaptionRoom(title);
     // A list row has room for one line only; names are shortened, never wrapped.
     bool elided = false;
     // A program name is the user's text: an "&" in it is a literal one, not a mnemonic.
