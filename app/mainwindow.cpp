@@ -152,7 +152,7 @@ void MainWindow::CreateTimers()
 
 void MainWindow::SetUpIcons()
 {
-    for (Iconbutton *button : findChildren<Iconbutton *>()) {
+    for (Iconbutton *button : PageButtons()) {
         const QString name = button->objectName();
         if (name.startsWith(QLatin1String("widget_back")))
             button->SetIcon(QStringLiteral(":/Icons/back.png"));
@@ -283,9 +283,20 @@ void MainWindow::ConnectComponents()
     connect(m_errorHandler, &GlobalElements::ErrorHandler::SignalErrorListChanged, this, &MainWindow::ErrorHandling);
 }
 
+QList<Iconbutton *> MainWindow::PageButtons() const
+{
+    // The editor has back, exit and forward buttons of its own, which it handles itself.
+    QList<Iconbutton *> buttons;
+    for (Iconbutton *button : findChildren<Iconbutton *>()) {
+        if (!ui->widget_newProg->isAncestorOf(button))
+            buttons << button;
+    }
+    return buttons;
+}
+
 void MainWindow::ConnectNavigation()
 {
-    for (Iconbutton *button : findChildren<Iconbutton *>()) {
+    for (Iconbutton *button : PageButtons()) {
         const QString name = button->objectName();
         if (name.startsWith(QLatin1String("widget_back")))
             connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotBackButtonClicked);

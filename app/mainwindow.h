@@ -24,6 +24,7 @@ class MessageHandler;
 } // namespace Communication
 namespace GlobalElements {
 class Button;
+class Iconbutton;
 class ErrorHandler;
 class Program;
 class ProgramButton;
@@ -161,6 +162,7 @@ private:
     void ConnectOvenLink();
     void ConnectComponents();
     void ConnectNavigation();
+    QList<GlobalElements::Iconbutton *> PageButtons() const;
     void ConnectPageButtons();
     void ConnectProcessLink();
     void ApplyStyle();

@@ -1,7 +1,8 @@
 // The controller simulator: its frame functions against hand-computed values, its sample
 // programs against the heatfile rules, its heatfile reader and program store, its clock
 // arithmetic, and the real program against a small fake panel: start-up, self-test,
-// commissioning and the program store the panel edits.
+// commissioning, the program store the panel edits, firings, delayed starts, the lift door and
+// the events an operator scripts.
 
 #include "controllerclock.h"
 #include "heatfile.h"
@@ -147,6 +148,46 @@ public:
             }
         }
         return rounds;
+    }
+
+    // The time/date/temperature reports from frame `from` on, each field by its keyword.
+    struct Report
+    {
+        int index = -1;
+        QMap<QByteArray, QByteArray> values;
+    };
+    QList<Report> reports(int from = 0) const
+    {
+        QList<Report> found;
+        for (int i = from; i < bodies.size(); ++i) {
+            if (!bodies.at(i).first().startsWith("time=="))
+                continue;
+            Report report;
+            report.index = i;
+            for (const QByteArray &field : bodies.at(i)) {
+                const auto [keyword, parameter] = simframe::splitCommand(field);
+                report.values.insert(keyword, parameter);
+            }
+            found.append(report);
+        }
+        return found;
+    }
+
+    // The single-field frames among `fields` from frame `from` on, in the order they came.
+    QByteArrayList framesAmong(const QByteArrayList &fields, int from = 0) const
+    {
+        QByteArrayList found;
+        for (int i = from; i < bodies.size(); ++i) {
+            if (bodies.at(i).size() == 1 && fields.contains(bodies.at(i).first()))
+                found.append(bodies.at(i).first());
+        }
+        return found;
+    }
+
+    int reportsWith(const QByteArray &keyword) const
+    {
+        const QList<Report> all = reports();
+        return static_cast<int>(std::count_if(all.begin(), all.end(), [&](const Report &r) { return r.values.contains(keyword); }));
     }
 
     // The self-test results and the "oven ready" state, in the order they came.
@@ -313,6 +354,50 @@ private:
     QByteArray m_partial;
 };
 
+// What the user does on the panel, step by step: each step's requests go out in the answer to
+// the first report after the step's condition holds.
+class Walk
+{
+public:
+    void then(const std::function<bool()> &ready, const QByteArrayList &requests) { m_steps.append({ready, requests}); }
+
+    QByteArray answer(const Fields &body)
+    {
+        if (!body.first().startsWith("time==") || m_steps.isEmpty() || !m_steps.first().ready())
+            return ackWith({});
+        return ackWith(m_steps.takeFirst().requests);
+    }
+
+    bool done() const { return m_steps.isEmpty(); }
+
+private:
+    struct Step
+    {
+        std::function<bool()> ready;
+        QByteArrayList requests;
+    };
+    QList<Step> m_steps;
+};
+
+// The lines of `lines` that are one of `wanted`, in their order.
+QStringList linesAmong(const QStringList &lines, const QStringList &wanted)
+{
+    QStringList found;
+    for (const QString &line : lines) {
+        if (wanted.contains(line))
+            found.append(line);
+    }
+    return found;
+}
+
+// Minutes from "HHMM" (a report's time) to "HH:MM" (its end estimate), over midnight if need be.
+int minutesUntil(const QByteArray &hhmm, const QByteArray &hhColonMm)
+{
+    const int from = hhmm.left(2).toInt() * 60 + hhmm.mid(2, 2).toInt();
+    const int to = hhColonMm.left(2).toInt() * 60 + hhColonMm.mid(3, 2).toInt();
+    return ((to - from) % 1440 + 1440) % 1440;
+}
+
 }  // namespace
 
 class TestSimFrame : public QObject
@@ -344,6 +429,11 @@ private slots:
     void panelEditsTheStore();
     void programsFromFile();
     void manyPrograms();
+    void firingReportsItsStages();
+    void stopFailAndRefusedStarts();
+    void delayedStart();
+    void doorMoves();
+    void scriptedEvents();
     void rejectsBadArguments_data();
     void rejectsBadArguments();
     void linkIsManaged();
@@ -1191,6 +1281,361 @@ void TestSimFrame::manyPrograms()
     QCOMPARE(panel.badChecksums, 0);
 }
 
+void TestSimFrame::firingReportsItsStages()
+{
+    // Pre-dry 15 min (10.8 min up to 130 °C, 15 held), up to 530 °C in 20 min, 15 held, down to
+    // 230 °C in 15: 75.8 furnace minutes, 2.5 s at 1800 times.
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString path = dir.filePath(QStringLiteral("programs.txt"));
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[metainfo];name=Kurz;manufacturer=user;material=Zirkon;favorite=false;"
+                   "[1];rate=20;temp=803;hold=900;[2];rate=20;temp=503;hold=0;\n");
+    }
+    SimProcess sim({QStringLiteral("--programs"), path, QStringLiteral("--speed"), QStringLiteral("1800"), QStringLiteral("--interval"),
+                    QStringLiteral("50"), QStringLiteral("--run-for"), QStringLiteral("30")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    Walk walk;
+    walk.then([&] { return panel.countOf("hfcount") == 1; }, {"hpstart==Kurz,15"});
+    panel.script = [&](const Fields &body) { return walk.answer(body); };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+
+    bool statusAsked = false;
+    const auto endReported = [&] {
+        if (!statusAsked && panel.reportsWith("hpinfo") > 0) {
+            statusAsked = true;
+            sim.process.write("status\n");
+        }
+        const int success = panel.indexOf("hpsuccess");
+        if (success < 0)
+            return false;
+        const QList<FakePanel::Report> after = panel.reports(success);
+        return std::any_of(after.begin(), after.end(), [](const FakePanel::Report &r) { return r.values.value("hpinfo", "x").isEmpty(); });
+    };
+    QVERIFY2(sim.waitUntil(endReported, 20000), qPrintable(sim.log()));
+
+    const int success = panel.indexOf("hpsuccess");
+    QCOMPARE(panel.countOfField("hpsuccess"), 1);
+    QCOMPARE(panel.countOfField("hpfailed"), 0);
+
+    // While firing: name, remaining minutes, stage and its text, and the end on the clock.
+    QList<std::pair<QByteArray, QByteArray>> stages;
+    QList<int> remaining;
+    for (const FakePanel::Report &report : panel.reports()) {
+        if (report.index > success || !report.values.contains("hpinfo"))
+            continue;
+        const QByteArrayList info = report.values.value("hpinfo").split(';');
+        QCOMPARE(info.size(), 4);
+        QCOMPARE(info.at(0), QByteArray("Kurz"));
+        const std::pair<QByteArray, QByteArray> stage{info.at(2), info.at(3)};
+        if (stages.isEmpty() || stages.last() != stage)
+            stages.append(stage);
+        const int minutes = info.at(1).toInt();
+        remaining.append(minutes);
+        QVERIFY(minutes > 0);
+        const QByteArray end = report.values.value("esttime");
+        QVERIFY2(QRegularExpression(QStringLiteral("^\\d\\d:\\d\\d$")).match(QString::fromLatin1(end)).hasMatch(), end.constData());
+        // The report's clock is cut to the minute, the remaining minutes are rounded up.
+        const int until = minutesUntil(report.values.value("time"), end);
+        QVERIFY2(until == minutes || until == minutes - 1, qPrintable(QStringLiteral("%1 -> %2, %3 min").arg(
+                                                                 QString::fromLatin1(report.values.value("time")), QString::fromLatin1(end)).arg(minutes)));
+        const int kelvin = report.values.value("temp").toInt();
+        if (info.at(2) == "pre")
+            QVERIFY2(kelvin <= 130 + 273, qPrintable(QString::number(kelvin)));
+        else if (info.at(3) == "hold")
+            QCOMPARE(kelvin, 530 + 273);
+        else
+            QVERIFY2(kelvin >= 130 + 273 && kelvin <= 530 + 273, qPrintable(QString::number(kelvin)));
+    }
+    using Stage = std::pair<QByteArray, QByteArray>;
+    QCOMPARE(stages, (QList<Stage>{{"pre", "pre"}, {"1", "heat"}, {"1", "hold"}, {"2", "heat"}}));
+    QVERIFY(remaining.size() > 20);
+    QVERIFY2(remaining.first() <= 76 && remaining.first() >= 70, qPrintable(QString::number(remaining.first())));
+    QVERIFY(std::is_sorted(remaining.rbegin(), remaining.rend()));
+    QVERIFY2(remaining.last() <= 10, qPrintable(QString::number(remaining.last())));
+
+    // After hpsuccess the empty hpinfo once, and nothing of the firing after.
+    const QList<FakePanel::Report> after = panel.reports(success);
+    int empties = 0;
+    for (const FakePanel::Report &report : after) {
+        QVERIFY(report.values.value("hpinfo").isEmpty());
+        QVERIFY(!report.values.contains("esttime"));
+        empties += report.values.contains("hpinfo") ? 1 : 0;
+    }
+    QCOMPARE(empties, 1);
+    const int afterEnd = panel.countOf("time");
+    QVERIFY(sim.waitUntil([&] { return panel.countOf("time") >= afterEnd + 4; }));
+    QCOMPARE(panel.reportsWith("hpinfo"), remaining.size() + 1);
+
+    const QStringList firingLines = {QStringLiteral("firing started: Kurz (pre-dry 15 min)"), QStringLiteral("stage pre-dry heat"),
+                                     QStringLiteral("stage pre-dry hold"), QStringLiteral("stage 1 heat"), QStringLiteral("stage 1 hold"),
+                                     QStringLiteral("stage 2 heat"), QStringLiteral("firing done")};
+    QCOMPARE(linesAmong(sim.lines, firingLines), firingLines);
+    const QStringList status = sim.linesStartingWith(QStringLiteral("status: "));
+    QCOMPARE(status.size(), 1);
+    QVERIFY2(QRegularExpression(QStringLiteral("^status: firing \\| \\d+ C \\| door closed \\| Kurz \\| stage (pre-dry|1|2) (heat|hold) \\| \\d+ min$"))
+                 .match(status.first())
+                 .hasMatch(),
+             qPrintable(status.first()));
+
+    sim.process.write("status\n");
+    QVERIFY2(sim.waitUntil([&] { return sim.linesStartingWith(QStringLiteral("status: ")).size() == 2; }), qPrintable(sim.log()));
+    QVERIFY2(QRegularExpression(QStringLiteral("^status: idle \\| \\d+ C \\| door closed \\| - \\| - \\| -$"))
+                 .match(sim.linesStartingWith(QStringLiteral("status: ")).last())
+                 .hasMatch(),
+             qPrintable(sim.log()));
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
+void TestSimFrame::stopFailAndRefusedStarts()
+{
+    SimProcess sim({QStringLiteral("--interval"), QStringLiteral("50"), QStringLiteral("--run-for"), QStringLiteral("30")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    const auto infoStartingWith = [&](const QByteArray &start) {
+        const QList<FakePanel::Report> all = panel.reports();
+        return std::any_of(all.begin(), all.end(), [&](const FakePanel::Report &r) { return r.values.value("hpinfo").startsWith(start); });
+    };
+    const auto emptyInfos = [&] {
+        int n = 0;
+        for (const FakePanel::Report &report : panel.reports())
+            n += report.values.contains("hpinfo") && report.values.value("hpinfo").isEmpty() ? 1 : 0;
+        return n;
+    };
+    Walk walk;
+    walk.then([&] { return panel.countOf("hfcount") == 1; }, {"hpstart==Nirgends,0", "hpstart==Standard Zirkon,abc", "hpstart==Standard Zirkon"});
+    walk.then([&] { return panel.countOfField("hpfailed") == 3; }, {"hpstop", "hpstart==Standard Zirkon,0"});
+    walk.then([&] { return infoStartingWith("Standard Zirkon;"); }, {"hpstart==Schnellsintern,0", "hpstop"});
+    walk.then([&] { return emptyInfos() == 1; }, {"hpstart==Schnellsintern,5"});
+    panel.script = [&](const Fields &body) { return walk.answer(body); };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+
+    QVERIFY2(sim.waitUntil([&] { return infoStartingWith("Schnellsintern;"); }), qPrintable(sim.log()));
+    sim.process.write("fail\n");
+    QVERIFY2(sim.waitUntil([&] { return emptyInfos() == 2; }), qPrintable(sim.log()));
+    sim.process.write("fail\n");
+    QVERIFY2(sim.waitForLine(QStringLiteral("no firing to fail")), qPrintable(sim.log()));
+
+    // Three refused starts, the stop and the failure; a start refused while firing says nothing
+    // on the line, which would read as the end of the firing that runs.
+    QCOMPARE(panel.countOfField("hpfailed"), 5);
+    QCOMPARE(panel.countOfField("hpsuccess"), 0);
+    // At the real speed nothing moves in a report's time: the whole program is still to come.
+    QList<QByteArray> infos;
+    for (const FakePanel::Report &report : panel.reports()) {
+        const QByteArray info = report.values.value("hpinfo");
+        if (!info.isEmpty() && !infos.contains(info))
+            infos.append(info);
+    }
+    QCOMPARE(infos, (QList<QByteArray>{"Standard Zirkon;211;1;heat", "Schnellsintern;74;pre;pre"}));
+    // The empty hpinfo follows each end, never a refused start.
+    const int reportsSoFar = panel.countOf("time");
+    QVERIFY(sim.waitUntil([&] { return panel.countOf("time") >= reportsSoFar + 4; }));
+    QCOMPARE(emptyInfos(), 2);
+
+    const QStringList expected = {QStringLiteral("unknown program: Nirgends"),
+                                  QStringLiteral("bad start request: Standard Zirkon,abc"),
+                                  QStringLiteral("bad start request: Standard Zirkon"),
+                                  QStringLiteral("stop: no firing"),
+                                  QStringLiteral("firing started: Standard Zirkon"),
+                                  QStringLiteral("start of Schnellsintern refused: Standard Zirkon is firing"),
+                                  QStringLiteral("firing stopped"),
+                                  QStringLiteral("firing started: Schnellsintern (pre-dry 5 min)"),
+                                  QStringLiteral("firing failed"),
+                                  QStringLiteral("no firing to fail")};
+    QCOMPARE(linesAmong(sim.lines, expected), expected);
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
+void TestSimFrame::delayedStart()
+{
+    // At 600 times the clock goes a minute in 0.1 s: the ten minutes to the start take one.
+    SimProcess sim({QStringLiteral("--speed"), QStringLiteral("600"), QStringLiteral("--interval"), QStringLiteral("50"),
+                    QStringLiteral("--run-for"), QStringLiteral("30")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    const auto said = [&](const QString &line) { return [&sim, line] { return sim.lines.contains(line); }; };
+    Walk walk;
+    walk.then([&] { return panel.countOf("hfcount") == 1; }, {"date==20300115", "time==0950", "timer==20300115,1000,Schnellsintern,0"});
+    walk.then(said(QStringLiteral("firing started: Schnellsintern")), {"hpstop"});
+    walk.then(said(QStringLiteral("firing stopped")), {"timer==20300115,2300,Glasur 930,0", "timer=="});
+    walk.then(said(QStringLiteral("delayed start cancelled: Glasur 930")), {"timer==", "timer==20300116,0600,Glasur 930,15"});
+    walk.then(said(QStringLiteral("delayed start: Glasur 930 at 2030-01-16 06:00 (pre-dry 15 min)")), {"hpstop"});
+    walk.then([&] { return panel.countOfField("hpfailed") == 2; },
+              {"timer==20300115,2400,Glasur 930,0", "timer==20300115,1000,Nirgends,0", "timer==20300115,1000,Glasur 930", "timer==20300101,0000,Glasur 930,0"});
+    panel.script = [&](const Fields &body) { return walk.answer(body); };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+
+    QVERIFY2(sim.waitUntil([&] {
+                 return walk.done() && sim.lines.count(QStringLiteral("firing started: Glasur 930")) == 1 && panel.countOfField("hpfailed") == 5;
+             }),
+             qPrintable(sim.log()));
+
+    // Nothing before ten o'clock on the set day; the reports then carry the firing.
+    const QList<FakePanel::Report> reports = panel.reports(panel.indexOf("hfcount==8"));
+    int first = -1;
+    for (int i = 0; i < reports.size() && first < 0; ++i) {
+        if (reports.at(i).values.contains("hpinfo"))
+            first = i;
+    }
+    // A report built while the answer that set the clock was on its way still has the old one.
+    int set = 0;
+    while (set < reports.size() && reports.at(set).values.value("date") != "20300115")
+        ++set;
+    QVERIFY2(set <= 2 && first > set + 5, qPrintable(QStringLiteral("%1 %2").arg(set).arg(first)));
+    for (int i = set; i < first; ++i) {
+        QCOMPARE(reports.at(i).values.value("date"), QByteArray("20300115"));
+        QVERIFY2(reports.at(i).values.value("time").startsWith("095"), reports.at(i).values.value("time").constData());
+    }
+    QVERIFY2(QRegularExpression(QStringLiteral("^100[0-2]$")).match(QString::fromLatin1(reports.at(first).values.value("time"))).hasMatch(),
+             reports.at(first).values.value("time").constData());
+    QVERIFY(reports.at(first).values.value("hpinfo").startsWith("Schnellsintern;"));
+
+    const QStringList expected = {QStringLiteral("delayed start: Schnellsintern at 2030-01-15 10:00"),
+                                  QStringLiteral("delayed start due: Schnellsintern"),
+                                  QStringLiteral("firing started: Schnellsintern"),
+                                  QStringLiteral("firing stopped"),
+                                  QStringLiteral("delayed start: Glasur 930 at 2030-01-15 23:00"),
+                                  QStringLiteral("delayed start cancelled: Glasur 930"),
+                                  QStringLiteral("no delayed start to cancel"),
+                                  QStringLiteral("delayed start: Glasur 930 at 2030-01-16 06:00 (pre-dry 15 min)"),
+                                  QStringLiteral("delayed start cancelled: Glasur 930"),
+                                  QStringLiteral("bad timer request: 20300115,2400,Glasur 930,0"),
+                                  QStringLiteral("unknown program: Nirgends"),
+                                  QStringLiteral("bad timer request: 20300115,1000,Glasur 930"),
+                                  QStringLiteral("delayed start: Glasur 930 at 2030-01-01 00:00"),
+                                  QStringLiteral("delayed start due: Glasur 930"),
+                                  QStringLiteral("firing started: Glasur 930")};
+    QCOMPARE(linesAmong(sim.lines, expected), expected);
+    // The stopped firing, the stopped delayed start and the three bad requests; a cancelled
+    // delayed start is not a failed one.
+    QCOMPARE(panel.countOfField("hpfailed"), 5);
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
+void TestSimFrame::doorMoves()
+{
+    const int doorMs = 600;
+    SimProcess sim({QStringLiteral("--door-ms"), QString::number(doorMs), QStringLiteral("--interval"), QStringLiteral("50"),
+                    QStringLiteral("--run-for"), QStringLiteral("30")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    const auto saidTimes = [&](const QString &line, int times) { return [&sim, line, times] { return sim.lines.count(line) == times; }; };
+    Walk walk;
+    walk.then([&] { return panel.countOf("hfcount") == 1; }, {"movedoor"});
+    walk.then(saidTimes(QStringLiteral("door open"), 1), {"doorclose"});
+    // Closed already; then up and at once down again.
+    walk.then(saidTimes(QStringLiteral("door closed"), 1), {"doorclose", "movedoor", "movedoor"});
+    walk.then(saidTimes(QStringLiteral("door closed"), 2), {"movedoor"});
+    // A start with the door up brings it down.
+    walk.then(saidTimes(QStringLiteral("door open"), 2), {"hpstart==Glasur 930,0"});
+    walk.then(saidTimes(QStringLiteral("door closed"), 3), {"hpstop"});
+    panel.script = [&](const Fields &body) { return walk.answer(body); };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+    QVERIFY2(sim.waitUntil([&] { return walk.done() && sim.lines.contains(QStringLiteral("firing stopped")); }), qPrintable(sim.log()));
+
+    const QByteArrayList doorFrames = {"dooropen", "doorclose", "doorclosed"};
+    QCOMPARE(panel.framesAmong(doorFrames), doorFrames + doorFrames + doorFrames);
+    const QStringList doorLines = {QStringLiteral("door opening"), QStringLiteral("door open"), QStringLiteral("door closing"),
+                                   QStringLiteral("door closed"), QStringLiteral("door already closed"), QStringLiteral("firing started: Glasur 930")};
+    QCOMPARE(linesAmong(sim.lines, doorLines),
+             (QStringList{QStringLiteral("door opening"), QStringLiteral("door open"), QStringLiteral("door closing"), QStringLiteral("door closed"),
+                          QStringLiteral("door already closed"), QStringLiteral("door opening"), QStringLiteral("door closing"),
+                          QStringLiteral("door closed"), QStringLiteral("door opening"), QStringLiteral("door open"),
+                          QStringLiteral("door closing"), QStringLiteral("firing started: Glasur 930"), QStringLiteral("door closed")}));
+
+    // A full travel takes its time; turned round at once, the door is back down at once.
+    const int firstClose = panel.indexOf("doorclose");
+    const int firstClosed = panel.indexOf("doorclosed");
+    const qint64 fullTravel = panel.arrivalMs.at(firstClosed) - panel.arrivalMs.at(firstClose);
+    QVERIFY2(fullTravel >= doorMs * 9 / 10, qPrintable(QString::number(fullTravel)));
+    const int turnedClose = panel.indexOf("doorclose", firstClosed);
+    const qint64 turnedTravel = panel.arrivalMs.at(panel.indexOf("doorclosed", turnedClose)) - panel.arrivalMs.at(turnedClose);
+    QVERIFY2(turnedTravel < doorMs * 2 / 3, qPrintable(QString::number(turnedTravel)));
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
+void TestSimFrame::scriptedEvents()
+{
+    SimProcess sim({QStringLiteral("--argon"), QStringLiteral("--interval"), QStringLiteral("50"), QStringLiteral("--run-for"),
+                    QStringLiteral("30")});
+    QVERIFY2(sim.waitForLine(QStringLiteral("slave: ")), qPrintable(sim.log()));
+
+    // Answers the way the panel's screens do: material accepted, then refused (the panel then
+    // calls its start off), the insulation put in.
+    FakePanel panel;
+    panel.readsWholeStream = true;
+    panel.script = [&](const Fields &body) -> QByteArray {
+        if (body.first() == "matchanged==argon")
+            return ackWith({"matchanged"});
+        if (body.first() == "matchanged==zirkon")
+            return ackWith({"matnotchanged", "hpstop", "timer=="});
+        if (body.first() == "insulationmissing")
+            return ackWith({"insulationinsert"});
+        return ackWith({});
+    };
+    QVERIFY(panel.open(sim.lines.first().mid(7)));
+    QVERIFY2(sim.waitUntil([&] { return panel.countOf("hfcount") == 1; }), qPrintable(sim.log()));
+    // An argon furnace says so before its programs.
+    QCOMPARE(panel.firstFields(7, 3), (QByteArrayList{"unit==c", "argon==True", "heatfile==" + heatfile::text(sampleprograms::programs().first())}));
+
+    sim.process.write("material argon\nmaterial zirkon\nmaterial wood\ninsulation\nargon off\nargon on\nargoncheck fail\nargoncheck maybe\n"
+                      "argoncheck pass\ninteraction\nerror E101, E102\nerror\nerror E1;E2\nreseterror E101\ntemp 400\ntemp hot\nfail\nstatus\n");
+    QVERIFY2(sim.waitForLine(QStringLiteral("status: ")), qPrintable(sim.log()));
+    QVERIFY2(sim.waitUntil([&] { return panel.countOf("reseterror") == 1 && sim.lines.contains(QStringLiteral("insulation inserted")); }),
+             qPrintable(sim.log()));
+
+    const QByteArrayList events = {"matchanged==argon", "matchanged==zirkon", "insulationmissing", "argon==False", "argon==True",
+                                   "stargon==fail", "stargon==pass", "waitforuserinteraction", "error==E101,E102", "reseterror==E101"};
+    QCOMPARE(panel.framesAmong(events, panel.indexOf("hfcount==8")), events);
+    QCOMPARE(panel.countOfField("argon==True"), 2);
+    QCOMPARE(panel.countOfField("hpfailed"), 0);
+
+    // The forced temperature shows in the next report.
+    QVERIFY2(sim.waitUntil([&] { return panel.reports().last().values.value("temp") == "673"; }), qPrintable(sim.log()));
+
+    const QStringList expected = {QStringLiteral("event: matchanged==argon"),
+                                  QStringLiteral("event: matchanged==zirkon"),
+                                  QStringLiteral("usage: material argon|zirkon"),
+                                  QStringLiteral("event: insulationmissing"),
+                                  QStringLiteral("event: argon==False"),
+                                  QStringLiteral("event: argon==True"),
+                                  QStringLiteral("event: stargon==fail"),
+                                  QStringLiteral("usage: argoncheck pass|fail"),
+                                  QStringLiteral("event: stargon==pass"),
+                                  QStringLiteral("event: waitforuserinteraction"),
+                                  QStringLiteral("event: error==E101,E102"),
+                                  QStringLiteral("usage: error <code>[,<code>...]"),
+                                  QStringLiteral("usage: error <code>[,<code>...]"),
+                                  QStringLiteral("event: reseterror==E101"),
+                                  QStringLiteral("chamber temperature: 400 C"),
+                                  QStringLiteral("usage: temp <celsius> (-40 to 1800)"),
+                                  QStringLiteral("no firing to fail"),
+                                  QStringLiteral("status: idle | 400 C | door closed | - | - | -")};
+    QCOMPARE(linesAmong(sim.lines, expected), expected);
+    const QStringList answers = {QStringLiteral("material change accepted"), QStringLiteral("material change refused"),
+                                 QStringLiteral("stop: no firing"), QStringLiteral("no delayed start to cancel"),
+                                 QStringLiteral("insulation inserted")};
+    QCOMPARE(linesAmong(sim.lines, answers), answers);
+    QVERIFY2(sim.quit(), qPrintable(sim.log()));
+    QCOMPARE(panel.badChecksums, 0);
+}
+
 void TestSimFrame::rejectsBadArguments_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -1210,6 +1655,12 @@ void TestSimFrame::rejectsBadArguments_data()
     QTest::newRow("many negative") << QStringList{QStringLiteral("--many"), QStringLiteral("-1")};
     QTest::newRow("many text") << QStringList{QStringLiteral("--many"), QStringLiteral("lots")};
     QTest::newRow("many too many") << QStringList{QStringLiteral("--many"), QStringLiteral("10000")};
+    QTest::newRow("speed zero") << QStringList{QStringLiteral("--speed"), QStringLiteral("0")};
+    QTest::newRow("speed negative") << QStringList{QStringLiteral("--speed"), QStringLiteral("-60")};
+    QTest::newRow("speed text") << QStringList{QStringLiteral("--speed"), QStringLiteral("fast")};
+    QTest::newRow("speed beyond reason") << QStringList{QStringLiteral("--speed"), QStringLiteral("1e9")};
+    QTest::newRow("door negative") << QStringList{QStringLiteral("--door-ms"), QStringLiteral("-1")};
+    QTest::newRow("door text") << QStringList{QStringLiteral("--door-ms"), QStringLiteral("slow")};
 }
 
 void TestSimFrame::rejectsBadArguments()

@@ -60,6 +60,20 @@ public:
         return m_lines.contains(line);
     }
 
+    // True once a frame carrying `part` went out and the panel has answered it.
+    bool AnsweredFrameWith(const QString &part)
+    {
+        Collect();
+        bool sent = false;
+        for (const QString &line : qAsConst(m_lines)) {
+            if (line.startsWith(QLatin1String("tx: ")) && line.contains(part))
+                sent = true;
+            else if (sent && line.startsWith(QLatin1String("rx: ")))
+                return true;
+        }
+        return false;
+    }
+
 private:
     void Collect()
     {
@@ -165,6 +179,8 @@ void TestStartUp::programCreatedOnThePanelReachesTheController()
     QScopedPointer<MainWindow> window(makeWindow(slave, home));
     Ui::MainWindow *ui = window->GetUi();
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 15000);
+    // The controller's own "main menu" after the self-test, before the user starts typing.
+    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 5000);
 
     // The controller's user programs are listed.
     auto press = [](QWidget *w) {

@@ -3,20 +3,19 @@
 #include <QByteArray>
 #include <QDateTime>
 
-// The controller's wall clock: the system clock moved by whatever date and time the operator
-// set on the panel. Only the difference is kept, so the set clock goes on ticking with the
-// system's. The system time is a parameter so that the arithmetic can be checked at any moment.
+// The controller's wall clock: a base time moved by whatever date and time the operator set on
+// the panel. Only the difference is kept, so the set clock goes on ticking with the base. The
+// base is always handed in: the simulator's runs at the furnace's speed, not the system's.
 class ControllerClock
 {
 public:
     QDateTime at(const QDateTime &system) const;
-    QDateTime now() const { return at(QDateTime::currentDateTime()); }
 
     // "HHMM": the time of day changes, the date stays, the seconds start again from zero.
     // Anything else leaves the clock alone and gives false.
-    bool setTimeOfDay(const QByteArray &hhmm, const QDateTime &system = QDateTime::currentDateTime());
+    bool setTimeOfDay(const QByteArray &hhmm, const QDateTime &system);
     // "YYYYMMDD": the date changes, the time of day stays.
-    bool setDate(const QByteArray &yyyymmdd, const QDateTime &system = QDateTime::currentDateTime());
+    bool setDate(const QByteArray &yyyymmdd, const QDateTime &system);
 
 private:
     void adopt(const QDateTime &wanted, const QDateTime &system);

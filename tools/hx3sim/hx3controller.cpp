@@ -40,10 +40,14 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     : QObject(parent)
     , m_line(line)
     , m_options(options)
+    , m_systemAtStart(QDateTime::currentDateTime())
+    , m_furnace([this] { return m_clock.isValid() ? m_clock.elapsed() : 0; }, options.speed)
     , m_language(kLanguage)
     , m_unit(options.unit)
     , m_store(options.programs)
 {
+    m_clock.start();
+
     m_answerTimer.setSingleShot(true);
     m_answerTimer.setInterval(kAnswerTimeoutMs);
     connect(&m_answerTimer, &QTimer::timeout, this, &Hx3Controller::onAnswerTimeout);
@@ -67,7 +71,15 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_requestHandlers.insert("hpchange", &Hx3Controller::requestChangeProgram);
     m_requestHandlers.insert("hpdelete", &Hx3Controller::requestDeleteProgram);
     m_requestHandlers.insert("tofavorite", &Hx3Controller::requestFavorite);
-    // deletefailurelist, doorclose and movedoor are only logged as requests so far.
+    m_requestHandlers.insert("hpstart", &Hx3Controller::requestStartFiring);
+    m_requestHandlers.insert("timer", &Hx3Controller::requestTimer);
+    m_requestHandlers.insert("hpstop", &Hx3Controller::requestStopFiring);
+    m_requestHandlers.insert("movedoor", &Hx3Controller::requestMoveDoor);
+    m_requestHandlers.insert("doorclose", &Hx3Controller::requestDoorClose);
+    m_requestHandlers.insert("matchanged", &Hx3Controller::requestMaterialChanged);
+    m_requestHandlers.insert("matnotchanged", &Hx3Controller::requestMaterialNotChanged);
+    m_requestHandlers.insert("insulationinsert", &Hx3Controller::requestInsulationInserted);
+    // deletefailurelist is only logged as a request so far.
 
     // Operator commands on standard input.
     m_commandHandlers.insert(QStringLiteral("send"), &Hx3Controller::commandSend);
@@ -76,17 +88,30 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_commandHandlers.insert(QStringLiteral("commission"), &Hx3Controller::commandCommission);
     m_commandHandlers.insert(QStringLiteral("programs"), &Hx3Controller::commandPrograms);
     m_commandHandlers.insert(QStringLiteral("dump"), &Hx3Controller::commandDump);
+    m_commandHandlers.insert(QStringLiteral("status"), &Hx3Controller::commandStatus);
+    m_commandHandlers.insert(QStringLiteral("material"), &Hx3Controller::commandMaterial);
+    m_commandHandlers.insert(QStringLiteral("insulation"), &Hx3Controller::commandInsulation);
+    m_commandHandlers.insert(QStringLiteral("argon"), &Hx3Controller::commandArgon);
+    m_commandHandlers.insert(QStringLiteral("argoncheck"), &Hx3Controller::commandArgonCheck);
+    m_commandHandlers.insert(QStringLiteral("interaction"), &Hx3Controller::commandInteraction);
+    m_commandHandlers.insert(QStringLiteral("error"), &Hx3Controller::commandError);
+    m_commandHandlers.insert(QStringLiteral("reseterror"), &Hx3Controller::commandResetError);
+    m_commandHandlers.insert(QStringLiteral("fail"), &Hx3Controller::commandFail);
+    m_commandHandlers.insert(QStringLiteral("temp"), &Hx3Controller::commandTemp);
 
     m_selfTest.failingRow = m_options.selftestFailRow;
     m_selfTest.stepTimer.setInterval(m_options.stepMs);
     connect(&m_selfTest.stepTimer, &QTimer::timeout, this, &Hx3Controller::onSelfTestStep);
 
     m_commissioning.active = m_options.commissioning;
+    m_argonOven = m_options.argon;
+
+    m_door.travel.setSingleShot(true);
+    connect(&m_door.travel, &QTimer::timeout, this, &Hx3Controller::onDoorArrived);
 }
 
 void Hx3Controller::start()
 {
-    m_clock.start();
     m_statusTimer.start();
     emit message(QStringLiteral("waiting for panel on %1").arg(m_line->slavePath()));
     probePanel();
@@ -133,6 +158,9 @@ QList<Hx3Controller::Outgoing> Hx3Controller::startupFrames() const
         {{command("lang", m_language)}, Kind::Startup},
         {{command("unit", m_unit)}, Kind::Startup},
     };
+    // Before the programs, so that the panel knows its self-test has an argon row.
+    if (m_argonOven)
+        frames.append(single(command("argon", "True"), Kind::Startup));
     frames += heatfileFrames();
     return frames;
 }
@@ -148,10 +176,11 @@ QList<Hx3Controller::Outgoing> Hx3Controller::heatfileFrames() const
 
 Hx3Controller::Outgoing Hx3Controller::statusFrame() const
 {
-    const QDateTime now = m_wallClock.now();
-    return {{command("time", now.toString(QStringLiteral("HHmm")).toLatin1()),
-             command("date", now.toString(QStringLiteral("yyyyMMdd")).toLatin1()),
-             command("temp", QByteArray::number(m_furnace.chamberKelvin()))},
+    const QDateTime now = controllerNow();
+    return {QList<QByteArray>{command("time", now.toString(QStringLiteral("HHmm")).toLatin1()),
+                              command("date", now.toString(QStringLiteral("yyyyMMdd")).toLatin1()),
+                              command("temp", QByteArray::number(m_furnace.chamberKelvin()))}
+                + firingFields(),
             Kind::Status};
 }
 
@@ -172,6 +201,8 @@ void Hx3Controller::transmit(const Outgoing &frame)
 {
     m_inFlight = frame;
     m_awaitingAnswer = true;
+    if (frame.kind == Kind::Status && m_firing.endReport == Firing::EndReport::Due && frame.fields.contains("hpinfo=="))
+        m_firing.endReport = Firing::EndReport::None;
     m_inFlightComplete = false;
     ++m_counters.frames;
     const QByteArray bytes = simframe::buildFrame(frame.fields);
@@ -270,20 +301,22 @@ void Hx3Controller::onAnswerTimeout()
 
 void Hx3Controller::onStatusTick()
 {
-    const qint64 now = m_clock.elapsed();
-    m_furnace.advance(static_cast<double>(now - m_lastAdvanceMs) / 1000.0);
-    m_lastAdvanceMs = now;
-
+    catchUp();
     if (m_phase != Phase::Connected)
         return;
     // A slow panel gets the newest values, not a backlog of old ones.
+    bool replaced = false;
     for (Outgoing &queued : m_queue) {
         if (queued.kind == Kind::Status) {
             queued = statusFrame();
-            return;
+            replaced = true;
+            break;
         }
     }
-    enqueue({statusFrame()});
+    if (!replaced)
+        enqueue({statusFrame()});
+    if (m_firing.endReport == Firing::EndReport::Announced)
+        m_firing.endReport = Firing::EndReport::Due;
 }
 
 void Hx3Controller::panelLost()
@@ -402,20 +435,22 @@ void Hx3Controller::requestUnit(const QByteArray &parameter)
 
 void Hx3Controller::requestDate(const QByteArray &parameter)
 {
-    if (!m_wallClock.setDate(parameter)) {
+    catchUp();
+    if (!m_wallClock.setDate(parameter, furnaceSystemTime())) {
         emit message(QStringLiteral("bad date: ") + QString::fromUtf8(parameter));
         return;
     }
-    emit message(QStringLiteral("clock set: ") + m_wallClock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
+    emit message(QStringLiteral("clock set: ") + controllerNow().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
 }
 
 void Hx3Controller::requestTime(const QByteArray &parameter)
 {
-    if (!m_wallClock.setTimeOfDay(parameter)) {
+    catchUp();
+    if (!m_wallClock.setTimeOfDay(parameter, furnaceSystemTime())) {
         emit message(QStringLiteral("bad time: ") + QString::fromUtf8(parameter));
         return;
     }
-    emit message(QStringLiteral("clock set: ") + m_wallClock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
+    emit message(QStringLiteral("clock set: ") + controllerNow().toString(QStringLiteral("yyyy-MM-dd HH:mm")));
 }
 
 bool Hx3Controller::parseProgram(const QByteArray &text, heatfile::Program *program)

@@ -6,6 +6,7 @@
 #include "sampleprograms.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QList>
@@ -18,8 +19,9 @@ class PtyLine;
 // The controller's side of the conversation: it is the master of the line, sends one frame at
 // a time and waits for the panel's answer before the next, brings the panel up with the
 // start-up sequence, reports time and temperature, and serves what the panel asks for in its
-// answers, including the self-test and the commissioning walk the panel starts. Everything it
-// has to say for the log comes out as message() lines.
+// answers, including the self-test and the commissioning walk the panel starts, firings
+// (started at once or at a set time) and the lift door. Everything it has to say for the log
+// comes out as message() lines.
 class Hx3Controller : public QObject
 {
     Q_OBJECT
@@ -38,6 +40,13 @@ public:
         bool commissioning = false;
         // What the program store holds at start.
         QList<heatfile::Program> programs = sampleprograms::programs();
+        // Furnace seconds per real second: firings, cooling and the controller's clock.
+        double speed = 1.0;
+        // Real time the lift door takes from one end to the other, whatever the speed: the
+        // panel's door buttons are to be watched at their own pace.
+        int doorMs = 3000;
+        // An argon furnace, which says so at start-up.
+        bool argon = false;
     };
 
     struct Counters
@@ -71,7 +80,9 @@ signals:
 
 private:
     enum class Phase { WaitingForPanel, Connected };
-    enum class Kind { Startup, Heatfile, Status, SelfTest, Operator };
+    enum class Kind { Startup, Heatfile, Status, SelfTest, Operator, Event };
+    enum class DoorState { Closed, Opening, Open, Closing };
+    enum class Outcome { Done, Stopped, Failed };
 
     struct Outgoing
     {
@@ -110,6 +121,14 @@ private:
     void requestDeleteProgram(const QByteArray &parameter);
     void requestFavorite(const QByteArray &parameter);
     bool parseProgram(const QByteArray &text, heatfile::Program *program);
+    void requestStartFiring(const QByteArray &parameter);
+    void requestTimer(const QByteArray &parameter);
+    void requestStopFiring(const QByteArray &parameter);
+    void requestMoveDoor(const QByteArray &parameter);
+    void requestDoorClose(const QByteArray &parameter);
+    void requestMaterialChanged(const QByteArray &parameter);
+    void requestMaterialNotChanged(const QByteArray &parameter);
+    void requestInsulationInserted(const QByteArray &parameter);
 
     void commandSend(const QString &arguments);
     void commandQuit(const QString &arguments);
@@ -117,6 +136,37 @@ private:
     void commandCommission(const QString &arguments);
     void commandPrograms(const QString &arguments);
     void commandDump(const QString &arguments);
+    void commandStatus(const QString &arguments);
+    void commandMaterial(const QString &arguments);
+    void commandInsulation(const QString &arguments);
+    void commandArgon(const QString &arguments);
+    void commandArgonCheck(const QString &arguments);
+    void commandInteraction(const QString &arguments);
+    void commandError(const QString &arguments);
+    void commandResetError(const QString &arguments);
+    void commandFail(const QString &arguments);
+    void commandTemp(const QString &arguments);
+    void sendEvent(const QByteArray &field);
+
+    // Furnace time: the system time at construction moved on by the furnace's own time, so
+    // that with --speed the clock, the end estimate and delayed starts keep pace with firings.
+    QDateTime furnaceSystemTime() const;
+    QDateTime controllerNow() const;
+    // Runs the furnace up to now and acts on what happened on the way.
+    void catchUp();
+    void handleFurnaceEvents();
+    void checkDelayedStart();
+    void startFiring(const QString &name, int preDryMinutes);
+    void endFiring(Outcome outcome);
+    // Says no to a start the panel waits for.
+    void refuseStart(const QString &reason);
+    QList<QByteArray> firingFields() const;
+    QString stageText(const FurnaceModel::Position &position) const;
+
+    void moveDoor(DoorState towards);
+    void onDoorArrived();
+    void applyDoorToFurnace();
+    static QString doorText(DoorState state);
 
     void onSelfTestStep();
     void stopSelfTest();
@@ -137,8 +187,35 @@ private:
 
     QTimer m_statusTimer;
     QElapsedTimer m_clock;
-    qint64 m_lastAdvanceMs = 0;
+    QDateTime m_systemAtStart;
     FurnaceModel m_furnace;
+
+    struct Firing
+    {
+        QString program;        // empty: no firing
+        // The empty hpinfo that ends a firing goes out with the report after the one that
+        // followed hpsuccess or hpfailed.
+        enum class EndReport { None, Announced, Due };
+        EndReport endReport = EndReport::None;
+    } m_firing;
+
+    struct DelayedStart
+    {
+        bool pending = false;
+        QDateTime at;
+        QString program;
+        int preDryMinutes = 0;
+    } m_delayedStart;
+
+    struct Door
+    {
+        DoorState state = DoorState::Closed;
+        QTimer travel;
+        QElapsedTimer moving;   // since the present movement began
+        qint64 fromMs = 0;      // where it began, in travel time from closed
+    } m_door;
+
+    bool m_argonOven = false;
 
     int m_panelPage = -1;
     // What the operator chose on the panel; a panel that comes back is told the same.

@@ -20,6 +20,9 @@
 namespace {
 constexpr int kUsageError = 2;
 constexpr int kMaxGenerated = 9999;
+// Beyond this one report interval of a second spans more than a day of furnace time.
+constexpr double kMaxSpeed = 100000.0;
+constexpr int kMaxDoorMs = 600000;
 
 // Tests and scripts read us through a pipe, so every line goes out at once.
 void printLine(const QString &line)
@@ -80,8 +83,14 @@ int main(int argc, char *argv[])
     const QCommandLineOption manyOption(QStringLiteral("many"),
                                         QStringLiteral("Add <n> generated programs (\"Programm 001\" ...) after the others, for long lists."),
                                         QStringLiteral("n"));
+    const QCommandLineOption speedOption(QStringLiteral("speed"),
+                                         QStringLiteral("Furnace time runs <n> times as fast: firings, cooling and the controller's clock."),
+                                         QStringLiteral("n"), QStringLiteral("1"));
+    const QCommandLineOption doorOption(QStringLiteral("door-ms"), QStringLiteral("Milliseconds the lift door takes to open or close, whatever the speed."),
+                                        QStringLiteral("ms"), QStringLiteral("3000"));
+    const QCommandLineOption argonOption(QStringLiteral("argon"), QStringLiteral("An argon furnace: says argon==True at start-up."));
     parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, runForOption, stepOption, selftestFailOption,
-                       commissioningOption, programsOption, manyOption});
+                       commissioningOption, programsOption, manyOption, speedOption, doorOption, argonOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -116,6 +125,15 @@ int main(int argc, char *argv[])
             return usageError(QStringLiteral("--selftest-fail must be door, heater or cooling, not \"%1\"").arg(parser.value(selftestFailOption)));
     }
     options.commissioning = parser.isSet(commissioningOption);
+    options.argon = parser.isSet(argonOption);
+
+    options.speed = parser.value(speedOption).toDouble(&ok);
+    if (!ok || !(options.speed > 0.0) || options.speed > kMaxSpeed)
+        return usageError(QStringLiteral("--speed needs a factor above 0 and up to %1, not \"%2\"").arg(kMaxSpeed).arg(parser.value(speedOption)));
+
+    options.doorMs = parser.value(doorOption).toInt(&ok);
+    if (!ok || options.doorMs < 0 || options.doorMs > kMaxDoorMs)
+        return usageError(QStringLiteral("--door-ms needs 0 to %1 milliseconds, not \"%2\"").arg(kMaxDoorMs).arg(parser.value(doorOption)));
 
     // Said once the line is up, so that "slave:" stays the first line for whoever reads us.
     QStringList programNotes;
