@@ -1,6 +1,7 @@
 // The panel's start-up against the controller simulator over a pseudo-terminal: splash,
 // device data, the automatic self-test, the main menu, and the commissioning walk.
 #include "app/mainwindow.h"
+#include "simulatorprocess.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
 #include "ui_mainwindow.h"
@@ -21,69 +22,6 @@ using ovra::Mainwindow::Page;
 namespace {
 void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
 
-// The simulator as a child process, with its printed lines collected.
-class Simulator
-{
-public:
-    explicit Simulator(const QStringList &arguments)
-    {
-        m_process.start(QStringLiteral(OVRA_BINARY_DIR "/tools/hx3sim/hx3sim"),
-                        QStringList{QStringLiteral("--interval"), QStringLiteral("200"),
-                                    QStringLiteral("--step-ms"), QStringLiteral("60")}
-                            + arguments);
-    }
-    ~Simulator()
-    {
-        m_process.write("quit\n");
-        if (!m_process.waitForFinished(3000))
-            m_process.kill();
-    }
-
-    QString SlavePath()
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (timer.elapsed() < 5000) {
-            Collect();
-            for (const QString &line : qAsConst(m_lines)) {
-                if (line.startsWith(QLatin1String("slave: ")))
-                    return line.mid(7);
-            }
-            m_process.waitForReadyRead(100);
-        }
-        return QString();
-    }
-
-    bool Printed(const QString &line)
-    {
-        Collect();
-        return m_lines.contains(line);
-    }
-
-    // True once a frame carrying `part` went out and the panel has answered it.
-    bool AnsweredFrameWith(const QString &part)
-    {
-        Collect();
-        bool sent = false;
-        for (const QString &line : qAsConst(m_lines)) {
-            if (line.startsWith(QLatin1String("tx: ")) && line.contains(part))
-                sent = true;
-            else if (sent && line.startsWith(QLatin1String("rx: ")))
-                return true;
-        }
-        return false;
-    }
-
-private:
-    void Collect()
-    {
-        while (m_process.canReadLine())
-            m_lines << QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-
-    QProcess m_process;
-    QStringList m_lines;
-};
 } // namespace
 
 class TestStartUp : public QObject

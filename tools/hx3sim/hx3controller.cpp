@@ -158,6 +158,10 @@ QList<Hx3Controller::Outgoing> Hx3Controller::startupFrames() const
         {{command("lang", m_language)}, Kind::Startup},
         {{command("unit", m_unit)}, Kind::Startup},
     };
+    // The panel counts the door as closed only once it has been told so; a hot chamber would
+    // otherwise raise its warning behind a closed door.
+    if (m_door.state == DoorState::Closed)
+        frames.append(single("doorclosed", Kind::Startup));
     // Before the programs, so that the panel knows its self-test has an argon row.
     if (m_argonOven)
         frames.append(single(command("argon", "True"), Kind::Startup));

@@ -1,0 +1,63 @@
+#include "simulatorprocess.h"
+
+#include <QElapsedTimer>
+
+Simulator::Simulator(const QStringList &arguments)
+{
+    m_process.start(QStringLiteral(OVRA_BINARY_DIR "/tools/hx3sim/hx3sim"),
+                    QStringList{QStringLiteral("--interval"), QStringLiteral("200"), QStringLiteral("--step-ms"),
+                                QStringLiteral("60")}
+                        + arguments);
+}
+
+Simulator::~Simulator()
+{
+    m_process.write("quit\n");
+    if (!m_process.waitForFinished(3000))
+        m_process.kill();
+}
+
+QString Simulator::SlavePath()
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 5000) {
+        Collect();
+        for (const QString &line : qAsConst(m_lines)) {
+            if (line.startsWith(QLatin1String("slave: ")))
+                return line.mid(7);
+        }
+        m_process.waitForReadyRead(100);
+    }
+    return QString();
+}
+
+bool Simulator::Printed(const QString &line)
+{
+    Collect();
+    return m_lines.contains(line);
+}
+
+bool Simulator::AnsweredFrameWith(const QString &part)
+{
+    Collect();
+    bool sent = false;
+    for (const QString &line : qAsConst(m_lines)) {
+        if (line.startsWith(QLatin1String("tx: ")) && line.contains(part))
+            sent = true;
+        else if (sent && line.startsWith(QLatin1String("rx: ")))
+            return true;
+    }
+    return false;
+}
+
+void Simulator::Command(const QByteArray &line)
+{
+    m_process.write(line + '\n');
+}
+
+void Simulator::Collect()
+{
+    while (m_process.canReadLine())
+        m_lines << QString::fromUtf8(m_process.readLine()).trimmed();
+}

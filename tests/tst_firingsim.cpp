@@ -1,0 +1,133 @@
+// Firings run end to end against the controller simulator, sped up: a start with pre-dry
+// through heat and hold to success, a firing stopped by the user, and the hot-door warning
+// following door and temperature reports.
+#include "app/mainwindow.h"
+#include "popups/popupstop.h"
+#include "popups/popuptempwarning.h"
+#include "process/chart.h"
+#include "simulatorprocess.h"
+#include "ui_mainwindow.h"
+#include "widgets/programbutton.h"
+
+#include <QFile>
+#include <QLineSeries>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using ovra::Mainwindow::MainWindow;
+using ovra::Mainwindow::Page;
+
+namespace {
+void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+void press(QWidget *w)
+{
+    auto *button = qobject_cast<QAbstractButton *>(w);
+    if (button == nullptr)
+        button = w->findChild<QAbstractButton *>();
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+// Where the fill of the process chart has got to (0 before anything is filled).
+double frontX(ovra::GlobalElements::Chart *chart)
+{
+    const auto *progress = chart->GetProgressSeries();
+    return progress->count() > 1 ? progress->at(1).x() : 0.0;
+}
+} // namespace
+
+class TestFiringWithSimulator : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void firings();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestFiringWithSimulator::initTestCase()
+{
+    Q_INIT_RESOURCE(resources);
+    qInstallMessageHandler(quiet);
+    // One short program: 22 °C to 300 °C at 20 °C/min, 10 minutes' hold.
+    QFile programs(m_dir.path() + QStringLiteral("/programs.txt"));
+    QVERIFY(programs.open(QIODevice::WriteOnly));
+    programs.write("[metainfo];name=Kurz;manufacturer=user;material=Zirkon;favorite=false;"
+                   "[1];rate=20;temp=573;hold=600;\n");
+}
+
+void TestFiringWithSimulator::firings()
+{
+    // 300 furnace seconds pass in one real second; a report every 100 ms is 30 s of furnace time.
+    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--speed"), QStringLiteral("300"),
+                   QStringLiteral("--door-ms"), QStringLiteral("200"), QStringLiteral("--verbose"),
+                   QStringLiteral("--programs"), m_dir.path() + QStringLiteral("/programs.txt")});
+    const QString slave = sim.SlavePath();
+    QVERIFY(!slave.isEmpty());
+    QTemporaryDir home;
+    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
+    options.port = slave;
+    options.selftestDelayMs = 200;
+    MainWindow window(options);
+    window.show();
+    Ui::MainWindow *ui = window.GetUi();
+    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
+    QCOMPARE(window.CurrentPage(), Page::MainMenu);
+
+    // The user picks the program, adds 15 minutes of pre-drying and starts.
+    window.Statemachine(Page::MyProgs);
+    QTRY_VERIFY_WITH_TIMEOUT(!window.GetProgramButtons().isEmpty(), 5000);
+    press(window.GetProgramButtons().first());
+    QCOMPARE(window.CurrentPage(), Page::PlayProg);
+    press(ui->widget_timerPreDry);
+    press(ui->widget_playNewProg);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("request: hpstart==Kurz,15")), 5000);
+
+    // Pre-dry, then the fill moves through the ramp and the hold.
+    QTRY_COMPARE_WITH_TIMEOUT(window.CurrentPage(), Page::ProcessProg, 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_processPreDryInfo->isVisibleTo(ui->page_processProg), 5000);
+    QVERIFY(window.IsHeatProgramInProgress());
+    ovra::GlobalElements::Chart *chart = ui->widget_chart_process;
+    QTRY_VERIFY_WITH_TIMEOUT(frontX(chart) > 0.05 && frontX(chart) < 1.0, 10000); // heating
+    QTRY_VERIFY_WITH_TIMEOUT(frontX(chart) > 1.0 && frontX(chart) < 2.0, 10000);  // holding
+    QTRY_VERIFY_WITH_TIMEOUT(ui->label_processResult->styleSheet().contains(QStringLiteral("success.png")), 10000);
+    QCOMPARE(frontX(chart), 2.0);
+    QVERIFY(!window.IsHeatProgramInProgress());
+    QVERIFY(ui->widget_exitProcessProg->isVisibleTo(ui->page_processProg));
+    // The controller's empty report closes the firing and frees the page's buttons.
+    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_backProcessProg->isEnabled(), 5000);
+
+    // A second firing, stopped by the user through the stop question.
+    press(ui->widget_backProcessProg);
+    QCOMPARE(window.CurrentPage(), Page::PlayProg);
+    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_playNewProg->isEnabled(), 3000);
+    press(ui->widget_playNewProg);
+    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_stopProcessProg->isVisibleTo(ui->page_processProg)
+                                 && window.CurrentPage() == Page::ProcessProg && frontX(chart) > 0.0,
+                             10000);
+    press(ui->widget_stopProcessProg);
+    auto *stop = window.findChild<ovra::Popups::PopupStop *>();
+    QTRY_VERIFY(stop->isVisible());
+    press(stop->findChild<QPushButton *>(QStringLiteral("pushButton_OK")));
+    QCOMPARE(ui->label_processResult->styleSheet(), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("firing stopped")), 5000);
+
+    // Hot chamber: a closed door draws no warning, an opening one does, closing is not closed.
+    auto *warning = window.findChild<ovra::Popups::PopupTempWarning *>();
+    sim.Command("temp 450");
+    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_tempProcess->GetText().startsWith(QStringLiteral("4")), 5000);
+    QVERIFY(!warning->isVisible());
+    window.SlotMoveDoor();
+    QTRY_VERIFY_WITH_TIMEOUT(warning->isVisible(), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("door open")), 5000);
+    press(warning->findChild<QPushButton *>(QStringLiteral("pushButton_DoorClose")));
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("door closed")), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(!warning->isVisible(), 5000);
+}
+
+QTEST_MAIN(TestFiringWithSimulator)
+#include "tst_firingsim.moc"
