@@ -842,7 +842,7 @@ void TestSimFrame::simulatorAgainstFakePanel()
 
     // The start-up sequence arrives complete and in order before anything else.
     const QByteArrayList expectedStart = {"name", "serialno", "hwver", "swver", "ophours", "guistate", "lang", "unit",
-                                          "heatfile", "heatfile", "heatfile", "heatfile", "heatfile", "heatfile",
+                                          "doorclosed", "heatfile", "heatfile", "heatfile", "heatfile", "heatfile", "heatfile",
                                           "heatfile", "heatfile", "hfcount"};
     QVERIFY(panel.bodies.size() > expectedStart.size());
     for (int i = 0; i < expectedStart.size(); ++i)
@@ -851,14 +851,15 @@ void TestSimFrame::simulatorAgainstFakePanel()
     QCOMPARE(panel.bodies.at(5), Fields{"guistate==1"});
     QCOMPARE(panel.bodies.at(6), Fields{"lang==deutsch"});
     QCOMPARE(panel.bodies.at(7), Fields{"unit==c"});
-    QCOMPARE(panel.bodies.at(16), Fields{"hfcount==8"});
+    QCOMPARE(panel.bodies.at(8), Fields{"doorclosed"}); // the door starts closed and says so
+    QCOMPARE(panel.bodies.at(17), Fields{"hfcount==8"});
     QCOMPARE(panel.countOf("heatfile"), 16);
     QCOMPARE(panel.countOf("name"), 1);
     // An ordinary start: no commissioning, and no self-test results the panel did not ask for.
     QCOMPARE(panel.countOf("initialstart"), 0);
     QVERIFY(panel.selfTestFrames().isEmpty());
 
-    const Fields status = panel.bodies.at(17);
+    const Fields status = panel.bodies.at(18);
     QCOMPARE(status.size(), 3);
     QVERIFY(QRegularExpression(QStringLiteral("^time==\\d{4}$")).match(QString::fromLatin1(status.at(0))).hasMatch());
     QVERIFY(QRegularExpression(QStringLiteral("^date==20\\d{6}$")).match(QString::fromLatin1(status.at(1))).hasMatch());
@@ -1066,7 +1067,7 @@ void TestSimFrame::commissioningWalk()
     QCOMPARE(panel.firstFields(0, 9), (QByteArrayList{"initialstart", "name==Ovra S1", "serialno==S1-2304-0087", "hwver==HX3-C",
                                                       "swver==3.12.0", "ophours==1234", "guistate==12", "lang==deutsch", "unit==c"}));
     QCOMPARE(panel.countOf("heatfile"), 8);
-    QCOMPARE(panel.bodies.at(17), Fields{"hfcount==8"});
+    QCOMPARE(panel.bodies.at(18), Fields{"hfcount==8"});
     // The settings page reached in the walk ends it once, whatever the pulses repeat.
     QCOMPARE(panel.countOfField("guistate==26"), 1);
     QVERIFY(panel.indexOf("guistate==26") > settingsReportedAt);
@@ -1549,7 +1550,8 @@ void TestSimFrame::doorMoves()
     QVERIFY2(sim.waitUntil([&] { return walk.done() && sim.lines.contains(QStringLiteral("firing stopped")); }), qPrintable(sim.log()));
 
     const QByteArrayList doorFrames = {"dooropen", "doorclose", "doorclosed"};
-    QCOMPARE(panel.framesAmong(doorFrames), doorFrames + doorFrames + doorFrames);
+    // The start-up's "the door is closed", then three trips up and down.
+    QCOMPARE(panel.framesAmong(doorFrames), QByteArrayList{"doorclosed"} + doorFrames + doorFrames + doorFrames);
     const QStringList doorLines = {QStringLiteral("door opening"), QStringLiteral("door open"), QStringLiteral("door closing"),
                                    QStringLiteral("door closed"), QStringLiteral("door already closed"), QStringLiteral("firing started: Glasur 930")};
     QCOMPARE(linesAmong(sim.lines, doorLines),
@@ -1560,7 +1562,7 @@ void TestSimFrame::doorMoves()
 
     // A full travel takes its time; turned round at once, the door is back down at once.
     const int firstClose = panel.indexOf("doorclose");
-    const int firstClosed = panel.indexOf("doorclosed");
+    const int firstClosed = panel.indexOf("doorclosed", firstClose); // after the start-up's report
     const qint64 fullTravel = panel.arrivalMs.at(firstClosed) - panel.arrivalMs.at(firstClose);
     QVERIFY2(fullTravel >= doorMs * 9 / 10, qPrintable(QString::number(fullTravel)));
     const int turnedClose = panel.indexOf("doorclose", firstClosed);
@@ -1592,7 +1594,8 @@ void TestSimFrame::scriptedEvents()
     QVERIFY(panel.open(sim.lines.first().mid(7)));
     QVERIFY2(sim.waitUntil([&] { return panel.countOf("hfcount") == 1; }), qPrintable(sim.log()));
     // An argon furnace says so before its programs.
-    QCOMPARE(panel.firstFields(7, 3), (QByteArrayList{"unit==c", "argon==True", "heatfile==" + heatfile::text(sampleprograms::programs().first())}));
+    QCOMPARE(panel.firstFields(7, 4), (QByteArrayList{"unit==c", "doorclosed", "argon==True",
+                                                      "heatfile==" + heatfile::text(sampleprograms::programs().first())}));
 
     sim.process.write("material argon\nmaterial zirkon\nmaterial wood\ninsulation\nargon off\nargon on\nargoncheck fail\nargoncheck maybe\n"
                       "argoncheck pass\ninteraction\nerror E101, E102\nerror\nerror E1;E2\nreseterror E101\ntemp 400\ntemp hot\nfail\nstatus\n");
