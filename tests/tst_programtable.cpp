@@ -17,51 +17,35 @@ class TstProgramTable : public QObject
     Q_OBJECT
 
 private slots:
-    void conversionRoundsAndNeverGoesNegative();
-    void rateLimitIsTruncatedAndWrapped();
+    void conversionAndRateLimit();
     void readNumber_data();
     void readNumber();
     void digitPad_data();
     void digitPad();
-    void readRowsSkipsZeroRatesAndRaisesLowTargets();
-    void readRowsConvertsFahrenheit();
-    void cleanMatrixRemovesEveryIdleSegment();
-    void checkMatrix();
+    void readRows();
+    void cleanAndCheckMatrix();
     void checkName_data();
     void checkName();
 };
 
-void TstProgramTable::conversionRoundsAndNeverGoesNegative()
+void TstProgramTable::conversionAndRateLimit()
 {
-    QCOMPARE(ToFahrenheit(0, true), 32u);
-    QCOMPARE(ToFahrenheit(1500, true), 2732u);
     QCOMPARE(ToFahrenheit(1650, true), 3002u);
     QCOMPARE(ToFahrenheit(1, true), 34u); // 33.8 rounds up
-    QCOMPARE(ToCelcius(2732, true), 1500u);
     QCOMPARE(ToCelcius(100, true), 38u);  // 37.78
-    QCOMPARE(ToCelcius(33, true), 1u);    // 0.56
-    QCOMPARE(ToCelcius(32, true), 0u);
     // Below freezing there is nothing to store: the result must not wrap to a huge number.
-    QCOMPARE(ToCelcius(0, true), 0u);
     QCOMPARE(ToCelcius(31, true), 0u);
     QCOMPARE(ToFahrenheit(std::numeric_limits<unsigned int>::max(), true),
              std::numeric_limits<unsigned int>::max());
-    // Celsius shows what is stored.
     QCOMPARE(ToCelcius(31, false), 31u);
-    QCOMPARE(ToFahrenheit(1651, false), 1651u);
     // Every whole °C survives the round trip through the display.
     for (unsigned int c = 0; c <= maxCelsius; ++c)
         QCOMPARE(ToCelcius(ToFahrenheit(c, true), true), c);
-}
 
-void TstProgramTable::rateLimitIsTruncatedAndWrapped()
-{
     QCOMPARE(RateLimit(120, false), 120u);
     QCOMPARE(RateLimit(120, true), 248u);
-    QCOMPARE(RateLimit(1, true), 33u);  // 33.8 truncated, not rounded
-    QCOMPARE(RateLimit(0, true), 32u);
-    QCOMPARE(RateLimit(36391, true), 65535u); // 65535.8
-    QCOMPARE(RateLimit(36392, true), 1u);     // 65537.6 wraps past 16 bits
+    QCOMPARE(RateLimit(1, true), 33u);    // 33.8 truncated, not rounded
+    QCOMPARE(RateLimit(36392, true), 1u); // 65537.6 wraps past 16 bits
 }
 
 void TstProgramTable::readNumber_data()
@@ -69,13 +53,10 @@ void TstProgramTable::readNumber_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<unsigned int>("value");
     QTest::newRow("empty") << QString() << 0u;
-    QTest::newRow("zero") << QStringLiteral("0") << 0u;
     QTest::newRow("leading zeros") << QStringLiteral("007") << 7u;
-    QTest::newRow("largest") << QStringLiteral("4294967295") << 4294967295u;
     QTest::newRow("too large saturates") << QStringLiteral("99999999999999999999") << 4294967295u;
     QTest::newRow("sign") << QStringLiteral("-5") << 0u;
     QTest::newRow("letter") << QStringLiteral("12a") << 0u;
-    QTest::newRow("blank") << QStringLiteral(" 1") << 0u;
 }
 
 void TstProgramTable::readNumber()
@@ -90,14 +71,12 @@ void TstProgramTable::digitPad_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("key"); // a digit, or "C" for clear
     QTest::addColumn<QString>("after");
-    QTest::newRow("digit replaces a lone 0") << QStringLiteral("0") << QStringLiteral("7") << QStringLiteral("7");
-    QTest::newRow("0 on 0 stays one 0") << QStringLiteral("0") << QStringLiteral("0") << QStringLiteral("0");
-    QTest::newRow("digit is appended") << QStringLiteral("12") << QStringLiteral("0") << QStringLiteral("120");
-    QTest::newRow("digit into empty") << QString() << QStringLiteral("4") << QStringLiteral("4");
-    QTest::newRow("clear drops last digit") << QStringLiteral("120") << QStringLiteral("C") << QStringLiteral("12");
-    QTest::newRow("clear on one digit gives 0") << QStringLiteral("5") << QStringLiteral("C") << QStringLiteral("0");
-    QTest::newRow("clear on 0 stays") << QStringLiteral("0") << QStringLiteral("C") << QStringLiteral("0");
-    QTest::newRow("clear on 10 keeps 1") << QStringLiteral("10") << QStringLiteral("C") << QStringLiteral("1");
+    QTest::newRow("digit replaces a lone 0") << "0" << "7" << "7";
+    QTest::newRow("0 on 0 stays one 0") << "0" << "0" << "0";
+    QTest::newRow("digit is appended") << "12" << "0" << "120";
+    QTest::newRow("clear drops last digit") << "120" << "C" << "12";
+    QTest::newRow("clear on one digit gives 0") << "5" << "C" << "0";
+    QTest::newRow("clear on 0 stays") << "0" << "C" << "0";
 }
 
 void TstProgramTable::digitPad()
@@ -105,56 +84,30 @@ void TstProgramTable::digitPad()
     QFETCH(QString, before);
     QFETCH(QString, key);
     QFETCH(QString, after);
-    const QString result = key == QLatin1String("C") ? PadClear(before) : PadDigit(before, key.at(0));
-    QCOMPARE(result, after);
+    QCOMPARE(key == QLatin1String("C") ? PadClear(before) : PadDigit(before, key.at(0)), after);
 }
 
-void TstProgramTable::readRowsSkipsZeroRatesAndRaisesLowTargets()
+void TstProgramTable::readRows()
 {
-    const Matrix matrix = ReadRows({{5, 800, 1}, {0, 900, 2}, {7, 1200, 3}}, false);
-    QCOMPARE(matrix, (Matrix{Row{5, 800, 1}, Row{7, 1200, 3}}));
-
-    QCOMPARE(ReadRows({{10, 30, 0}}, false), (Matrix{Row{10, 50, 0}}));
-    QCOMPARE(ReadRows({{10, 50, 0}}, false), (Matrix{Row{10, 50, 0}}));
-    QCOMPARE(ReadRows({{10, 51, 0}}, false), (Matrix{Row{10, 51, 0}}));
-    QCOMPARE(ReadRows({{10, 0, 0}}, false), (Matrix{Row{10, 50, 0}}));
-    // A zero rate drops the row even at the very start or end.
-    QCOMPARE(ReadRows({{0, 900, 2}, {3, 900, 2}, {0, 0, 0}}, false), (Matrix{Row{3, 900, 2}}));
-    QVERIFY(ReadRows({}, false).isEmpty());
+    // Zero rates are skipped wherever they stand; targets below 51 °C are raised to 50 °C.
+    QCOMPARE(ReadRows({{5, 800, 1}, {0, 900, 2}, {7, 1200, 3}}, false),
+             (Matrix{Row{5, 800, 1}, Row{7, 1200, 3}}));
+    QCOMPARE(ReadRows({{0, 900, 2}, {10, 30, 0}, {10, 51, 0}, {0, 0, 0}}, false),
+             (Matrix{Row{10, 50, 0}, Row{10, 51, 0}}));
+    // In °F rate and target are converted, the hold time is not; 32 °F/min is a zero rate.
+    QCOMPARE(ReadRows({{248, 2732, 15}, {50, 86, 5}, {32, 2000, 1}}, true),
+             (Matrix{Row{120, 1500, 15}, Row{10, 50, 5}}));
 }
 
-void TstProgramTable::readRowsConvertsFahrenheit()
+void TstProgramTable::cleanAndCheckMatrix()
 {
-    // Rate and target both go through the temperature conversion; the hold time never does.
-    QCOMPARE(ReadRows({{248, 2732, 15}}, true), (Matrix{Row{120, 1500, 15}}));
-    QCOMPARE(ReadRows({{50, 86, 5}}, true), (Matrix{Row{10, 50, 5}})); // 30 °C raised
-    // 32 °F/min and anything below it read as a zero rate: the row is skipped.
-    QVERIFY(ReadRows({{32, 2000, 1}, {0, 2000, 1}, {31, 2000, 1}}, true).isEmpty());
-}
-
-void TstProgramTable::cleanMatrixRemovesEveryIdleSegment()
-{
-    Matrix matrix{Row{0, 50, 0}, Row{10, 800, 5}, Row{0, 50, 0}, Row{0, 50, 0},
-                  Row{0, 50, 1}, Row{0, 51, 0}, Row{1, 50, 0}, Row{0, 50, 0}};
+    Matrix matrix{Row{0, 50, 0}, Row{10, 800, 5}, Row{0, 50, 0}, Row{0, 50, 1}, Row{0, 51, 0}, Row{1, 50, 0}};
     CleanMatrix(matrix);
     QCOMPARE(matrix, (Matrix{Row{10, 800, 5}, Row{0, 50, 1}, Row{0, 51, 0}, Row{1, 50, 0}}));
 
-    Matrix idle{Row{0, 50, 0}, Row{0, 50, 0}};
-    CleanMatrix(idle);
-    QVERIFY(idle.isEmpty());
-
-    Matrix empty;
-    CleanMatrix(empty);
-    QVERIFY(empty.isEmpty());
-}
-
-void TstProgramTable::checkMatrix()
-{
     QVERIFY(!CheckMatrix({}));
-    QVERIFY(CheckMatrix({Row{1, 50, 0}}));
     QVERIFY(CheckMatrix({Row{10, 800, 5}, Row{120, 1650, 0}}));
     QVERIFY(!CheckMatrix({Row{10, 800, 5}, Row{0, 900, 5}}));
-    QVERIFY(!CheckMatrix({Row{0, 900, 5}, Row{10, 800, 5}}));
     QVERIFY(!CheckMatrix({Row{}}));
 }
 
@@ -165,21 +118,15 @@ void TstProgramTable::checkName_data()
     QTest::newRow("plain") << QStringLiteral("Zirkon 2") << NameVerdict::Ok;
     QTest::newRow("umlauts and sharp s") << QStringLiteral("Glasur Größe ÄÖÜ") << NameVerdict::Ok;
     QTest::newRow("one dollar") << QStringLiteral("A$B") << NameVerdict::Ok;
-    QTest::newRow("minus underscore") << QStringLiteral("a-b_c") << NameVerdict::Ok;
     QTest::newRow("last latin-1") << QStringLiteral("\u00FF") << NameVerdict::Ok;
-    QTest::newRow("empty") << QString() << NameVerdict::Empty;
     QTest::newRow("blanks") << QStringLiteral("   ") << NameVerdict::Empty;
     QTest::newRow("semicolon") << QStringLiteral("a;b") << NameVerdict::ReservedCharacters;
     QTest::newRow("equals") << QStringLiteral("a=b") << NameVerdict::ReservedCharacters;
     QTest::newRow("comma") << QStringLiteral("a,b") << NameVerdict::ReservedCharacters;
     QTest::newRow("dot") << QStringLiteral("Speed 1.5") << NameVerdict::ReservedCharacters;
-    QTest::newRow("two dollars") << QStringLiteral("a$$b") << NameVerdict::ReservedCharacters;
     QTest::newRow("trailing two dollars") << QStringLiteral("ab$$") << NameVerdict::ReservedCharacters;
-    QTest::newRow("euro") << QStringLiteral("5 \u20AC") << NameVerdict::UnsupportedCharacter;
     QTest::newRow("first beyond latin-1") << QStringLiteral("a\u0100") << NameVerdict::UnsupportedCharacter;
-    QTest::newRow("cjk") << QStringLiteral("\u65E5\u672C") << NameVerdict::UnsupportedCharacter;
     QTest::newRow("newline") << QStringLiteral("a\nb") << NameVerdict::UnsupportedCharacter;
-    QTest::newRow("etx") << QStringLiteral("a\u0003") << NameVerdict::UnsupportedCharacter;
 }
 
 void TstProgramTable::checkName()
