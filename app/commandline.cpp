@@ -38,7 +38,7 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
                                         QStringLiteral("dir"), options.home);
     const QCommandLineOption keyPortOption(QStringLiteral("key-port"),
                                            QStringLiteral("TCP port of the display-key server "
-                                                          "(default 6666)."),
+                                                          "(default 6666; 0: any free port)."),
                                            QStringLiteral("n"), QString::number(options.keyPort));
     const QCommandLineOption quitOption(QStringLiteral("quit-after-start"),
                                         QStringLiteral("Leave as soon as the window is shown "
@@ -72,8 +72,9 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     bool ok = false;
     const QString keyPortText = parser.value(keyPortOption);
     const uint keyPort = keyPortText.toUInt(&ok);
-    if (!ok || keyPort == 0 || keyPort > 65535) {
-        output = QStringLiteral("Invalid --key-port '%1': expected a TCP port from 1 to 65535.\n")
+    // 0 lets the system choose a free port: tests run side by side without a fixed one.
+    if (!ok || keyPort > 65535) {
+        output = QStringLiteral("Invalid --key-port '%1': expected a TCP port from 0 to 65535.\n")
                      .arg(keyPortText);
         return Outcome::ExitUsageError;
     }

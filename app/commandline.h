@@ -17,6 +17,8 @@ struct PanelOptions
     bool quitAfterStart = false;
     // Development aid: wait before the automatic self-test (the furnace waits 7000 ms).
     int selftestDelayMs = 7000;
+    // How long the start and door buttons stay locked after a press (the furnace: 1000 ms).
+    int playLockMs = 1000;
 
     // For running the panel away from the furnace (tests, benchmarks, tools): no serial
     // device, any free display-key port, `home` standing for the device's home.

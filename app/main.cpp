@@ -1,7 +1,6 @@
 #include "app/commandline.h"
 #include "app/logutils.h"
 #include "app/mainwindow.h"
-#include "app/paths.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -54,7 +53,6 @@ int main(int argc, char *argv[])
     if (outcome != CommandLine::Outcome::Run)
         return printAndExit(outcome, text);
 
-    Paths::SetHome(options.home);
     initLogging();
 
     auto *window = new ovra::Mainwindow::MainWindow(options);

@@ -38,7 +38,7 @@ using GlobalElements::Iconbutton;
 using Communication::MessageHandler;
 
 MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *parent)
-    : QMainWindow(parent), ui(new Ui::MainWindow), m_options(options)
+    : QMainWindow(parent), ui(new Ui::MainWindow), m_options(options), m_paths(options.home)
 {
     ui->setupUi(this);
     ApplyStyle();
@@ -141,7 +141,7 @@ void MainWindow::CreateTimers()
     connect(m_preDryPulseTimer, &QTimer::timeout, this, &MainWindow::PulsePreDryTimeout);
 
     m_playEnableTimer = new QTimer();
-    m_playEnableTimer->setInterval(1000);
+    m_playEnableTimer->setInterval(m_options.playLockMs);
     m_playEnableTimer->setSingleShot(true);
     connect(m_playEnableTimer, &QTimer::timeout, this, &MainWindow::EnablePlay);
 
@@ -401,7 +401,7 @@ void MainWindow::RewriteExternalScripts()
         if (!reference.open(QIODevice::ReadOnly))
             continue;
         const QByteArray wanted = reference.readAll();
-        const QString path = GlobalElements::Paths::Resolve(fixedPath);
+        const QString path = m_paths.Resolve(fixedPath);
         QFile current(path);
         if (current.open(QIODevice::ReadOnly)
             && QCryptographicHash::hash(current.readAll(), QCryptographicHash::Md5)

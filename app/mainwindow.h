@@ -3,6 +3,7 @@
 #include "app/commandline.h"
 #include "app/pageinterface.h"
 #include "app/pagetables.h"
+#include "app/paths.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -207,6 +208,7 @@ private:
 
     Ui::MainWindow *ui;
     GlobalElements::PanelOptions m_options;
+    const GlobalElements::Paths m_paths;
 
     // Owned components, created in this order. The parentless ones live until the
     // process ends; the popups belong to the window.

@@ -7,31 +7,19 @@ namespace GlobalElements {
 
 const QString Paths::deviceHome = QStringLiteral("/home/pi");
 
-namespace {
-QString &homeOverride()
+Paths::Paths(const QString &home)
+    : m_home(QDir::cleanPath(home))
 {
-    static QString home = Paths::deviceHome;
-    return home;
-}
-} // namespace
-
-void Paths::SetHome(const QString &dir)
-{
-    QString clean = QDir::cleanPath(dir);
-    homeOverride() = clean.isEmpty() ? deviceHome : clean;
+    if (home.isEmpty())
+        m_home = deviceHome;
 }
 
-QString Paths::Home()
-{
-    return homeOverride();
-}
-
-QString Paths::Resolve(const QString &fixedPath)
+QString Paths::Resolve(const QString &fixedPath) const
 {
     if (fixedPath == deviceHome)
-        return Home();
+        return m_home;
     if (fixedPath.startsWith(deviceHome + QLatin1Char('/')))
-        return Home() + fixedPath.mid(deviceHome.size());
+        return m_home + fixedPath.mid(deviceHome.size());
     return fixedPath;
 }
 

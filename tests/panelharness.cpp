@@ -12,6 +12,7 @@ PanelHarness::PanelHarness(int selftestDelayMs)
 {
     ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(m_home.path());
     options.selftestDelayMs = selftestDelayMs;
+    options.playLockMs = 20; // stands for the furnace's one-second lock
     m_window.reset(new ovra::Mainwindow::MainWindow(options));
     m_window->show();
 }

@@ -4,7 +4,7 @@
 
 Simulator::Simulator(const QStringList &arguments)
 {
-    m_process.start(QStringLiteral(OVRA_BINARY_DIR "/tools/hx3sim/hx3sim"),
+    m_process.start(QStringLiteral(OVRA_HX3SIM_BINARY),
                     QStringList{QStringLiteral("--interval"), QStringLiteral("200"), QStringLiteral("--step-ms"),
                                 QStringLiteral("60")}
                         + arguments);

@@ -71,7 +71,7 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
 
     QProcess sim;
     sim.setProcessChannelMode(QProcess::SeparateChannels);
-    sim.start(QStringLiteral(OVRA_BINARY_DIR "/tools/hx3sim/hx3sim"),
+    sim.start(QStringLiteral(OVRA_HX3SIM_BINARY),
               {QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose")});
     QVERIFY(sim.waitForStarted());
     LineReader simOut(&sim);
@@ -81,10 +81,10 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
 
     QProcess panel;
     panel.setWorkingDirectory(root.path() + QStringLiteral("/run"));
-    panel.start(QStringLiteral(OVRA_BINARY_DIR "/ovra-panel"),
+    panel.start(QStringLiteral(OVRA_PANEL_BINARY),
                 {QStringLiteral("--port"), slave, QStringLiteral("--home"),
                  root.path() + QStringLiteral("/home"), QStringLiteral("--key-port"),
-                 QStringLiteral("16666")});
+                 QStringLiteral("0")});
     QVERIFY(panel.waitForStarted());
 
     QVERIFY2(!simOut.waitFor(re(QStringLiteral("^panel connected"))).isEmpty(),

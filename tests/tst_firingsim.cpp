@@ -72,6 +72,7 @@ void TestFiringWithSimulator::firings()
     ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
     options.port = slave;
     options.selftestDelayMs = 200;
+    options.playLockMs = 20;
     MainWindow window(options);
     window.show();
     Ui::MainWindow *ui = window.GetUi();
