@@ -5,6 +5,7 @@
 #include "communication/communicator.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "faults/errorhandler.h"
 #include "faults/popupdeletefailurelist.h"
 #include "faults/popupfailure.h"
@@ -366,7 +367,7 @@ void MainWindow::Slot_SetTouchEnable(bool enable)
     ui->stackedWidget_main->setEnabled(enable);
     // A door left open is closed when the display goes dark, but never during a firing.
     if (!enable && !m_heatProgramInProgress)
-        m_messageHandler->SetRequest(QStringLiteral("doorclose"));
+        m_messageHandler->SetRequest(Communication::Requests::CloseDoor());
 }
 
 void MainWindow::EnablePlay()
@@ -388,7 +389,7 @@ void MainWindow::PulsePreDryButton(bool run)
 
 void MainWindow::PulsePreDryTimeout()
 {
-    m_messageHandler->SetRequest(QStringLiteral("guistate==") + QString::number(m_currentPage));
+    m_messageHandler->SetRequest(Communication::Requests::GuiState(m_currentPage));
 }
 
 void MainWindow::RewriteExternalScripts()

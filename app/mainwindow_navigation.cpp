@@ -2,6 +2,7 @@
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "programs/newprogram.h"
 #include "ui_mainwindow.h"
 
@@ -73,7 +74,7 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
         ui->stackedWidget->setCurrentIndex(static_cast<int>(page));
 
     if (page != m_currentPage)
-        m_messageHandler->SetRequest(QStringLiteral("guistate==") + QString::number(page));
+        m_messageHandler->SetRequest(Communication::Requests::GuiState(page));
     m_currentPage = page;
 }
 

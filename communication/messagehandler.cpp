@@ -100,14 +100,7 @@ QByteArray MessageHandler::HandleMessage(QString message)
         return QByteArray();
     if (body.startsWith("$$"))
         body.remove(0, 2);
-
-    QByteArray answer;
-    answer.reserve(body.size() + 8);
-    answer.append(Frame::startByte);
-    answer.append(body);
-    answer.append(CalcCRC(body).toLatin1());
-    answer.append(Frame::endByte);
-    return answer;
+    return Frame::Build(body);
 }
 
 bool MessageHandler::CheckCRC(QString message)

@@ -2,6 +2,7 @@
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "faults/errorhandler.h"
 #include "faults/failureseverity.h"
 #include "faults/popupfailure.h"
@@ -16,12 +17,12 @@ void MainWindow::Slot_StartSelftest()
     if (m_currentPage == Page::ProcessProg)
         return;
     Statemachine(Page::Selftest);
-    m_messageHandler->SetRequest(QStringLiteral("redost"));
+    m_messageHandler->SetRequest(Communication::Requests::SelfTest());
 }
 
 void MainWindow::SlotServiceSelftest()
 {
-    m_messageHandler->SetRequest(QStringLiteral("redost"));
+    m_messageHandler->SetRequest(Communication::Requests::SelfTest());
 }
 
 void MainWindow::PreparePageSelftest()
@@ -130,7 +131,7 @@ void MainWindow::SlotDeleteFailure()
     m_errorHandler->DeleteErrorListByService();
     ui->pushButton_info->setVisible(false);
     ui->pushButton_infoMainMenu->setVisible(false);
-    m_messageHandler->SetRequest(QStringLiteral("deletefailurelist"));
+    m_messageHandler->SetRequest(Communication::Requests::DeleteFailureList());
 }
 
 } // namespace Mainwindow

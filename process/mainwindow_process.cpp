@@ -2,6 +2,7 @@
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "popups/popuptempwarning.h"
 #include "process/chart.h"
 #include "process/temperaturetext.h"
@@ -21,6 +22,7 @@ namespace ovra {
 namespace Mainwindow {
 
 using GlobalElements::Pageinterface;
+namespace Requests = Communication::Requests;
 
 void MainWindow::ConnectProcessLink()
 {
@@ -132,10 +134,9 @@ void MainWindow::SlotGenerateProgRequest()
 
     if (ui->widget_playNewProg->IsChecked()) {
         const QString name = ui->label_Name->text();
-        const QString pre = QString::number(m_preDryMinutes);
         const QString request = ui->widget_timerPlayProg->IsChecked()
-                                    ? m_timerPopup->GetRequestedTimer() + QLatin1Char(',') + name + QLatin1Char(',') + pre
-                                    : QStringLiteral("hpstart==") + name + QLatin1Char(',') + pre;
+                                    ? Requests::DelayedStart(m_timerPopup->GetRequestedTimer(), name, m_preDryMinutes)
+                                    : Requests::Start(name, m_preDryMinutes);
         m_preDryMinutes = 0;
         m_messageHandler->SetRequest(request);
         ui->widget_timerPlayProg->setVisible(false);
@@ -143,7 +144,7 @@ void MainWindow::SlotGenerateProgRequest()
     } else {
         // Pressed again: the start, or the delayed start, is called off.
         SlotReqStopHeatfile(true);
-        m_messageHandler->SetRequest(QStringLiteral("timer=="));
+        m_messageHandler->SetRequest(Requests::CancelDelayedStart());
         ui->widget_timerPlayProg->setVisible(true);
         ui->widget_doorPlayNewProg->setVisible(true);
     }
@@ -214,7 +215,7 @@ void MainWindow::SlotReqStopHeatfile(bool confirmed)
     // A failure shown before the stop stays visible.
     if (!ui->label_processResult->styleSheet().contains(QLatin1String("Failure")))
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
-    m_messageHandler->SetRequest(QStringLiteral("hpstop"));
+    m_messageHandler->SetRequest(Requests::Stop());
     m_heatProgramInProgress = false;
     ui->widget_exitProcessProg->setVisible(true);
     ui->widget_backProcessProg->setVisible(true);
@@ -346,9 +347,9 @@ void MainWindow::SlotMaterialChanged(const QString &material)
 void MainWindow::SlotMaterialChangedReaction()
 {
     if (sender() == ui->widget_acceptMaterialChanged) {
-        m_messageHandler->SetRequest(QStringLiteral("matchanged"));
+        m_messageHandler->SetRequest(Requests::MaterialChange(true));
     } else if (sender() == ui->widget_rejectMaterialChanged) {
-        m_messageHandler->SetRequest(QStringLiteral("matnotchanged"));
+        m_messageHandler->SetRequest(Requests::MaterialChange(false));
         ui->widget_playNewProg->SetChecked(false);
         SlotGenerateProgRequest();
     }
@@ -384,7 +385,7 @@ void MainWindow::SlotInsulationMissing()
 
 void MainWindow::SlotDoorIsolationInsert()
 {
-    m_messageHandler->SetRequest(QStringLiteral("insulationinsert"));
+    m_messageHandler->SetRequest(Requests::InsulationInserted());
     ui->stackedWidget_main->setCurrentIndex(0);
     if (m_initialStartup)
         m_selftestStartTimer->start(m_options.selftestDelayMs);
@@ -436,7 +437,7 @@ void MainWindow::SlotMoveDoor()
         ui->widget_playNewProg->setEnabled(false);
         m_playEnableTimer->start();
     }
-    m_messageHandler->SetRequest(QStringLiteral("movedoor"));
+    m_messageHandler->SetRequest(Requests::MoveDoor());
     if (m_userInteraction) {
         m_userInteraction = false;
         ui->widget_doorProcessProg->setVisible(false);
@@ -445,7 +446,7 @@ void MainWindow::SlotMoveDoor()
 
 void MainWindow::SlotRequestDoorClose()
 {
-    m_messageHandler->SetRequest(QStringLiteral("doorclose"));
+    m_messageHandler->SetRequest(Requests::CloseDoor());
 }
 
 } // namespace Mainwindow

@@ -2,6 +2,7 @@
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "popups/popup.h"
 #include "popups/popupdeleteprogram.h"
 #include "process/chart.h"
@@ -181,8 +182,7 @@ void MainWindow::SlotSetProgToFav(bool on, Program *program)
         m_programHandler->Slot_SetProgramToFav(program);
     else
         m_programHandler->Slot_DeleteProgramFromFavoriteList(program);
-    m_messageHandler->SetRequest(QStringLiteral("tofavorite==") + program->GetName()
-                                 + (on ? QStringLiteral(",true") : QStringLiteral(",false")));
+    m_messageHandler->SetRequest(Communication::Requests::Favourite(program->GetName(), on));
 }
 
 void MainWindow::SlotDeleteProg()
@@ -220,10 +220,12 @@ void MainWindow::PreparePageChangeProgram(const QString &name)
         ui->widget_newProg->ChangeProgram(found, m_saveAtOnce);
 }
 
-void MainWindow::CheckChangeInProcess(const QString &message)
+void MainWindow::CheckChangeInProcess(const QString &)
 {
-    // The change of the running program has gone out: progress reports count again.
-    if (message.contains(QLatin1String("hpchange"))) {
+    // The store spends its change flag on exactly the heatfile it sends: a window still in
+    // change mode whose store no longer is has just sent the running program's change, and
+    // progress reports count again.
+    if (m_changeInProcess && !m_programHandler->IsChangeInProcess()) {
         m_saveAtOnce = false;
         m_changeInProcess = false;
     }
@@ -233,7 +235,7 @@ void MainWindow::SlotCheckHeatfileCount(int count)
 {
     // At most ten resends per run, whatever the controller keeps reporting.
     if (count > m_programHandler->GetProgramList()->size() && m_hfresendCount < 10) {
-        m_messageHandler->SetRequest(QStringLiteral("hfresend"));
+        m_messageHandler->SetRequest(Communication::Requests::ResendHeatfiles());
         ++m_hfresendCount;
     }
 }

@@ -1,5 +1,6 @@
 #include "programs/programhandler.h"
 
+#include "communication/requests.h"
 #include "programs/heatfiletext.h"
 
 namespace ovra {
@@ -88,9 +89,11 @@ void ProgramHandler::SetChangeInProcess()
 void ProgramHandler::ParseProgToString(Program *prog)
 {
     // The change flag is used up by exactly one heatfile.
-    const QString prefix = m_changeInProcess ? QStringLiteral("hpchange==") : QStringLiteral("heatfile==");
+    const QString text = GlobalElements::HeatfileText::Write(*prog);
+    const bool change = m_changeInProcess;
     m_changeInProcess = false;
-    emit SignalSendProgToHX3(prefix + GlobalElements::HeatfileText::Write(*prog));
+    emit SignalSendProgToHX3(change ? Communication::Requests::ChangeProgram(text)
+                                    : Communication::Requests::NewProgram(text));
 }
 
 void ProgramHandler::Retire(Program *prog)
@@ -189,7 +192,7 @@ void ProgramHandler::Slot_DeleteProgramFromList(const QString &name)
             Slot_DeleteProgramFromFavoriteList(p);
         m_programs.removeAt(i);
         Retire(p);
-        emit SignalAddToRequest(QStringLiteral("hpdelete==") + name);
+        emit SignalAddToRequest(Communication::Requests::DeleteProgram(name));
     }
 }
 

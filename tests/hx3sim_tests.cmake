@@ -17,8 +17,7 @@ set(HX3SIM_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 # Inside the full tree, share the other tests' runtime dir and sanitizer suppressions; the
 # simulator started by the test inherits them.
 if(DEFINED OVRA_TEST_RUNTIME)
-  list(APPEND HX3SIM_TEST_ENVIRONMENT "XDG_RUNTIME_DIR=${OVRA_TEST_RUNTIME}/xdg"
-                                      "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp")
+  list(APPEND HX3SIM_TEST_ENVIRONMENT "XDG_RUNTIME_DIR=${OVRA_TEST_RUNTIME}/xdg" ${OVRA_SANITIZER_ENV})
   add_test(NAME tst_simframe COMMAND tst_simframe WORKING_DIRECTORY ${OVRA_TEST_RUNTIME}/work)
   add_test(NAME tst_furnacemodel COMMAND tst_furnacemodel WORKING_DIRECTORY ${OVRA_TEST_RUNTIME}/work)
 else()

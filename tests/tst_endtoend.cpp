@@ -106,11 +106,12 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
     const int frames = m.captured(1).toInt();
     const int answers = m.captured(2).toInt();
     QVERIFY2(frames >= 20, qPrintable(summary));
-    // A frame whose end byte reaches a busy panel together with its body is dropped by the
-    // line's own rule and times out; on a loaded machine that may happen once.
+    // A frame whose end byte reaches a busy panel together with its body waits, by the line's
+    // own rule, for the next chunk or times out; on a loaded machine that may happen once.
+    // At the quit, that frame and the last one may both still be unanswered.
     const int timeouts = m.captured(5).toInt();
     QVERIFY2(timeouts <= 1, qPrintable(summary));
-    QVERIFY2(answers >= frames - 1 - timeouts, qPrintable(summary)); // the last may be on its way
+    QVERIFY2(answers >= frames - 2 - timeouts, qPrintable(summary));
     QCOMPARE(m.captured(3).toInt(), 0);
     QCOMPARE(m.captured(4).toInt(), 0);
     QCOMPARE(simOut.count(re(QStringLiteral("^BAD ANSWER \\(checksum\\)"))), 0);
