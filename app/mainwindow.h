@@ -4,6 +4,7 @@
 #include "app/pageinterface.h"
 #include "app/pagetables.h"
 #include "app/paths.h"
+#include "process/firingrules.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -243,12 +244,11 @@ private:
     bool m_initialStartup = false;
     bool m_heatProgramInProgress = false;
     bool m_userInteraction = false;
-    bool m_changeMode = false;
     bool m_fahrenheit = false;
     bool m_editMode = false;
     unsigned int m_doorTempLimit = 300;
     float m_lastTemp = 0.0f;
-    bool m_doorClosed = false;
+    Process::Door::State m_doorState = Process::Door::State::Unknown;
     const QString m_selftestPassWord = QStringLiteral("pass");
 
     // Program pages.
@@ -261,7 +261,6 @@ private:
 
     // Firing.
     unsigned int m_preDryMinutes = 0;
-    bool m_preDryRunning = false;
     unsigned int m_currentTemp = 0;
     bool m_argonOven = false;
     QPlainTextEdit *m_autostartNote = nullptr;

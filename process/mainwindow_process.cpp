@@ -5,6 +5,7 @@
 #include "communication/requests.h"
 #include "popups/popuptempwarning.h"
 #include "process/chart.h"
+#include "process/firingrules.h"
 #include "process/temperaturetext.h"
 #include "programs/program.h"
 #include "faults/errorhandler.h"
@@ -63,13 +64,11 @@ void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pagei
     GlobalElements::DisplayElementIcon *material = play ? ui->widget_materialPlay : ui->widget_materialProcess;
 
     // A maker's program is shown only in outline.
-    const bool userProgram = program->GetManufacturer() == ProgramHandler::ProgramHandler::userManufacturer;
+    const bool userProgram = ProgramHandler::ProgramHandler::IsUserProgram(program);
     chart->CreateChart(program->GetMatrix(), !userProgram, m_fahrenheit);
 
     material->SetText(program->GetMaterial());
-    QString materialText = program->GetMaterial();
-    material->SetIcon(materialText.remove(QLatin1Char(' ')) == QLatin1String("Argon") ? QStringLiteral(":/Play/Gas.png")
-                                                                                     : QString());
+    material->SetIcon(Process::IsArgon(program->GetMaterial()) ? QStringLiteral(":/Play/Gas.png") : QString());
     if (play) {
         if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
             ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
@@ -161,17 +160,16 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
         ui->widget_doorProcessProg->setVisible(true);
         ui->widget_processPreDryInfo->setVisible(false);
         ui->widget_processPreDryInfo->SetChecked(false);
-        m_preDryRunning = false;
         m_heatProgramInProgress = false;
         return;
     }
-    const QStringList fields = info.split(QLatin1Char(';'));
-    if (fields.size() < 4)
+    const Process::HeatInfo report = Process::ParseHeatInfo(info);
+    if (report.kind != Process::HeatInfo::Kind::Progress)
         return;
     m_heatProgramInProgress = true;
     if (m_currentPage != Page::ProcessProg && !m_changeInProcess) {
         // A firing started elsewhere, or before the panel, brings the panel to it.
-        if (GlobalElements::Program *program = m_programHandler->GetProgramByName(fields.at(0)))
+        if (GlobalElements::Program *program = m_programHandler->GetProgramByName(report.program))
             Slot_ShowChoosenProgram(program, Page::ProcessProg);
     }
     if (m_currentPage != Page::ProcessProg || m_changeInProcess)
@@ -179,17 +177,15 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
     ui->widget_backProcessProg->setEnabled(false);
     ui->widget_exitProcessProg->setEnabled(false);
     ui->widget_doorProcessProg->setVisible(false);
-    DisplayRemainingTime(fields.at(1));
-    if (fields.at(2) == QLatin1String("pre")) {
-        m_preDryRunning = true;
+    DisplayRemainingTime(report.minutesLeft);
+    if (report.preDrying) {
         ui->widget_processPreDryInfo->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
         ui->widget_processPreDryInfo->setVisible(true);
         ui->widget_processPreDryInfo->SetChecked(true);
     } else {
-        m_preDryRunning = false;
         ui->widget_processPreDryInfo->setVisible(false);
         ui->widget_processPreDryInfo->SetChecked(false);
-        ui->widget_chart_process->UpdateChart(fields.at(2).toUInt(), fields.at(3), m_currentTemp);
+        ui->widget_chart_process->UpdateChart(report.stage, report.stageText, m_currentTemp);
     }
 }
 
@@ -258,15 +254,9 @@ void MainWindow::UpdateProcessTime()
     const QString timer = m_timerPopup->GetRequestedTimer();
     CalculateProcessTime(program, static_cast<unsigned short>(m_preDryMinutes), timer);
 
-    const bool userProgram = program != nullptr && program->GetManufacturer() == ProgramHandler::ProgramHandler::userManufacturer;
+    const bool userProgram = ProgramHandler::ProgramHandler::IsUserProgram(program);
     if (m_autostartNote == nullptr && ui->widget_timerPlayProg->IsChecked()) {
-        const QString request = timer.section(QStringLiteral("=="), 1);
-        const QString date = request.section(QLatin1Char(','), 0, 0);
-        const QString time = request.section(QLatin1Char(','), 1, 1);
-        const QString blanks = QStringLiteral("      ");
-        const QString text = QStringLiteral("      Autostart: ") + QLatin1Char('\n') + blanks + time.left(2)
-                             + QLatin1Char(':') + time.mid(2, 2) + QLatin1Char('\n') + blanks + date.mid(6, 2)
-                             + QLatin1Char('/') + date.mid(4, 2) + QLatin1Char('/') + date.left(4);
+        const QString text = Process::AutostartNote(timer);
         if (ui->horizontalLayout_playButtons->count() < 4) {
             m_autostartNote = new QPlainTextEdit(text);
             m_autostartNote->setObjectName(QStringLiteral("plainTextEdit_autostart"));
@@ -296,25 +286,8 @@ void MainWindow::UpdateProcessTime()
 
 void MainWindow::SlotIncPreDryTime()
 {
-    struct Step
-    {
-        unsigned int next;
-        bool checked;
-        const char *icon;
-    };
-    static const QList<QPair<unsigned int, Step>> steps = {
-        {0, {15, true, ":/Vortrocknen/released15_1.png"}},
-        {15, {30, true, ":/Vortrocknen/released30_1.png"}},
-        {30, {45, true, ":/Vortrocknen/released45_1.png"}},
-        {45, {60, true, ":/Vortrocknen/released60_1.png"}},
-        {60, {0, false, ":/Vortrocknen/Dry_Up_Timer.png"}},
-    };
-    Step step = {0, false, ":/Vortrocknen/Dry_Up_Timer.png"};
-    for (const auto &entry : steps) {
-        if (entry.first == m_preDryMinutes)
-            step = entry.second;
-    }
-    m_preDryMinutes = step.next;
+    const Process::PreDryStep step = Process::NextPreDryStep(m_preDryMinutes);
+    m_preDryMinutes = step.minutes;
     ui->widget_timerPreDry->SetChecked(step.checked);
     ui->widget_timerPreDry->SetIcon(QString::fromLatin1(step.icon));
     CalculateProcessTime(m_programHandler->GetProgramByName(ui->label_Name->text()),
@@ -404,8 +377,7 @@ void MainWindow::SlotTempReceived(const QString &temperature)
 
 void MainWindow::CheckTempDoor()
 {
-    // Strictly above the limit, and only "closed" counts as closed.
-    const bool warn = m_lastTemp > static_cast<float>(m_doorTempLimit) && !m_doorClosed;
+    const bool warn = Process::Door::WarnHot(m_lastTemp, m_doorTempLimit, m_doorState);
     if (warn && !m_popupTempWarning->isVisible())
         m_popupTempWarning->Show();
     else if (!warn && m_popupTempWarning->isVisible())
@@ -414,16 +386,8 @@ void MainWindow::CheckTempDoor()
 
 void MainWindow::SlotDoor(const QString &state)
 {
-    m_doorClosed = false;
-    QString icon;
-    if (state == QLatin1String("closing")) {
-        icon = QStringLiteral(":/Door/Door_Down.png");
-    } else if (state == QLatin1String("opening")) {
-        icon = QStringLiteral(":/Door/Door_Up.png");
-    } else if (state == QLatin1String("closed")) {
-        m_doorClosed = true;
-        icon = QStringLiteral(":/Door/Door_Down.png");
-    }
+    m_doorState = Process::Door::FromReport(state);
+    const QString icon = Process::Door::Icon(m_doorState);
     ui->widget_doorPlayNewProg->SetIcon(icon);
     ui->widget_doorProcessProg->SetIcon(icon);
     CheckTempDoor();

@@ -54,11 +54,17 @@ QString EndOfDay(const QString &startHHMM, qint64 minutes)
     return QStringLiteral("%1:%2").arg(end / 60, 2, 10, QLatin1Char('0')).arg(end % 60, 2, 10, QLatin1Char('0'));
 }
 
+TimerRequest ParseTimerRequest(const QString &requestedTimer)
+{
+    const QString arguments = requestedTimer.section(QStringLiteral("=="), 1);
+    return {arguments.section(QLatin1Char(','), 0, 0), arguments.section(QLatin1Char(','), 1, 1)};
+}
+
 QString StartClock(const QString &clockLabel, const QString &requestedTimer)
 {
     if (requestedTimer.isEmpty())
         return clockLabel;
-    const QString time = requestedTimer.section(QStringLiteral("=="), 1).section(QLatin1Char(','), 1, 1);
+    const QString time = ParseTimerRequest(requestedTimer).time;
     return time.left(2) + QLatin1Char(':') + time.mid(2, 2);
 }
 

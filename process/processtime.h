@@ -25,6 +25,14 @@ int OvenCelsiusFromDisplay(const QString &displayText, bool fahrenheit);
 // unreadable part counts as 0.
 QString EndOfDay(const QString &startHHMM, qint64 minutes);
 
+// The two parts of a requested delayed start "timer==YYYYMMDD,HHMM" (empty when absent).
+struct TimerRequest
+{
+    QString date; // "YYYYMMDD"
+    QString time; // "HHMM"
+};
+TimerRequest ParseTimerRequest(const QString &requestedTimer);
+
 // The start of a requested delayed start "timer==YYYYMMDD,HHMM" as "HH:MM", or the clock
 // label when no delayed start is requested.
 QString StartClock(const QString &clockLabel, const QString &requestedTimer);

@@ -7,6 +7,11 @@ namespace ovra {
 namespace ProgramHandler {
 
 const QString ProgramHandler::userManufacturer = QStringLiteral("user");
+
+bool ProgramHandler::IsUserProgram(const GlobalElements::Program *program)
+{
+    return program != nullptr && program->GetManufacturer() == userManufacturer;
+}
 const QString ProgramHandler::serviceManufacturer = QStringLiteral("service");
 
 ProgramHandler::ProgramHandler(QObject *parent) : QObject(parent)

@@ -46,6 +46,8 @@ public:
     int RetiredCount() const { return m_retired.size(); }
 
     static const QString userManufacturer;
+    // The user's own programs are the ones that may be changed, deleted and shown in full.
+    static bool IsUserProgram(const GlobalElements::Program *program);
     static const QString serviceManufacturer;
 
 signals:
