@@ -251,8 +251,8 @@ private:
 
     QStringList m_externalScripts;
 
-    // Language: the keyword last reported to the controller (empty until one has loaded), the
-    // file whose texts show (empty: the German source texts), and the one translator.
+    // Language: the current keyword (empty until a translation has loaded), the file whose
+    // texts show (empty: the German source texts), and the one translator.
     QString m_language;
     QString m_languageFile;
     QTranslator m_translator;

@@ -39,9 +39,9 @@ LanguageChoice ChoiceFromController(const QString &keyword)
 {
     for (const Language &language : Languages()) {
         if (language.acceptedKeyword == keyword)
-            return {language.file, keyword};
+            return {language.file, keyword, keyword};
     }
-    return {fallbackFile, keyword};
+    return {fallbackFile, keyword, keyword};
 }
 
 LanguageChoice ChoiceFromButton(const QString &label)
@@ -49,9 +49,9 @@ LanguageChoice ChoiceFromButton(const QString &label)
     const QString tapped = WithoutBlanks(label);
     for (const Language &language : Languages()) {
         if (WithoutBlanks(language.label) == tapped)
-            return {language.file, language.sentKeyword};
+            return {language.file, language.sentKeyword, language.acceptedKeyword};
     }
-    return {fallbackFile, fallbackKeyword};
+    return {fallbackFile, fallbackKeyword, fallbackKeyword};
 }
 
 QString TranslationPath(const GlobalElements::Paths &paths, const QString &file)

@@ -45,7 +45,7 @@ void MainWindow::ApplyLanguage(const Settings::LanguageChoice &choice)
             popup->Translate();
         ui->widget_newProg->Translate();
         m_messageHandler->SetRequest(Settings::LanguageRequest(choice.keyword));
-        m_language = choice.keyword;
+        m_language = choice.current;
         qDebug() << "language" << choice.keyword << "from" << path;
     } else {
         // Nothing is reported, so the controller's next "lang" tries the same file again.
