@@ -13,76 +13,40 @@ class TestFaults : public QObject
     Q_OBJECT
 
 private slots:
-    void worstCodeGivesTheSymbol_data();
     void worstCodeGivesTheSymbol();
-    void codeReportedTwiceWithdrawnOnce();
-    void userDeletionKeepsSevereCodes();
-    void everyChangeIsSignalled();
+    void reportWithdrawAndDelete();
 };
-
-void TestFaults::worstCodeGivesTheSymbol_data()
-{
-    QTest::addColumn<QStringList>("codes");
-    QTest::addColumn<QString>("icon");
-    const QString info = QStringLiteral(":/Failure/info.png");
-    const QString medium = QStringLiteral(":/Failure/mittel.png");
-    const QString severe = QStringLiteral(":/Failure/schwer.png");
-    QTest::newRow("five characters") << QStringList{"E1234"} << info;
-    QTest::newRow("five, four") << QStringList{"E1234", "E123"} << medium;
-    QTest::newRow("three first") << QStringList{"E12", "E1234", "E123"} << severe;
-    QTest::newRow("three last") << QStringList{"E1234", "E123", "E12"} << severe;
-    QTest::newRow("other lengths") << QStringList{"", "E1", "E12345"} << QString();
-    QTest::newRow("none") << QStringList() << QString();
-}
 
 void TestFaults::worstCodeGivesTheSymbol()
 {
-    QFETCH(QStringList, codes);
-    QFETCH(QString, icon);
-    QCOMPARE(FailureSeverity::WorstIcon(codes), icon);
+    QCOMPARE(FailureSeverity::WorstIcon({"E1234"}), QStringLiteral(":/Failure/info.png"));
+    QCOMPARE(FailureSeverity::WorstIcon({"E1234", "E123"}), QStringLiteral(":/Failure/mittel.png"));
+    for (const QStringList &order : {QStringList{"E12", "E1234", "E123"}, QStringList{"E1234", "E123", "E12"}})
+        QCOMPARE(FailureSeverity::WorstIcon(order), QStringLiteral(":/Failure/schwer.png"));
+    QCOMPARE(FailureSeverity::WorstIcon({"", "E1", "E12345"}), QString());
 }
 
-void TestFaults::codeReportedTwiceWithdrawnOnce()
-{
-    ErrorHandler errors;
-    errors.AddError(QStringLiteral("E101"));
-    errors.AddError(QStringLiteral("E20"));
-    errors.AddError(QStringLiteral("E101"));
-    QCOMPARE(errors.GetErrorList(), QStringLiteral("E101\nE20\nE101\n"));
-    errors.ResetError(QStringLiteral("E101"));
-    QCOMPARE(errors.GetErrorList(), QStringLiteral("E20\nE101\n"));
-    QCOMPARE(errors.GetProcessErrorList(), QStringLiteral("E20\nE101\n"));
-    errors.ResetError(QStringLiteral("E999"));
-    QCOMPARE(errors.GetErrorList(), QStringLiteral("E20\nE101\n"));
-}
-
-void TestFaults::userDeletionKeepsSevereCodes()
-{
-    ErrorHandler errors;
-    for (const char *code : {"E12", "E1234", "E123", "E45", ""})
-        errors.AddError(QString::fromLatin1(code));
-    errors.DeleteErrorList();
-    // Codes of four characters or more go; the severe ones stay, and so does a shorter one.
-    QCOMPARE(errors.GetErrorList(), QStringLiteral("\nE45\nE12\n"));
-    // The firing's own list is another list.
-    QCOMPARE(errors.GetProcessErrorList(), QStringLiteral("\nE45\nE123\nE1234\nE12\n"));
-
-    errors.DeleteErrorListByService();
-    QCOMPARE(errors.GetErrorList(), QString());
-    errors.DeleteProcessErrorList();
-    QCOMPARE(errors.GetProcessErrorList(), QString());
-}
-
-void TestFaults::everyChangeIsSignalled()
+void TestFaults::reportWithdrawAndDelete()
 {
     ErrorHandler errors;
     QSignalSpy changed(&errors, &ErrorHandler::SignalErrorListChanged);
-    errors.AddError(QStringLiteral("E12"));
-    errors.ResetError(QStringLiteral("E99")); // not listed: the display is refreshed all the same
+    for (const char *code : {"E101", "E12", "E101", "E1234", ""})
+        errors.AddError(QString::fromLatin1(code));
+    // Reported twice, withdrawn once: listed once. A code not listed still refreshes the display.
+    errors.ResetError(QStringLiteral("E101"));
+    errors.ResetError(QStringLiteral("E999"));
+    QCOMPARE(errors.GetErrorList(), QStringLiteral("\nE1234\nE12\nE101\n"));
+    QCOMPARE(changed.count(), 7);
+
+    // The user's deletion drops codes of four characters or more; severe ones stay, and so does
+    // a shorter one. The firing's own list is another list.
     errors.DeleteErrorList();
+    QCOMPARE(errors.GetErrorList(), QStringLiteral("\nE12\n"));
+    QCOMPARE(errors.GetProcessErrorList(), QStringLiteral("\nE1234\nE12\nE101\n"));
     errors.DeleteErrorListByService();
     errors.DeleteProcessErrorList();
-    QCOMPARE(changed.count(), 5);
+    QCOMPARE(errors.GetErrorList() + errors.GetProcessErrorList(), QString());
+    QCOMPARE(changed.count(), 10);
 }
 
 QTEST_APPLESS_MAIN(TestFaults)
