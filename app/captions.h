@@ -59,6 +59,9 @@ constexpr const char *ProgressSave = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWi
 constexpr const char *ProgressBackup = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Daten sichern.\n  Bitte warten...");
 constexpr const char *ProgressConfig = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Konfiguration aktualisieren...\n  Bitte warten...");
 constexpr const char *ProgressSuccess = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Erfolgreich.");
+constexpr const char *Celsius = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "°C  Celsius");
+constexpr const char *Fahrenheit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "°F  Fahrenheit");
+constexpr const char *Bereit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Bereit");
 constexpr const char *ProgressFailed = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Fehlgeschlagen.");
 } // namespace Captions
 

@@ -76,6 +76,7 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
 // the line goes first, its handler after it.
 MainWindow::~MainWindow()
 {
+    QCoreApplication::removeTranslator(&m_translator);
     ReleaseListScrolling();
     delete m_communicator;
     delete m_internalCommunicator;
@@ -263,6 +264,7 @@ void MainWindow::ConnectOvenLink()
     connect(h, &MessageHandler::SignalResetFailure, this, &MainWindow::SlotResetError);
     connect(h, &MessageHandler::SignalServicePin, ui->widget_numpad, &GlobalElements::NumPad::SetCode);
     connect(h, &MessageHandler::SignalUserInteractionRequest, this, &MainWindow::SlotUserInteractionRequest);
+    connect(h, &MessageHandler::SignalSetLanguage, this, &MainWindow::SlotSetLanguage);
     connect(h, &MessageHandler::SignalSetUnit, this, &MainWindow::SlotSetUnit);
     connect(h, &MessageHandler::SignalSetInitalStartup, this, &MainWindow::SlotSetInitialStartup);
     connect(h, &MessageHandler::SignalUpdateProgress, m_popupUSB, &Popups::PopupUSB::SlotUpdateProgress);
@@ -337,6 +339,10 @@ void MainWindow::ConnectPageButtons()
     connect(ui->widget_DateTimeAdjust, &Button::SignalButtonClicked, this, &MainWindow::Slot_ShowTimeAdjustPopup);
     connect(ui->widget_UnitF, &Button::SignalButtonClicked, this, &MainWindow::SlotUnitChanged);
     connect(ui->widget_UnitC, &Button::SignalButtonClicked, this, &MainWindow::SlotUnitChanged);
+    for (Button *language : {ui->widget_Lang1, ui->widget_Lang2, ui->widget_Lang3, ui->widget_Lang4,
+                             ui->widget_Lang5, ui->widget_Lang6, ui->widget_Lang7, ui->widget_Lang8,
+                             ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12})
+        connect(language, &Button::SignalButtonClicked, this, &MainWindow::SlotLanguageChange);
     connect(ui->widget_redoSelftest, &Button::SignalButtonClicked, this, &MainWindow::Slot_StartSelftest);
     connect(ui->widget_LicenseButton, &Button::SignalButtonClicked, this, &MainWindow::SlotShowLicense);
     for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling}) {

@@ -8,6 +8,7 @@
 
 #include <QMainWindow>
 #include <QStringList>
+#include <QTranslator>
 
 class QTimer;
 class QPlainTextEdit;
@@ -49,6 +50,9 @@ class PopupTimeAdjust;
 class PopupUSB;
 class TimerPopup;
 } // namespace Popups
+namespace Settings {
+struct LanguageChoice;
+} // namespace Settings
 
 namespace Mainwindow {
 
@@ -148,7 +152,9 @@ public slots:
     void SlotMoveDoor();
     void SlotRequestDoorClose();
 
-    // Unit and date/time (settings).
+    // Language, unit and date/time (settings).
+    void SlotSetLanguage(const QString &lang);
+    void SlotLanguageChange();
     void SlotSetUnit(const QString &unit);
     void SlotUnitChanged();
     void Slot_ShowTimeAdjustPopup();
@@ -156,6 +162,9 @@ public slots:
     void SlotAddDateToRequest(const QString &date);
     void SlotResetDeviceSettings(bool confirmed);
     void SlotShowLicense();
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
     void CreateComponents();
@@ -198,6 +207,10 @@ private:
     void PreparePagePlay(int from);
     void PreparePageProcess();
     void SetDeviceDataCaptions();
+    void SetSelftestCaptions();
+    void ApplyLanguage(const Settings::LanguageChoice &choice);
+    // Every text of the window's own pages again, in the language now installed.
+    void RetranslateWindow();
     void ClearProgramButtons();
     void FillProgramList(QVBoxLayout *layout, QList<GlobalElements::Program *> *programs);
     void AddFilterButtons(QVBoxLayout *layout, QList<GlobalElements::Button *> &buttons, bool byManufacturer);
@@ -238,6 +251,14 @@ private:
     QTimer *m_selftestStartTimer = nullptr;
 
     QStringList m_externalScripts;
+
+    // Language: the current keyword (empty until a translation has loaded), the file whose
+    // texts show (empty: the German source texts), and the one translator.
+    QString m_language;
+    QString m_languageFile;
+    QTranslator m_translator;
+    // Caption of the page title, re-applied on a language change; none for a program's name.
+    const char *m_titleSource = nullptr;
 
     // State flags.
     bool m_startupShown = false;

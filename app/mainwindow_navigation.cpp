@@ -39,6 +39,7 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
     }
 
     QString title;
+    const char *titleSource = nullptr;
     bool upperCase = true;
     if (page == Page::PlayProg) {
         PreparePagePlay(from);
@@ -53,9 +54,11 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
     } else {
         ui->stackedWidget_main->setCurrentIndex(0);
         if (page >= Page::DeviceData && page <= Page::ChangeProg) {
-            if (const char *source = PageTables::Title(page))
-                title = Caption(source);
+            titleSource = PageTables::Title(page);
+            if (titleSource != nullptr)
+                title = Caption(titleSource);
             if (page == Page::ChangeProg) {
+                titleSource = nullptr;
                 title = ui->label_Name->text();
                 upperCase = from != Page::PlayProg && from != Page::ProcessProg;
                 if (PageTables::RemembersEditorOrigin(page, from))
@@ -69,6 +72,7 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
     }
 
     SetTitle(title, upperCase);
+    m_titleSource = titleSource;
 
     if (!m_editMode || page == Page::NewProg)
         ui->stackedWidget->setCurrentIndex(static_cast<int>(page));
@@ -127,8 +131,7 @@ void MainWindow::PreparePage(Page page, int from)
         PreparePageLanguageSelect();
         break;
     case Page::UnitSelect:
-        ui->widget_UnitC->SetChecked(!m_fahrenheit);
-        ui->widget_UnitF->SetChecked(m_fahrenheit);
+        PreparePageUnitSelect();
         break;
     case Page::DateTime:
         PreparePageDateTime();

@@ -33,11 +33,16 @@ void MainWindow::PreparePageSelftest()
     ui->widget_redoSelftest->setVisible(false);
     ui->widget_exitSelftest->setVisible(false);
     ui->widget_backSelftest->setVisible(false);
+    SetSelftestCaptions();
+    ui->progressBar_selftest->setValue(0);
+}
+
+void MainWindow::SetSelftestCaptions()
+{
     ui->widget_redoSelftest->SetText(Caption(Captions::SystemtestWiederholen));
     ui->widget_testDoor->SetText(Caption(Captions::Tuermechanik));
     ui->widget_testHeatsystem->SetText(Caption(Captions::Heizsystem));
     ui->widget_testCooling->SetText(Caption(Captions::Kuehlsystem));
-    ui->progressBar_selftest->setValue(0);
 }
 
 void MainWindow::SlotIncreaseSelftestProgress(const QString &)

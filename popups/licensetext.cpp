@@ -7,11 +7,11 @@ namespace Popups {
 
 QString LicenseNoticeText(const QString &qtVersion)
 {
-    const char *const context = "ovra::Popups::PopupLicense";
-    const QString uses = QCoreApplication::translate(context, "Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).");
-    const QString version = QCoreApplication::translate(context, "Qt-Version: %1").arg(qtVersion);
+    // The context is spelled out in each call so that lupdate finds the texts.
+    const QString uses = QCoreApplication::translate("ovra::Popups::PopupLicense", "Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).");
+    const QString version = QCoreApplication::translate("ovra::Popups::PopupLicense", "Qt-Version: %1").arg(qtVersion);
     const QString notice = QCoreApplication::translate(
-        context,
+        "ovra::Popups::PopupLicense",
         "Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. "
         "Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, "
         "kompatible Version ersetzt werden. Den Lizenztext finden Sie unter "

@@ -1,7 +1,20 @@
 #include "settings/languages.h"
 
+#include "app/paths.h"
+
 namespace ovra {
 namespace Settings {
+
+namespace {
+const QString fallbackFile = QStringLiteral("translation_en_US.qm");
+const QString fallbackKeyword = QStringLiteral("englischUS");
+const QString translationFolder = QStringLiteral("/home/pi/Downloads/translations/");
+
+QString WithoutBlanks(QString text)
+{
+    return text.remove(QLatin1Char(' '));
+}
+} // namespace
 
 const QList<Language> &Languages()
 {
@@ -20,6 +33,45 @@ const QList<Language> &Languages()
         {QStringLiteral("台灣"), QStringLiteral("taiwanesisch"), QStringLiteral("taiwanesisch"), QStringLiteral("translation_tw.qm"), false},
     };
     return table;
+}
+
+LanguageChoice ChoiceFromController(const QString &keyword)
+{
+    for (const Language &language : Languages()) {
+        if (language.acceptedKeyword == keyword)
+            return {language.file, keyword, keyword};
+    }
+    return {fallbackFile, keyword, keyword};
+}
+
+LanguageChoice ChoiceFromButton(const QString &label)
+{
+    const QString tapped = WithoutBlanks(label);
+    for (const Language &language : Languages()) {
+        if (WithoutBlanks(language.label) == tapped)
+            return {language.file, language.sentKeyword, language.acceptedKeyword};
+    }
+    return {fallbackFile, fallbackKeyword, fallbackKeyword};
+}
+
+QString TranslationPath(const GlobalElements::Paths &paths, const QString &file)
+{
+    return paths.Resolve(translationFolder + file);
+}
+
+int ShownLanguageRow(const QString &loadedFile)
+{
+    const QList<Language> &languages = Languages();
+    for (int row = 0; row < languages.size(); ++row) {
+        if (languages.at(row).file == loadedFile)
+            return row;
+    }
+    return 0;
+}
+
+QString LanguageRequest(const QString &keyword)
+{
+    return QStringLiteral("lang==") + keyword;
 }
 
 } // namespace Settings

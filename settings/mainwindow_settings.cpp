@@ -1,14 +1,90 @@
-// Temperature unit, language buttons, date and time, factory reset, licence.
+// Language and temperature unit, date and time, factory reset, licence.
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "popups/popupbase.h"
 #include "popups/popuplicense.h"
 #include "popups/popuptimeadjust.h"
+#include "programs/newprogram.h"
 #include "settings/languages.h"
+#include "settings/temperatureunit.h"
 #include "ui_mainwindow.h"
+
+#include <QDebug>
+#include <QEvent>
+#include <QFileInfo>
 
 namespace ovra {
 namespace Mainwindow {
+
+void MainWindow::SlotSetLanguage(const QString &lang)
+{
+    if (lang == m_language)
+        return;
+    ApplyLanguage(Settings::ChoiceFromController(lang));
+}
+
+void MainWindow::SlotLanguageChange()
+{
+    const auto *button = qobject_cast<const GlobalElements::Button *>(sender());
+    if (button == nullptr)
+        return;
+    ApplyLanguage(Settings::ChoiceFromButton(button->GetText()));
+}
+
+void MainWindow::ApplyLanguage(const Settings::LanguageChoice &choice)
+{
+    QCoreApplication::removeTranslator(&m_translator);
+    m_languageFile.clear();
+    const QString path = Settings::TranslationPath(m_paths, choice.file);
+    // Only the named file: the translator would otherwise fall back to shorter names.
+    if (QFileInfo(path).isFile() && m_translator.load(path)) {
+        QCoreApplication::installTranslator(&m_translator);
+        m_languageFile = choice.file;
+        for (Popups::PopupBase *popup : findChildren<Popups::PopupBase *>())
+            popup->Translate();
+        ui->widget_newProg->Translate();
+        m_messageHandler->SetRequest(Settings::LanguageRequest(choice.keyword));
+        m_language = choice.current;
+        qDebug() << "language" << choice.keyword << "from" << path;
+    } else {
+        // Nothing is reported, so the controller's next "lang" tries the same file again.
+        qDebug() << "translation not loaded:" << path << "- German texts shown";
+    }
+    RetranslateWindow();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        RetranslateWindow();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::RetranslateWindow()
+{
+    ui->retranslateUi(this);
+    if (m_titleSource != nullptr)
+        SetTitle(Caption(m_titleSource), true);
+    // The captions of every page, not only the one showing: some pages are shown again without
+    // being prepared (the editor's, the program page coming back from a firing).
+    PreparePageMainMenu();
+    PreparePageProgs();
+    PreparePageSettings();
+    PreparePageService();
+    PreparePageLists();
+    PreparePageLanguageSelect();
+    PreparePageUnitSelect();
+    PreparePageDateTime();
+    PreparePageDisplayOptions();
+    PreparePageUSBMenu();
+    SetDeviceDataCaptions();
+    SetSelftestCaptions();
+    ui->widget_deleteFailureList->SetText(Caption(Captions::FehlerLoeschen));
+    ui->widget_myProgsNew->SetText(Caption(Captions::NeuesProgramm));
+    ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
+    ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
+}
 
 void MainWindow::PreparePageLanguageSelect()
 {
@@ -17,6 +93,7 @@ void MainWindow::PreparePageLanguageSelect()
         ui->widget_Lang5, ui->widget_Lang6, ui->widget_Lang7,  ui->widget_Lang8,
         ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12};
     const QList<Settings::Language> &languages = Settings::Languages();
+    const int shown = Settings::ShownLanguageRow(m_languageFile);
     // The offered languages close ranks in the grid; the others keep their places behind them.
     int cell = 0;
     for (bool offered : {true, false}) {
@@ -25,6 +102,8 @@ void MainWindow::PreparePageLanguageSelect()
                 continue;
             buttons.at(i)->SetText(languages.at(i).label);
             buttons.at(i)->setVisible(offered);
+            buttons.at(i)->SetCheckable(true);
+            buttons.at(i)->SetChecked(i == shown);
             ui->gridLayout_lang->addWidget(buttons.at(i), cell / 3, cell % 3);
             ++cell;
         }
@@ -33,8 +112,8 @@ void MainWindow::PreparePageLanguageSelect()
 
 void MainWindow::PreparePageUnitSelect()
 {
-    ui->widget_UnitC->SetText(tr("°C  Celsius"));
-    ui->widget_UnitF->SetText(tr("°F  Fahrenheit"));
+    ui->widget_UnitC->SetText(Caption(Captions::Celsius));
+    ui->widget_UnitF->SetText(Caption(Captions::Fahrenheit));
     ui->widget_UnitC->SetIcon(QStringLiteral(":/Icons/unit.png"));
     ui->widget_UnitF->SetIcon(QStringLiteral(":/Icons/unit.png"));
     ui->widget_UnitC->SetCheckable(true);
@@ -45,15 +124,19 @@ void MainWindow::PreparePageUnitSelect()
 
 void MainWindow::SlotSetUnit(const QString &unit)
 {
-    m_fahrenheit = unit == QLatin1String("f");
-    m_doorTempLimit = m_fahrenheit ? 572 : 300;
+    m_fahrenheit = Settings::TemperatureUnit::IsFahrenheit(unit);
+    m_doorTempLimit = Settings::TemperatureUnit::DoorTempLimit(m_fahrenheit);
+    ui->widget_newProg->SetUnitToFahrenheit(m_fahrenheit);
+    ui->widget_UnitC->SetChecked(!m_fahrenheit);
+    ui->widget_UnitF->SetChecked(m_fahrenheit);
 }
 
 void MainWindow::SlotUnitChanged()
 {
     m_fahrenheit = sender() == ui->widget_UnitF;
-    m_messageHandler->SetRequest(m_fahrenheit ? QStringLiteral("unit==f") : QStringLiteral("unit==c"));
-    m_doorTempLimit = m_fahrenheit ? 572 : 300;
+    m_messageHandler->SetRequest(Settings::TemperatureUnit::Request(m_fahrenheit));
+    m_doorTempLimit = Settings::TemperatureUnit::DoorTempLimit(m_fahrenheit);
+    ui->widget_newProg->SetUnitToFahrenheit(m_fahrenheit);
     ui->widget_UnitC->SetChecked(!m_fahrenheit);
     ui->widget_UnitF->SetChecked(m_fahrenheit);
 }
@@ -82,7 +165,7 @@ void MainWindow::SlotResetDeviceSettings(bool confirmed)
 
 void MainWindow::PreparePageUSBMenu()
 {
-    ui->pushButton_USBProgress->setText(tr("Bereit"));
+    ui->pushButton_USBProgress->setText(Caption(Captions::Bereit));
     ui->widget_USBMenuFWUpdate->SetText(Caption(Captions::FirmwareAktualisierung));
     ui->widget_USBMenuConfigUpdate->SetText(Caption(Captions::KonfigurationAktualisieren));
     ui->widget_USBMenuLoadMyProgs->SetText(Caption(Captions::MeineProgrammeLaden));

@@ -24,15 +24,28 @@ void TestScreenshotTour::everyPageAndPopupIsRendered()
     Q_INIT_RESOURCE(resources);
     qInstallMessageHandler(quiet);
     QTemporaryDir home;
+    QVERIFY(ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_BINARY_DIR "/translations"), home.path()));
     ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
 
     // Kept in the build folder so that a person can look at them after the run.
     const QString folder = QStringLiteral(OVRA_BINARY_DIR "/screenshots");
     const QStringList files = ovra::Tools::ScreenshotTour(&window, folder).Run();
-    // Splash, 26 pages, 9 further views of programs and firings, two full-screen notices
-    // and every popup of the window.
+    // Splash, 26 pages, 9 further views of programs and firings, two full-screen notices,
+    // every popup of the window, and the main pages in each of the tour's languages.
     const int popups = window.findChildren<QDialog *>().size();
-    QCOMPARE(files.size(), 1 + 26 + 9 + 2 + popups);
+    const int languages = ovra::Tools::ScreenshotTour::TourLanguages().size()
+                          * ovra::Tools::ScreenshotTour::TourPages().size();
+    QCOMPARE(files.size(), 1 + 26 + 9 + 2 + popups + languages);
+    // The main menu in Spanish is not the German one, nor Japanese the Chinese one.
+    auto picture = [&files](const QString &suffix) {
+        for (const QString &file : files) {
+            if (file.endsWith(suffix))
+                return QImage(file);
+        }
+        return QImage();
+    };
+    QVERIFY(picture(QStringLiteral("_deutsch_mainmenu.png")) != picture(QStringLiteral("_spanisch_mainmenu.png")));
+    QVERIFY(picture(QStringLiteral("_japanisch_settings.png")) != picture(QStringLiteral("_chinesishc_settings.png")));
     for (const QString &file : files) {
         const QImage image(file);
         QCOMPARE(image.size(), QSize(800, 480));

@@ -15,7 +15,6 @@ const QByteArray kSerialNumber = "S1-2304-0087";
 const QByteArray kHardwareVersion = "HX3-C";
 const QByteArray kSoftwareVersion = "3.12.0";
 constexpr int kOperatingHours = 1234;
-const QByteArray kLanguage = "deutsch";
 constexpr int kStartPage = 1;
 constexpr int kLanguagePage = 12;      // the first page of commissioning
 constexpr int kLastSetupPage = 15;     // pages 12..15: language, unit, date/time, device data
@@ -42,7 +41,7 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     , m_options(options)
     , m_systemAtStart(QDateTime::currentDateTime())
     , m_furnace([this] { return m_clock.isValid() ? m_clock.elapsed() : 0; }, options.speed)
-    , m_language(kLanguage)
+    , m_language(options.language)
     , m_unit(options.unit)
     , m_store(options.programs)
 {
@@ -98,6 +97,8 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_commandHandlers.insert(QStringLiteral("reseterror"), &Hx3Controller::commandResetError);
     m_commandHandlers.insert(QStringLiteral("fail"), &Hx3Controller::commandFail);
     m_commandHandlers.insert(QStringLiteral("temp"), &Hx3Controller::commandTemp);
+    m_commandHandlers.insert(QStringLiteral("lang"), &Hx3Controller::commandLanguage);
+    m_commandHandlers.insert(QStringLiteral("unit"), &Hx3Controller::commandUnit);
 
     m_selfTest.failingRow = m_options.selftestFailRow;
     m_selfTest.stepTimer.setInterval(m_options.stepMs);
@@ -425,6 +426,41 @@ void Hx3Controller::requestLanguage(const QByteArray &parameter)
     }
     m_language = parameter;
     emit message(QStringLiteral("language: ") + QString::fromUtf8(parameter));
+}
+
+bool Hx3Controller::isLanguageKeyword(const QByteArray &keyword)
+{
+    if (keyword.isEmpty())
+        return false;
+    for (const char c : keyword) {
+        if (static_cast<unsigned char>(c) < 0x20 || c == '$' || c == '=' || c == 0x7f)
+            return false;
+    }
+    return true;
+}
+
+// The controller changes the language on its side; the panel's echo ("language: ...") is what
+// the controller then keeps. Any keyword goes out, so that unknown ones can be tried too.
+void Hx3Controller::commandLanguage(const QString &arguments)
+{
+    const QByteArray keyword = arguments.toUtf8();
+    if (!isLanguageKeyword(keyword)) {
+        emit message(QStringLiteral("usage: lang <keyword>, e.g. lang spanisch"));
+        return;
+    }
+    emit message(QStringLiteral("sent: lang==") + arguments);
+    sendEvent(command("lang", keyword));
+}
+
+void Hx3Controller::commandUnit(const QString &arguments)
+{
+    if (arguments != QLatin1String("c") && arguments != QLatin1String("f")) {
+        emit message(QStringLiteral("usage: unit c|f"));
+        return;
+    }
+    m_unit = arguments.toLatin1();
+    emit message(QStringLiteral("sent: unit==") + arguments);
+    sendEvent(command("unit", m_unit));
 }
 
 void Hx3Controller::requestUnit(const QByteArray &parameter)

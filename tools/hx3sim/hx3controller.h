@@ -27,10 +27,15 @@ class Hx3Controller : public QObject
     Q_OBJECT
 
 public:
+    // A keyword that fits into one field of a frame.
+    static bool isLanguageKeyword(const QByteArray &keyword);
+
     struct Options
     {
         int intervalMs = 1000;
         QByteArray unit = "c";
+        // The language keyword the controller keeps, told to the panel at start-up.
+        QByteArray language = "deutsch";
         bool verbose = false;
         // Time between the self-test's results, so that a person watching sees them arrive.
         int stepMs = 700;
@@ -146,6 +151,8 @@ private:
     void commandResetError(const QString &arguments);
     void commandFail(const QString &arguments);
     void commandTemp(const QString &arguments);
+    void commandLanguage(const QString &arguments);
+    void commandUnit(const QString &arguments);
     void sendEvent(const QByteArray &field);
 
     // Furnace time: the system time at construction moved on by the furnace's own time, so

@@ -68,6 +68,8 @@ int main(int argc, char *argv[])
                                             QStringLiteral("ms"), QStringLiteral("1000"));
     const QCommandLineOption unitOption(QStringLiteral("unit"), QStringLiteral("Temperature unit announced to the panel: c or f."),
                                         QStringLiteral("c|f"), QStringLiteral("c"));
+    const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language keyword announced to the panel, e.g. spanisch."),
+                                        QStringLiteral("keyword"), QStringLiteral("deutsch"));
     const QCommandLineOption runForOption(QStringLiteral("run-for"), QStringLiteral("Exit after this many seconds."),
                                           QStringLiteral("seconds"));
     const QCommandLineOption stepOption(QStringLiteral("step-ms"), QStringLiteral("Milliseconds between the self-test's results."),
@@ -89,7 +91,7 @@ int main(int argc, char *argv[])
     const QCommandLineOption doorOption(QStringLiteral("door-ms"), QStringLiteral("Milliseconds the lift door takes to open or close, whatever the speed."),
                                         QStringLiteral("ms"), QStringLiteral("3000"));
     const QCommandLineOption argonOption(QStringLiteral("argon"), QStringLiteral("An argon furnace: says argon==True at start-up."));
-    parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, runForOption, stepOption, selftestFailOption,
+    parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, langOption, runForOption, stepOption, selftestFailOption,
                        commissioningOption, programsOption, manyOption, speedOption, doorOption, argonOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
@@ -114,6 +116,10 @@ int main(int argc, char *argv[])
     if (unit != QLatin1String("c") && unit != QLatin1String("f"))
         return usageError(QStringLiteral("--unit must be c or f, not \"%1\"").arg(unit));
     options.unit = unit.toLatin1();
+
+    options.language = parser.value(langOption).toUtf8();
+    if (!Hx3Controller::isLanguageKeyword(options.language))
+        return usageError(QStringLiteral("--lang needs a keyword without control characters, \"$\" or \"=\", not \"%1\"").arg(parser.value(langOption)));
 
     options.stepMs = parser.value(stepOption).toInt(&ok);
     if (!ok || options.stepMs <= 0)

@@ -23,6 +23,9 @@ int main(int argc, char *argv[])
         return 2;
     }
     QTemporaryDir home;
+    // Without them the pages show German throughout.
+    if (!ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_TRANSLATIONS_DIR), home.path()))
+        std::fprintf(stderr, "no translations in %s\n", OVRA_TRANSLATIONS_DIR);
     ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
     const QStringList files = ovra::Tools::ScreenshotTour(&window, QString::fromLocal8Bit(argv[1])).Run();
     for (const QString &file : files)

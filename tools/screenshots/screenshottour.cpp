@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -199,7 +200,58 @@ QStringList ScreenshotTour::Run()
         const QString name = QString::fromLatin1(popup->metaObject()->className()).section(QStringLiteral("::"), -1).toLower();
         SavePopup(numbered(QStringLiteral("popup_") + name), popup);
     }
+    SaveLanguages(numbered);
     return m_written;
+}
+
+bool ScreenshotTour::InstallTranslations(const QString &builtFolder, const QString &home)
+{
+    const QString folder = home + QStringLiteral("/Downloads/translations/");
+    const QDir built(builtFolder);
+    const QStringList files = built.entryList({QStringLiteral("*.qm")});
+    if (files.isEmpty() || !QDir().mkpath(folder))
+        return false;
+    for (const QString &file : files) {
+        QFile::remove(folder + file);
+        if (!QFile::copy(built.filePath(file), folder + file))
+            return false;
+    }
+    return true;
+}
+
+QStringList ScreenshotTour::TourLanguages()
+{
+    // The six languages the language page offers, then two with other scripts.
+    return {QStringLiteral("deutsch"), QStringLiteral("englischUS"), QStringLiteral("spanisch"),
+            QStringLiteral("franzoesisch"), QStringLiteral("italienisch"), QStringLiteral("portugisisch"),
+            QStringLiteral("japanisch"), QStringLiteral("chinesishc")};
+}
+
+QList<int> ScreenshotTour::TourPages()
+{
+    return {Page::MainMenu, Page::Progs, Page::Settings, Page::Service, Page::Lists, Page::LangSelect,
+            Page::UnitSelect, Page::DateTime, Page::DeviceData2, Page::Selftest, Page::NewProg, Page::PlayProg};
+}
+
+void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)> &numbered)
+{
+    Ui::MainWindow *ui = m_window->GetUi();
+    GlobalElements::Program *speed = m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Zirkon Speed"));
+    for (const QString &language : TourLanguages()) {
+        Feed("lang==" + language.toLatin1());
+        for (int page : TourPages()) {
+            if (page == Page::PlayProg)
+                m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+            else
+                m_window->Statemachine(static_cast<Page>(page));
+            if (page == Page::Selftest)
+                Feed("stdoor==pass$$stheater==pass$$stcooling==fail$$st==fail");
+            Save(numbered(QStringLiteral("%1_%2").arg(language, QString::fromLatin1(pageNames[page]))));
+        }
+        m_window->Statemachine(Page::MainMenu);
+        ui->stackedWidget_main->setCurrentIndex(0);
+    }
+    Feed("lang==deutsch");
 }
 
 void ScreenshotTour::FeedPrograms()

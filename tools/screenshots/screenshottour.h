@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 class QDialog;
 
@@ -22,11 +25,20 @@ public:
     // Returns the files written; an empty list when the folder cannot be written.
     QStringList Run();
 
+    // Copies the built .qm files into <home>/Downloads/translations, where the panel loads them;
+    // false when there are none.
+    static bool InstallTranslations(const QString &builtFolder, const QString &home);
+    // The languages the tour shows its main pages in, by the controller's keyword.
+    static QStringList TourLanguages();
+    // The pages shown in each of them.
+    static QList<int> TourPages();
+
 private:
     void Feed(const QByteArray &fields);
     void FeedPrograms();
     bool Save(const QString &name);
     bool SavePopup(const QString &name, QDialog *popup);
+    void SaveLanguages(const std::function<QString(const QString &)> &numbered);
 
     Mainwindow::MainWindow *m_window;
     QString m_folder;

@@ -1,0 +1,53 @@
+// The failure list and the severity of its codes, without a window.
+#include "faults/errorhandler.h"
+#include "faults/failureseverity.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using ovra::GlobalElements::ErrorHandler;
+namespace FailureSeverity = ovra::GlobalElements::FailureSeverity;
+
+class TestFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void worstCodeGivesTheSymbol();
+    void reportWithdrawAndDelete();
+};
+
+void TestFaults::worstCodeGivesTheSymbol()
+{
+    QCOMPARE(FailureSeverity::WorstIcon({"E1234"}), QStringLiteral(":/Failure/info.png"));
+    QCOMPARE(FailureSeverity::WorstIcon({"E1234", "E123"}), QStringLiteral(":/Failure/mittel.png"));
+    for (const QStringList &order : {QStringList{"E12", "E1234", "E123"}, QStringList{"E1234", "E123", "E12"}})
+        QCOMPARE(FailureSeverity::WorstIcon(order), QStringLiteral(":/Failure/schwer.png"));
+    QCOMPARE(FailureSeverity::WorstIcon({"", "E1", "E12345"}), QString());
+}
+
+void TestFaults::reportWithdrawAndDelete()
+{
+    ErrorHandler errors;
+    QSignalSpy changed(&errors, &ErrorHandler::SignalErrorListChanged);
+    for (const char *code : {"E101", "E12", "E101", "E1234", ""})
+        errors.AddError(QString::fromLatin1(code));
+    // Reported twice, withdrawn once: listed once. A code not listed still refreshes the display.
+    errors.ResetError(QStringLiteral("E101"));
+    errors.ResetError(QStringLiteral("E999"));
+    QCOMPARE(errors.GetErrorList(), QStringLiteral("\nE1234\nE12\nE101\n"));
+    QCOMPARE(changed.count(), 7);
+
+    // The user's deletion drops codes of four characters or more; severe ones stay, and so does
+    // a shorter one. The firing's own list is another list.
+    errors.DeleteErrorList();
+    QCOMPARE(errors.GetErrorList(), QStringLiteral("\nE12\n"));
+    QCOMPARE(errors.GetProcessErrorList(), QStringLiteral("\nE1234\nE12\nE101\n"));
+    errors.DeleteErrorListByService();
+    errors.DeleteProcessErrorList();
+    QCOMPARE(errors.GetErrorList() + errors.GetProcessErrorList(), QString());
+    QCOMPARE(changed.count(), 10);
+}
+
+QTEST_APPLESS_MAIN(TestFaults)
+#include "tst_faults.moc"

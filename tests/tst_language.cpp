@@ -1,0 +1,261 @@
+// Language and temperature unit: chosen by the controller and by the user, the texts of every
+// page and popup switched at once, and end to end against the simulator, the unit's limits in
+// the editor. Translations come from the build, copied into the panel's home.
+#include "app/mainwindow.h"
+#include "panelharness.h"
+#include "programs/newprogram.h"
+#include "programs/tablerow.h"
+#include "simulatorprocess.h"
+#include "widgets/button.h"
+#include "ui_mainwindow.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+using ovra::Mainwindow::MainWindow;
+using ovra::Mainwindow::Page;
+
+namespace {
+void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+void InstallTranslations(const QString &home)
+{
+    const QString folder = home + QStringLiteral("/Downloads/translations/");
+    QDir().mkpath(folder);
+    const QDir built(QStringLiteral(OVRA_BINARY_DIR "/translations"));
+    for (const QString &qm : built.entryList({QStringLiteral("*.qm")}))
+        QFile::copy(built.filePath(qm), folder + qm);
+}
+
+// The German source texts that US English words differently.
+QSet<QString> GermanOnlyTexts()
+{
+    QFile file(QStringLiteral(OVRA_SOURCE_DIR "/translations/translation_en_US.ts"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QSet<QString> texts;
+    QXmlStreamReader xml(&file);
+    QString source;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("source"))
+            source = xml.readElementText();
+        else if (xml.name() == QLatin1String("translation") && xml.readElementText() != source)
+            texts.insert(source);
+    }
+    return texts;
+}
+
+// Every text a user can read on the window, its pages and its popups.
+QStringList ShownTexts(QWidget *window)
+{
+    QStringList texts{window->windowTitle()};
+    for (QWidget *w : window->findChildren<QWidget *>()) {
+        if (auto *label = qobject_cast<QLabel *>(w))
+            texts << label->text();
+        else if (auto *button = qobject_cast<QAbstractButton *>(w))
+            texts << button->text();
+        else if (auto *kit = qobject_cast<ovra::GlobalElements::Button *>(w))
+            texts << kit->GetText();
+        else if (auto *field = qobject_cast<QLineEdit *>(w))
+            texts << field->placeholderText();
+    }
+    return texts;
+}
+} // namespace
+
+class TestLanguage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void controllerChoosesTheLanguage();
+    void chineseTappedThenSentBackByTheController();
+    void everyTextOfEveryPageAndPopupFollows();
+    void simulatorSwitchesToSpanishAndUserPicksFrench();
+    void fahrenheitLimitsInTheEditor();
+
+private:
+    QStringList send(const QByteArray &fields) { return m_panel->Send(fields); }
+    QString title() const { return ui->label_Name->text(); }
+
+    QScopedPointer<PanelHarness> m_panel;
+    Ui::MainWindow *ui = nullptr;
+};
+
+void TestLanguage::initTestCase()
+{
+    Q_INIT_RESOURCE(resources);
+    qInstallMessageHandler(quiet);
+}
+
+void TestLanguage::init()
+{
+    m_panel.reset(new PanelHarness(30));
+    ui = m_panel->Window()->GetUi();
+}
+
+void TestLanguage::cleanup()
+{
+    m_panel.reset();
+    // The window takes its translator with it.
+    QCOMPARE(QCoreApplication::translate("ovra::MainWindow::MainWindow", "Hauptmenü"), QStringLiteral("Hauptmenü"));
+}
+
+void TestLanguage::controllerChoosesTheLanguage()
+{
+    // Without the file German shows, nothing is reported, and the same keyword is tried again.
+    send("guistate==3");
+    QCOMPARE(send("lang==deutsch"), QStringList());
+    InstallTranslations(m_panel->Home());
+    QCOMPARE(send("lang==deutsch"), QStringList{QStringLiteral("lang==deutsch")});
+    QCOMPARE(send("lang==deutsch"), QStringList());
+
+    QCOMPARE(send("lang==spanisch"), QStringList{QStringLiteral("lang==spanisch")});
+    QCOMPARE(title(), QStringLiteral("MENÚ PRINCIPAL"));
+    // A keyword the panel does not know shows US English and is echoed as it came.
+    QCOMPARE(send("lang==klingonisch"), QStringList{QStringLiteral("lang==klingonisch")});
+    QCOMPARE(title(), QStringLiteral("MAIN MENU"));
+    // A file gone missing takes the translation away.
+    QFile::remove(m_panel->Home() + QStringLiteral("/Downloads/translations/translation_it.qm"));
+    QCOMPARE(send("lang==italienisch"), QStringList());
+    QCOMPARE(title(), QStringLiteral("HAUPTMENÜ"));
+}
+
+void TestLanguage::chineseTappedThenSentBackByTheController()
+{
+    InstallTranslations(m_panel->Home());
+    send("guistate==12");
+    QVERIFY(ui->widget_Lang1->IsChecked()); // German shows before anything is loaded
+    QVERIFY(!ui->widget_Lang11->isVisibleTo(ui->page_LangSelect));
+
+    ui->widget_Lang11->setVisible(true); // a panel that offers all twelve languages
+    PanelHarness::Click(ui->widget_Lang11);
+    QCOMPARE(send("temp==300"), QStringList{QStringLiteral("lang==chinesisch")});
+    QCOMPARE(title(), QStringLiteral("语言"));
+    QVERIFY(ui->widget_Lang11->IsChecked() && !ui->widget_Lang1->IsChecked());
+
+    // The panel's own keyword is not one the controller sends: US English, echoed as sent.
+    QCOMPARE(send("lang==chinesisch"), QStringList{QStringLiteral("lang==chinesisch")});
+    QCOMPARE(title(), QStringLiteral("LANGUAGE"));
+    QVERIFY(ui->widget_Lang2->IsChecked());
+}
+
+void TestLanguage::everyTextOfEveryPageAndPopupFollows()
+{
+    InstallTranslations(m_panel->Home());
+    const QSet<QString> german = GermanOnlyTexts();
+    QVERIFY(german.size() > 80);
+    send("guistate==1");
+    for (int page = int(Page::Selftest); page <= int(Page::USB); ++page) {
+        if (page != int(Page::PlayProg) && page != int(Page::ProcessProg))
+            m_panel->Window()->Statemachine(static_cast<Page>(page));
+    }
+    m_panel->Window()->Statemachine(Page::Progs);
+    QVERIFY(ShownTexts(m_panel->Window()).contains(QStringLiteral("Neues Programm")));
+
+    send("lang==englischUS");
+    QStringList left;
+    for (const QString &text : ShownTexts(m_panel->Window())) {
+        if (german.contains(text))
+            left << text;
+    }
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral(" | "))));
+    QCOMPARE(title(), QStringLiteral("PROGRAM OPTIONS"));
+    QCOMPARE(ui->widget_newProg->GetSaveTitle(), QStringLiteral("Save program"));
+}
+
+namespace {
+struct SimulatedPanel
+{
+    explicit SimulatedPanel(const QStringList &simulatorArguments) : sim(simulatorArguments + QStringList{QStringLiteral("--verbose")})
+    {
+        InstallTranslations(home.path());
+        ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
+        options.port = sim.SlavePath();
+        options.selftestDelayMs = 300; // stands for the furnace's 7000 ms
+        window.reset(new MainWindow(options));
+        window->show();
+    }
+    // The controller's own "main menu" after the self-test, before the user starts tapping.
+    bool Ready() { return window->CurrentPage() == Page::MainMenu && sim.AnsweredFrameWith(QStringLiteral("guistate==26")); }
+
+    Simulator sim;
+    QTemporaryDir home;
+    QScopedPointer<MainWindow> window;
+};
+} // namespace
+
+void TestLanguage::simulatorSwitchesToSpanishAndUserPicksFrench()
+{
+    SimulatedPanel panel({});
+    MainWindow *window = panel.window.data();
+    Ui::MainWindow *form = window->GetUi();
+    QTRY_VERIFY_WITH_TIMEOUT(panel.Ready(), 15000);
+    QVERIFY(panel.sim.Printed(QStringLiteral("language: deutsch")));
+
+    panel.sim.Command("lang spanisch");
+    QTRY_COMPARE_WITH_TIMEOUT(form->label_Name->text(), QStringLiteral("MENÚ PRINCIPAL"), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(panel.sim.Printed(QStringLiteral("language: spanisch")), 5000);
+    const QList<QPair<QWidget *, QString>> steps = {
+        {form->widget_MainMenuButtonProgs, QStringLiteral("OPCIONES DE PROGRAMA")},
+        {form->widget_ProgsButtonLists, QStringLiteral("PROGRAMAS")},
+        {form->widget_exitLists, QStringLiteral("MENÚ PRINCIPAL")},
+        {form->widget_MainMenuButtonSettings, QStringLiteral("AJUSTES")},
+        {form->widget_SettingsButtonLangSelect, QStringLiteral("IDIOMA")},
+    };
+    for (const auto &step : steps) {
+        PanelHarness::Click(step.first);
+        QCOMPARE(form->label_Name->text(), step.second);
+    }
+    QVERIFY(form->widget_Lang4->IsChecked()); // Español
+
+    PanelHarness::Click(form->widget_Lang5);
+    QCOMPARE(form->label_Name->text(), QStringLiteral("LANGUE"));
+    QTRY_VERIFY_WITH_TIMEOUT(panel.sim.Printed(QStringLiteral("language: franzoesisch")), 5000);
+    PanelHarness::Click(form->widget_fwdLang);
+    QCOMPARE(form->label_Name->text(), QStringLiteral("UNITÉ DE TEMPÉRATURE"));
+    QCOMPARE(form->widget_UnitC->GetText(), QStringLiteral("°C  Celsius"));
+}
+
+void TestLanguage::fahrenheitLimitsInTheEditor()
+{
+    SimulatedPanel panel({QStringLiteral("--unit"), QStringLiteral("f")});
+    MainWindow *window = panel.window.data();
+    QTRY_VERIFY_WITH_TIMEOUT(panel.Ready(), 15000);
+    ovra::GlobalElements::NewProgram *editor = window->GetUi()->widget_newProg;
+    QVERIFY(editor->IsFahrenheit());
+
+    window->Statemachine(Page::NewProg);
+    ovra::GlobalElements::TableRow *row = editor->GetRows().first();
+    auto type = [editor](QLineEdit *field, const QString &digits) {
+        field->clear();
+        QTest::mouseClick(field, Qt::LeftButton);
+        for (const QChar d : digits)
+            PanelHarness::Click(editor->findChild<QPushButton *>(QStringLiteral("pushButton_pad") + d));
+        return field->text();
+    };
+    // 1650 °C is 3002 °F; a 120 °C/min rate limit reads 248 in Fahrenheit.
+    QCOMPARE(type(row->GetTempField(), QStringLiteral("3003")), QStringLiteral("3002"));
+    QCOMPARE(type(row->GetTempField(), QStringLiteral("1700")), QStringLiteral("1700"));
+    QCOMPARE(type(row->GetRateField(), QStringLiteral("250")), QStringLiteral("248"));
+    QCOMPARE(type(row->GetRateField(), QStringLiteral("200")), QStringLiteral("200"));
+
+    // Anything but a lower-case f from the controller is Celsius: the same entries are refused.
+    panel.sim.Command("send unit==F");
+    QTRY_VERIFY_WITH_TIMEOUT(!editor->IsFahrenheit(), 5000);
+    QCOMPARE(type(row->GetTempField(), QStringLiteral("1700")), QStringLiteral("1650"));
+    QCOMPARE(type(row->GetRateField(), QStringLiteral("200")), QStringLiteral("120"));
+}
+
+QTEST_MAIN(TestLanguage)
+#include "tst_language.moc"

@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Ofen</source>
+        <translation>Forno</translation>
+    </message>
+    <message>
+        <source>Bitte warten …</source>
+        <translation>Aguarde …</translation>
+    </message>
+    <message>
+        <source>Service-PIN:</source>
+        <translation>PIN de serviço:</translation>
+    </message>
+    <message>
+        <source>Verbindung zum Ofen wird hergestellt …</source>
+        <translation>Conectando ao forno …</translation>
+    </message>
+    <message>
+        <source>Materialwechsel</source>
+        <translation>Troca de material</translation>
+    </message>
+    <message>
+        <source>Bitte Türisolation einsetzen</source>
+        <translation>Coloque o isolamento da porta</translation>
+    </message>
+</context>
+<context>
+    <name>Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argônio ou zircônia?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argônio</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zircônia</translation>
+    </message>
+</context>
+<context>
+    <name>PopupArgonFailure</name>
+    <message>
+        <source>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</source>
+        <translation>Falha na verificação
+do fornecimento de argônio.
+
+Verifique as conexões e a pressão de entrada
+e reinicie o processo.</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteFailureList</name>
+    <message>
+        <source>Fehlerliste wird endgültig gelöscht!</source>
+        <translation>A lista de erros será excluída definitivamente!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>O programa será excluído definitivamente!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Erros</translation>
+    </message>
+</context>
+<context>
+    <name>PopupLicense</name>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licença</translation>
+    </message>
+</context>
+<context>
+    <name>PopupOverrideProg</name>
+    <message>
+        <source>Programm wird überschrieben!</source>
+        <translation>O programa será sobrescrito!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQRCode</name>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Gerar código QR</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQuitProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>O programa será excluído definitivamente!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupSettings</name>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Configurações de fábrica</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
+        <translation>Todos os seus programas serão excluídos e as configurações de fábrica restauradas!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupStop</name>
+    <message>
+        <source>Prozess wird abgebrochen!</source>
+        <translation>O processo será interrompido!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Atenção! Forno quente – feche a porta!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Fechar porta</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTimeAdjust</name>
+    <message>
+        <source>Datum und Uhrzeit</source>
+        <translation>Data e hora</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>DD</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Verifique os campos marcados em vermelho.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPopup</name>
+    <message>
+        <source>Startzeit festlegen</source>
+        <translation>Definir horário de início</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>DD</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::NewProgram</name>
+    <message>
+        <source>Programm sichern</source>
+        <translation>Salvar programa</translation>
+    </message>
+    <message>
+        <source>Name ungültig: bitte einen Namen eingeben</source>
+        <translation>Nome inválido: digite um nome</translation>
+    </message>
+    <message>
+        <source>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</source>
+        <translation>Nome inválido: ; = , . e $$ não são permitidos</translation>
+    </message>
+    <message>
+        <source>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</source>
+        <translation>Nome inválido: só caracteres da Europa Ocidental</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::TableHead</name>
+    <message>
+        <source>Nr.</source>
+        <translation>Nº</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Taxa</translation>
+    </message>
+    <message>
+        <source>Temperatur (°F)</source>
+        <translation>Temperatura (°F)</translation>
+    </message>
+    <message>
+        <source>Temperatur (°C)</source>
+        <translation>Temperatura (°C)</translation>
+    </message>
+    <message>
+        <source>Haltezeit (min)</source>
+        <translation>Patamar (min)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::MainWindow::MainWindow</name>
+    <message>
+        <source>Favoriten</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Programmoptionen</source>
+        <translation>Opções de programa</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Serviço</translation>
+    </message>
+    <message>
+        <source>Filteroptionen</source>
+        <translation>Opções de filtro</translation>
+    </message>
+    <message>
+        <source>USB Stick erkannt</source>
+        <translation>Pen drive detectado</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programas</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Temperatureinheit</source>
+        <translation>Unidade de temperatura</translation>
+    </message>
+    <message>
+        <source>Neues Programm</source>
+        <translation>Novo programa</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programas de serviço</translation>
+    </message>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Meus programas</translation>
+    </message>
+    <message>
+        <source>Feste Programme</source>
+        <translation>Programas predefinidos</translation>
+    </message>
+    <message>
+        <source>Gerätedaten</source>
+        <translation>Dados do equipamento</translation>
+    </message>
+    <message>
+        <source>Systemtest</source>
+        <translation>Autoteste</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Erros</translation>
+    </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Apagar erros</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Configurações de fábrica</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Excluir programa</translation>
+    </message>
+    <message>
+        <source>Programm ändern</source>
+        <translation>Alterar programa</translation>
+    </message>
+    <message>
+        <source>Systemtest wiederholen</source>
+        <translation>Repetir autoteste</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Firmware Aktualisierung</source>
+        <translation>Atualizar firmware</translation>
+    </message>
+    <message>
+        <source>Konfiguration aktualisieren</source>
+        <translation>Atualizar configuração</translation>
+    </message>
+    <message>
+        <source>Meine Programme laden</source>
+        <translation>Carregar meus programas</translation>
+    </message>
+    <message>
+        <source>Meine Programme sichern</source>
+        <translation>Salvar meus programas</translation>
+    </message>
+    <message>
+        <source>Daten sichern</source>
+        <translation>Backup de dados</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Gerar código QR</translation>
+    </message>
+    <message>
+        <source>Tür öffnen/schließen</source>
+        <translation>Abrir/fechar porta</translation>
+    </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licença</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit einstellen</source>
+        <translation>Ajustar data e hora</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit</source>
+        <translation>Data e hora</translation>
+    </message>
+    <message>
+        <source>Türmechanik</source>
+        <translation>Mecanismo da porta</translation>
+    </message>
+    <message>
+        <source>Heizsystem</source>
+        <translation>Sistema de aquecimento</translation>
+    </message>
+    <message>
+        <source>Kühlsystem</source>
+        <translation>Sistema de resfriamento</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argônio</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Tipo + série:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Número de série:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Versão de hardware:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Versão de software:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Horas de operação:</translation>
+    </message>
+    <message>
+        <source>  Firmware Aktualisierung...
+  Bitte warten...</source>
+        <translation>  Atualizando firmware...
+  Aguarde...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden geladen.
+  Bitte warten...</source>
+        <translation>  Carregando meus programas.
+  Aguarde...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden gesichert.
+  Bitte warten...</source>
+        <translation>  Salvando meus programas.
+  Aguarde...</translation>
+    </message>
+    <message>
+        <source>  Daten sichern.
+  Bitte warten...</source>
+        <translation>  Fazendo backup dos dados.
+  Aguarde...</translation>
+    </message>
+    <message>
+        <source>  Konfiguration aktualisieren...
+  Bitte warten...</source>
+        <translation>  Atualizando configuração...
+  Aguarde...</translation>
+    </message>
+    <message>
+        <source>  Erfolgreich.</source>
+        <translation>  Concluído.</translation>
+    </message>
+    <message>
+        <source>°C  Celsius</source>
+        <translation>°C  Celsius</translation>
+    </message>
+    <message>
+        <source>°F  Fahrenheit</source>
+        <translation>°F  Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Bereit</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>  Fehlgeschlagen.</source>
+        <translation>  Falhou.</translation>
+    </message>
+    <message>
+        <source>Hauptmenü</source>
+        <translation>Menu principal</translation>
+    </message>
+    <message>
+        <source>Datum &amp; Uhrzeit</source>
+        <translation>Data e hora</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLeaveNewProg</name>
+    <message>
+        <source>Programm nicht gespeichert!
+Zum Hauptmenü?</source>
+        <translation>Programa não salvo!
+Voltar ao menu principal?</translation>
+    </message>
+    <message>
+        <source>Programm nicht gespeichert!
+Zurück?</source>
+        <translation>Programa não salvo!
+Voltar?</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLicense</name>
+    <message>
+        <source>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</source>
+        <translation>Este software utiliza o toolkit Qt (Qt 5, LGPL v3).</translation>
+    </message>
+    <message>
+        <source>Qt-Version: %1</source>
+        <translation>Versão do Qt: %1</translation>
+    </message>
+    <message>
+        <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
+        <translation>O Qt é licenciado sob a GNU Lesser General Public License versão 3 (LGPL v3). As bibliotecas do Qt são vinculadas dinamicamente e podem ser substituídas por uma versão própria compatível. O texto da licença está em https://www.gnu.org/licenses/lgpl-3.0.html, o código-fonte do Qt em https://download.qt.io/archive/qt/ e como pacote-fonte da distribuição Debian utilizada (qtbase-opensource-src).</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupQRCode</name>
+    <message>
+        <source>QR Code nicht verfügbar</source>
+        <translation>Código QR indisponível</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Ofen</source>
+        <translation>Ofen</translation>
+    </message>
+    <message>
+        <source>Bitte warten …</source>
+        <translation>Bitte warten …</translation>
+    </message>
+    <message>
+        <source>Service-PIN:</source>
+        <translation>Service-PIN:</translation>
+    </message>
+    <message>
+        <source>Verbindung zum Ofen wird hergestellt …</source>
+        <translation>Verbindung zum Ofen wird hergestellt …</translation>
+    </message>
+    <message>
+        <source>Materialwechsel</source>
+        <translation>Materialwechsel</translation>
+    </message>
+    <message>
+        <source>Bitte Türisolation einsetzen</source>
+        <translation>Bitte Türisolation einsetzen</translation>
+    </message>
+</context>
+<context>
+    <name>Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon oder Zirkon?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zirkon</translation>
+    </message>
+</context>
+<context>
+    <name>PopupArgonFailure</name>
+    <message>
+        <source>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</source>
+        <translation>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteFailureList</name>
+    <message>
+        <source>Fehlerliste wird endgültig gelöscht!</source>
+        <translation>Fehlerliste wird endgültig gelöscht!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Programm wird endgültig gelöscht!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>PopupLicense</name>
+    <message>
+        <source>Lizenz</source>
+        <translation>Lizenz</translation>
+    </message>
+</context>
+<context>
+    <name>PopupOverrideProg</name>
+    <message>
+        <source>Programm wird überschrieben!</source>
+        <translation>Programm wird überschrieben!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQRCode</name>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QR Code erzeugen</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQuitProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Programm wird endgültig gelöscht!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupSettings</name>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Werkseinstellungen</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
+        <translation>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupStop</name>
+    <message>
+        <source>Prozess wird abgebrochen!</source>
+        <translation>Prozess wird abgebrochen!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Achtung! Ofen ist heiß – Tür schließen!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Tür schließen</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTimeAdjust</name>
+    <message>
+        <source>Datum und Uhrzeit</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>TT</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>JJJJ</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Bitte die rot markierten Felder prüfen.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPopup</name>
+    <message>
+        <source>Startzeit festlegen</source>
+        <translation>Startzeit festlegen</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>TT</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>JJJJ</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::NewProgram</name>
+    <message>
+        <source>Programm sichern</source>
+        <translation>Programm sichern</translation>
+    </message>
+    <message>
+        <source>Name ungültig: bitte einen Namen eingeben</source>
+        <translation>Name ungültig: bitte einen Namen eingeben</translation>
+    </message>
+    <message>
+        <source>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</source>
+        <translation>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</source>
+        <translation>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::TableHead</name>
+    <message>
+        <source>Nr.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
+        <source>Temperatur (°F)</source>
+        <translation>Temperatur (°F)</translation>
+    </message>
+    <message>
+        <source>Temperatur (°C)</source>
+        <translation>Temperatur (°C)</translation>
+    </message>
+    <message>
+        <source>Haltezeit (min)</source>
+        <translation>Haltezeit (min)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::MainWindow::MainWindow</name>
+    <message>
+        <source>Favoriten</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Programmoptionen</source>
+        <translation>Programmoptionen</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Service</translation>
+    </message>
+    <message>
+        <source>Filteroptionen</source>
+        <translation>Filteroptionen</translation>
+    </message>
+    <message>
+        <source>USB Stick erkannt</source>
+        <translation>USB Stick erkannt</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Temperatureinheit</source>
+        <translation>Temperatureinheit</translation>
+    </message>
+    <message>
+        <source>Neues Programm</source>
+        <translation>Neues Programm</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Service Programme</translation>
+    </message>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Meine Programme</translation>
+    </message>
+    <message>
+        <source>Feste Programme</source>
+        <translation>Feste Programme</translation>
+    </message>
+    <message>
+        <source>Gerätedaten</source>
+        <translation>Gerätedaten</translation>
+    </message>
+    <message>
+        <source>Systemtest</source>
+        <translation>Systemtest</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Fehler löschen</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Werkseinstellungen</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Programm löschen</translation>
+    </message>
+    <message>
+        <source>Programm ändern</source>
+        <translation>Programm ändern</translation>
+    </message>
+    <message>
+        <source>Systemtest wiederholen</source>
+        <translation>Systemtest wiederholen</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Firmware Aktualisierung</source>
+        <translation>Firmware Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Konfiguration aktualisieren</source>
+        <translation>Konfiguration aktualisieren</translation>
+    </message>
+    <message>
+        <source>Meine Programme laden</source>
+        <translation>Meine Programme laden</translation>
+    </message>
+    <message>
+        <source>Meine Programme sichern</source>
+        <translation>Meine Programme sichern</translation>
+    </message>
+    <message>
+        <source>Daten sichern</source>
+        <translation>Daten sichern</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QR Code erzeugen</translation>
+    </message>
+    <message>
+        <source>Tür öffnen/schließen</source>
+        <translation>Tür öffnen/schließen</translation>
+    </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit einstellen</source>
+        <translation>Datum &amp;&amp; Uhrzeit einstellen</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit</source>
+        <translation>Datum &amp;&amp; Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Türmechanik</source>
+        <translation>Türmechanik</translation>
+    </message>
+    <message>
+        <source>Heizsystem</source>
+        <translation>Heizsystem</translation>
+    </message>
+    <message>
+        <source>Kühlsystem</source>
+        <translation>Kühlsystem</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Typ + Baureihe:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Hardwareversion:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Softwareversion:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Betriebsstunden:</translation>
+    </message>
+    <message>
+        <source>  Firmware Aktualisierung...
+  Bitte warten...</source>
+        <translation>  Firmware Aktualisierung...
+  Bitte warten...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden geladen.
+  Bitte warten...</source>
+        <translation>  Meine Programme werden geladen.
+  Bitte warten...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden gesichert.
+  Bitte warten...</source>
+        <translation>  Meine Programme werden gesichert.
+  Bitte warten...</translation>
+    </message>
+    <message>
+        <source>  Daten sichern.
+  Bitte warten...</source>
+        <translation>  Daten sichern.
+  Bitte warten...</translation>
+    </message>
+    <message>
+        <source>  Konfiguration aktualisieren...
+  Bitte warten...</source>
+        <translation>  Konfiguration aktualisieren...
+  Bitte warten...</translation>
+    </message>
+    <message>
+        <source>  Erfolgreich.</source>
+        <translation>  Erfolgreich.</translation>
+    </message>
+    <message>
+        <source>°C  Celsius</source>
+        <translation>°C  Celsius</translation>
+    </message>
+    <message>
+        <source>°F  Fahrenheit</source>
+        <translation>°F  Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Bereit</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>  Fehlgeschlagen.</source>
+        <translation>  Fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Hauptmenü</source>
+        <translation>Hauptmenü</translation>
+    </message>
+    <message>
+        <source>Datum &amp; Uhrzeit</source>
+        <translation>Datum &amp; Uhrzeit</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLeaveNewProg</name>
+    <message>
+        <source>Programm nicht gespeichert!
+Zum Hauptmenü?</source>
+        <translation>Programm nicht gespeichert!
+Zum Hauptmenü?</translation>
+    </message>
+    <message>
+        <source>Programm nicht gespeichert!
+Zurück?</source>
+        <translation>Programm nicht gespeichert!
+Zurück?</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLicense</name>
+    <message>
+        <source>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</source>
+        <translation>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</translation>
+    </message>
+    <message>
+        <source>Qt-Version: %1</source>
+        <translation>Qt-Version: %1</translation>
+    </message>
+    <message>
+        <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
+        <translation>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupQRCode</name>
+    <message>
+        <source>QR Code nicht verfügbar</source>
+        <translation>QR Code nicht verfügbar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Ofen</source>
+        <translation>Four</translation>
+    </message>
+    <message>
+        <source>Bitte warten …</source>
+        <translation>Veuillez patienter …</translation>
+    </message>
+    <message>
+        <source>Service-PIN:</source>
+        <translation>PIN service&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Verbindung zum Ofen wird hergestellt …</source>
+        <translation>Connexion au four …</translation>
+    </message>
+    <message>
+        <source>Materialwechsel</source>
+        <translation>Changement de matériau</translation>
+    </message>
+    <message>
+        <source>Bitte Türisolation einsetzen</source>
+        <translation>Insérez l&apos;isolation de porte</translation>
+    </message>
+</context>
+<context>
+    <name>Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon ou zircone&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zircone</translation>
+    </message>
+</context>
+<context>
+    <name>PopupArgonFailure</name>
+    <message>
+        <source>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</source>
+        <translation>Échec du contrôle
+de l&apos;alimentation en argon.
+
+Vérifiez les raccords et la pression d&apos;entrée,
+puis relancez le processus.</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteFailureList</name>
+    <message>
+        <source>Fehlerliste wird endgültig gelöscht!</source>
+        <translation>La liste des erreurs sera définitivement supprimée&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Le programme sera définitivement supprimé&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Erreurs</translation>
+    </message>
+</context>
+<context>
+    <name>PopupLicense</name>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licence</translation>
+    </message>
+</context>
+<context>
+    <name>PopupOverrideProg</name>
+    <message>
+        <source>Programm wird überschrieben!</source>
+        <translation>Le programme sera écrasé&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQRCode</name>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Créer un code QR</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQuitProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Le programme sera définitivement supprimé&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupSettings</name>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Réglages d&apos;usine</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
+        <translation>Tous vos programmes seront supprimés et les réglages d&apos;usine rétablis&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupStop</name>
+    <message>
+        <source>Prozess wird abgebrochen!</source>
+        <translation>Le processus sera interrompu&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Attention&#xa0;! Four chaud – fermez la porte&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Fermer la porte</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTimeAdjust</name>
+    <message>
+        <source>Datum und Uhrzeit</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>JJ</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Vérifiez les champs marqués en rouge.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPopup</name>
+    <message>
+        <source>Startzeit festlegen</source>
+        <translation>Définir l&apos;heure de départ</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>JJ</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::NewProgram</name>
+    <message>
+        <source>Programm sichern</source>
+        <translation>Enregistrer le programme</translation>
+    </message>
+    <message>
+        <source>Name ungültig: bitte einen Namen eingeben</source>
+        <translation>Nom invalide&#xa0;: saisissez un nom</translation>
+    </message>
+    <message>
+        <source>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</source>
+        <translation>Nom invalide&#xa0;: ; = , . et $$ interdits</translation>
+    </message>
+    <message>
+        <source>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</source>
+        <translation>Nom invalide&#xa0;: caractères d&apos;Europe occidentale uniquement</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::TableHead</name>
+    <message>
+        <source>Nr.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Temperatur (°F)</source>
+        <translation>Température (°F)</translation>
+    </message>
+    <message>
+        <source>Temperatur (°C)</source>
+        <translation>Température (°C)</translation>
+    </message>
+    <message>
+        <source>Haltezeit (min)</source>
+        <translation>Palier (min)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::MainWindow::MainWindow</name>
+    <message>
+        <source>Favoriten</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Programmoptionen</source>
+        <translation>Options programme</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Service</translation>
+    </message>
+    <message>
+        <source>Filteroptionen</source>
+        <translation>Options de filtre</translation>
+    </message>
+    <message>
+        <source>USB Stick erkannt</source>
+        <translation>Clé USB détectée</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programmes</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Temperatureinheit</source>
+        <translation>Unité de température</translation>
+    </message>
+    <message>
+        <source>Neues Programm</source>
+        <translation>Nouveau programme</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programmes service</translation>
+    </message>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Mes programmes</translation>
+    </message>
+    <message>
+        <source>Feste Programme</source>
+        <translation>Programmes prédéfinis</translation>
+    </message>
+    <message>
+        <source>Gerätedaten</source>
+        <translation>Données de l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>Systemtest</source>
+        <translation>Autotest</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Effacer les erreurs</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Réglages d&apos;usine</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Supprimer le programme</translation>
+    </message>
+    <message>
+        <source>Programm ändern</source>
+        <translation>Modifier le programme</translation>
+    </message>
+    <message>
+        <source>Systemtest wiederholen</source>
+        <translation>Répéter l&apos;autotest</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>Fabricant</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Matériau</translation>
+    </message>
+    <message>
+        <source>Firmware Aktualisierung</source>
+        <translation>Mise à jour firmware</translation>
+    </message>
+    <message>
+        <source>Konfiguration aktualisieren</source>
+        <translation>Mettre à jour la configuration</translation>
+    </message>
+    <message>
+        <source>Meine Programme laden</source>
+        <translation>Charger mes programmes</translation>
+    </message>
+    <message>
+        <source>Meine Programme sichern</source>
+        <translation>Sauvegarder mes programmes</translation>
+    </message>
+    <message>
+        <source>Daten sichern</source>
+        <translation>Sauvegarder les données</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Créer un code QR</translation>
+    </message>
+    <message>
+        <source>Tür öffnen/schließen</source>
+        <translation>Ouvrir/fermer la porte</translation>
+    </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit einstellen</source>
+        <translation>Régler date et heure</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Türmechanik</source>
+        <translation>Mécanisme de porte</translation>
+    </message>
+    <message>
+        <source>Heizsystem</source>
+        <translation>Système de chauffe</translation>
+    </message>
+    <message>
+        <source>Kühlsystem</source>
+        <translation>Système de refroidissement</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Type + série&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>N° de série&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Version matérielle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Version logicielle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Heures de service&#xa0;:</translation>
+    </message>
+    <message>
+        <source>  Firmware Aktualisierung...
+  Bitte warten...</source>
+        <translation>  Mise à jour du firmware...
+  Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden geladen.
+  Bitte warten...</source>
+        <translation>  Chargement de mes programmes.
+  Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden gesichert.
+  Bitte warten...</source>
+        <translation>  Sauvegarde de mes programmes.
+  Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>  Daten sichern.
+  Bitte warten...</source>
+        <translation>  Sauvegarde des données.
+  Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>  Konfiguration aktualisieren...
+  Bitte warten...</source>
+        <translation>  Mise à jour de la configuration...
+  Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>  Erfolgreich.</source>
+        <translation>  Réussi.</translation>
+    </message>
+    <message>
+        <source>°C  Celsius</source>
+        <translation>°C  Celsius</translation>
+    </message>
+    <message>
+        <source>°F  Fahrenheit</source>
+        <translation>°F  Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Bereit</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>  Fehlgeschlagen.</source>
+        <translation>  Échec.</translation>
+    </message>
+    <message>
+        <source>Hauptmenü</source>
+        <translation>Menu principal</translation>
+    </message>
+    <message>
+        <source>Datum &amp; Uhrzeit</source>
+        <translation>Date et heure</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLeaveNewProg</name>
+    <message>
+        <source>Programm nicht gespeichert!
+Zum Hauptmenü?</source>
+        <translation>Programme non enregistré&#xa0;!
+Retour au menu principal&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Programm nicht gespeichert!
+Zurück?</source>
+        <translation>Programme non enregistré&#xa0;!
+Revenir en arrière&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLicense</name>
+    <message>
+        <source>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</source>
+        <translation>Ce logiciel utilise la bibliothèque Qt (Qt 5, LGPL v3).</translation>
+    </message>
+    <message>
+        <source>Qt-Version: %1</source>
+        <translation>Version de Qt&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
+        <translation>Qt est distribué sous la GNU Lesser General Public License version 3 (LGPL v3). Les bibliothèques Qt sont liées dynamiquement et peuvent être remplacées par votre propre version compatible. Le texte de la licence se trouve sur https://www.gnu.org/licenses/lgpl-3.0.html, le code source de Qt sur https://download.qt.io/archive/qt/ et sous forme de paquet source de la distribution Debian utilisée (qtbase-opensource-src).</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupQRCode</name>
+    <message>
+        <source>QR Code nicht verfügbar</source>
+        <translation>Code QR non disponible</translation>
+    </message>
+</context>
+</TS>

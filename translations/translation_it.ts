@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Ofen</source>
+        <translation>Forno</translation>
+    </message>
+    <message>
+        <source>Bitte warten …</source>
+        <translation>Attendere …</translation>
+    </message>
+    <message>
+        <source>Service-PIN:</source>
+        <translation>PIN assistenza:</translation>
+    </message>
+    <message>
+        <source>Verbindung zum Ofen wird hergestellt …</source>
+        <translation>Connessione al forno …</translation>
+    </message>
+    <message>
+        <source>Materialwechsel</source>
+        <translation>Cambio materiale</translation>
+    </message>
+    <message>
+        <source>Bitte Türisolation einsetzen</source>
+        <translation>Inserire l&apos;isolamento della porta</translation>
+    </message>
+</context>
+<context>
+    <name>Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon o zirconia?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zirconia</translation>
+    </message>
+</context>
+<context>
+    <name>PopupArgonFailure</name>
+    <message>
+        <source>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</source>
+        <translation>Verifica dell&apos;alimentazione di argon
+non riuscita.
+
+Controllare i collegamenti e la pressione in ingresso
+e riavviare il processo.</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteFailureList</name>
+    <message>
+        <source>Fehlerliste wird endgültig gelöscht!</source>
+        <translation>L&apos;elenco errori verrà eliminato definitivamente!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Il programma verrà eliminato definitivamente!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Errori</translation>
+    </message>
+</context>
+<context>
+    <name>PopupLicense</name>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licenza</translation>
+    </message>
+</context>
+<context>
+    <name>PopupOverrideProg</name>
+    <message>
+        <source>Programm wird überschrieben!</source>
+        <translation>Il programma verrà sovrascritto!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQRCode</name>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Crea codice QR</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQuitProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Il programma verrà eliminato definitivamente!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupSettings</name>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Impostazioni di fabbrica</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
+        <translation>Tutti i programmi personali verranno eliminati e le impostazioni di fabbrica ripristinate!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupStop</name>
+    <message>
+        <source>Prozess wird abgebrochen!</source>
+        <translation>Il processo verrà interrotto!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Attenzione! Forno caldo – chiudere la porta!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Chiudi porta</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTimeAdjust</name>
+    <message>
+        <source>Datum und Uhrzeit</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>GG</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Controllare i campi evidenziati in rosso.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPopup</name>
+    <message>
+        <source>Startzeit festlegen</source>
+        <translation>Imposta ora di avvio</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>GG</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::NewProgram</name>
+    <message>
+        <source>Programm sichern</source>
+        <translation>Salva programma</translation>
+    </message>
+    <message>
+        <source>Name ungültig: bitte einen Namen eingeben</source>
+        <translation>Nome non valido: inserire un nome</translation>
+    </message>
+    <message>
+        <source>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</source>
+        <translation>Nome non valido: ; = , . e $$ non ammessi</translation>
+    </message>
+    <message>
+        <source>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</source>
+        <translation>Nome non valido: solo caratteri dell&apos;Europa occidentale</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::TableHead</name>
+    <message>
+        <source>Nr.</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Temperatur (°F)</source>
+        <translation>Temperatura (°F)</translation>
+    </message>
+    <message>
+        <source>Temperatur (°C)</source>
+        <translation>Temperatura (°C)</translation>
+    </message>
+    <message>
+        <source>Haltezeit (min)</source>
+        <translation>Mantenimento (min)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::MainWindow::MainWindow</name>
+    <message>
+        <source>Favoriten</source>
+        <translation>Preferiti</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Programmoptionen</source>
+        <translation>Opzioni programma</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Assistenza</translation>
+    </message>
+    <message>
+        <source>Filteroptionen</source>
+        <translation>Opzioni filtro</translation>
+    </message>
+    <message>
+        <source>USB Stick erkannt</source>
+        <translation>Chiavetta USB rilevata</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programmi</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Temperatureinheit</source>
+        <translation>Unità di temperatura</translation>
+    </message>
+    <message>
+        <source>Neues Programm</source>
+        <translation>Nuovo programma</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programmi assistenza</translation>
+    </message>
+    <message>
+        <source>Meine Programme</source>
+        <translation>I miei programmi</translation>
+    </message>
+    <message>
+        <source>Feste Programme</source>
+        <translation>Programmi predefiniti</translation>
+    </message>
+    <message>
+        <source>Gerätedaten</source>
+        <translation>Dati apparecchio</translation>
+    </message>
+    <message>
+        <source>Systemtest</source>
+        <translation>Autotest</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errori</translation>
+    </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Cancella errori</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Impostazioni di fabbrica</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Elimina programma</translation>
+    </message>
+    <message>
+        <source>Programm ändern</source>
+        <translation>Modifica programma</translation>
+    </message>
+    <message>
+        <source>Systemtest wiederholen</source>
+        <translation>Ripeti autotest</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>Produttore</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Materiale</translation>
+    </message>
+    <message>
+        <source>Firmware Aktualisierung</source>
+        <translation>Aggiornamento firmware</translation>
+    </message>
+    <message>
+        <source>Konfiguration aktualisieren</source>
+        <translation>Aggiorna configurazione</translation>
+    </message>
+    <message>
+        <source>Meine Programme laden</source>
+        <translation>Carica i miei programmi</translation>
+    </message>
+    <message>
+        <source>Meine Programme sichern</source>
+        <translation>Salva i miei programmi</translation>
+    </message>
+    <message>
+        <source>Daten sichern</source>
+        <translation>Backup dati</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Crea codice QR</translation>
+    </message>
+    <message>
+        <source>Tür öffnen/schließen</source>
+        <translation>Apri/chiudi porta</translation>
+    </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licenza</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit einstellen</source>
+        <translation>Imposta data e ora</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>Türmechanik</source>
+        <translation>Meccanica porta</translation>
+    </message>
+    <message>
+        <source>Heizsystem</source>
+        <translation>Sistema di riscaldamento</translation>
+    </message>
+    <message>
+        <source>Kühlsystem</source>
+        <translation>Sistema di raffreddamento</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Tipo + serie:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Numero di serie:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Versione hardware:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Versione software:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Ore di esercizio:</translation>
+    </message>
+    <message>
+        <source>  Firmware Aktualisierung...
+  Bitte warten...</source>
+        <translation>  Aggiornamento firmware...
+  Attendere...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden geladen.
+  Bitte warten...</source>
+        <translation>  Caricamento dei miei programmi.
+  Attendere...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden gesichert.
+  Bitte warten...</source>
+        <translation>  Salvataggio dei miei programmi.
+  Attendere...</translation>
+    </message>
+    <message>
+        <source>  Daten sichern.
+  Bitte warten...</source>
+        <translation>  Backup dei dati.
+  Attendere...</translation>
+    </message>
+    <message>
+        <source>  Konfiguration aktualisieren...
+  Bitte warten...</source>
+        <translation>  Aggiornamento configurazione...
+  Attendere...</translation>
+    </message>
+    <message>
+        <source>  Erfolgreich.</source>
+        <translation>  Riuscito.</translation>
+    </message>
+    <message>
+        <source>°C  Celsius</source>
+        <translation>°C  Celsius</translation>
+    </message>
+    <message>
+        <source>°F  Fahrenheit</source>
+        <translation>°F  Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Bereit</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>  Fehlgeschlagen.</source>
+        <translation>  Non riuscito.</translation>
+    </message>
+    <message>
+        <source>Hauptmenü</source>
+        <translation>Menu principale</translation>
+    </message>
+    <message>
+        <source>Datum &amp; Uhrzeit</source>
+        <translation>Data e ora</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLeaveNewProg</name>
+    <message>
+        <source>Programm nicht gespeichert!
+Zum Hauptmenü?</source>
+        <translation>Programma non salvato!
+Tornare al menu principale?</translation>
+    </message>
+    <message>
+        <source>Programm nicht gespeichert!
+Zurück?</source>
+        <translation>Programma non salvato!
+Tornare indietro?</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLicense</name>
+    <message>
+        <source>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</source>
+        <translation>Questo software utilizza il toolkit Qt (Qt 5, LGPL v3).</translation>
+    </message>
+    <message>
+        <source>Qt-Version: %1</source>
+        <translation>Versione Qt: %1</translation>
+    </message>
+    <message>
+        <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
+        <translation>Qt è distribuito con licenza GNU Lesser General Public License versione 3 (LGPL v3). Le librerie Qt sono collegate dinamicamente e possono essere sostituite da una propria versione compatibile. Il testo della licenza si trova su https://www.gnu.org/licenses/lgpl-3.0.html, il codice sorgente di Qt su https://download.qt.io/archive/qt/ e come pacchetto sorgente della distribuzione Debian utilizzata (qtbase-opensource-src).</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupQRCode</name>
+    <message>
+        <source>QR Code nicht verfügbar</source>
+        <translation>Codice QR non disponibile</translation>
+    </message>
+</context>
+</TS>

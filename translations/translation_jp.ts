@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Ofen</source>
+        <translation>焼結炉</translation>
+    </message>
+    <message>
+        <source>Bitte warten …</source>
+        <translation>お待ちください …</translation>
+    </message>
+    <message>
+        <source>Service-PIN:</source>
+        <translation>サービスPIN:</translation>
+    </message>
+    <message>
+        <source>Verbindung zum Ofen wird hergestellt …</source>
+        <translation>焼結炉に接続しています …</translation>
+    </message>
+    <message>
+        <source>Materialwechsel</source>
+        <translation>材料の変更</translation>
+    </message>
+    <message>
+        <source>Bitte Türisolation einsetzen</source>
+        <translation>扉の断熱材を取り付けてください</translation>
+    </message>
+</context>
+<context>
+    <name>Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>アルゴンまたはジルコニア？</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>アルゴン</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>ジルコニア</translation>
+    </message>
+</context>
+<context>
+    <name>PopupArgonFailure</name>
+    <message>
+        <source>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</source>
+        <translation>アルゴン供給の確認に
+失敗しました。
+
+接続部と供給圧力を確認して、
+プロセスを再開してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteFailureList</name>
+    <message>
+        <source>Fehlerliste wird endgültig gelöscht!</source>
+        <translation>エラーリストを完全に削除します！</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>プログラムを完全に削除します！</translation>
+    </message>
+</context>
+<context>
+    <name>PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>エラー</translation>
+    </message>
+</context>
+<context>
+    <name>PopupLicense</name>
+    <message>
+        <source>Lizenz</source>
+        <translation>ライセンス</translation>
+    </message>
+</context>
+<context>
+    <name>PopupOverrideProg</name>
+    <message>
+        <source>Programm wird überschrieben!</source>
+        <translation>プログラムを上書きします！</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQRCode</name>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QRコード作成</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQuitProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>プログラムを完全に削除します！</translation>
+    </message>
+</context>
+<context>
+    <name>PopupSettings</name>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>工場出荷時設定</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
+        <translation>ユーザープログラムはすべて削除され、工場出荷時設定に戻ります！</translation>
+    </message>
+</context>
+<context>
+    <name>PopupStop</name>
+    <message>
+        <source>Prozess wird abgebrochen!</source>
+        <translation>プロセスを中止します！</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>注意！炉内高温 – 扉を閉めてください！</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>扉を閉める</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTimeAdjust</name>
+    <message>
+        <source>Datum und Uhrzeit</source>
+        <translation>日付と時刻</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>時</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>赤く表示された項目を確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPopup</name>
+    <message>
+        <source>Startzeit festlegen</source>
+        <translation>開始時刻の設定</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>時</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>分</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::NewProgram</name>
+    <message>
+        <source>Programm sichern</source>
+        <translation>プログラムを保存</translation>
+    </message>
+    <message>
+        <source>Name ungültig: bitte einen Namen eingeben</source>
+        <translation>名前が無効です：名前を入力してください</translation>
+    </message>
+    <message>
+        <source>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</source>
+        <translation>名前が無効です：; = , . と $$ は使用できません</translation>
+    </message>
+    <message>
+        <source>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</source>
+        <translation>名前が無効です：西欧言語の文字のみ使用できます</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::TableHead</name>
+    <message>
+        <source>Nr.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>昇温速度</translation>
+    </message>
+    <message>
+        <source>Temperatur (°F)</source>
+        <translation>温度 (°F)</translation>
+    </message>
+    <message>
+        <source>Temperatur (°C)</source>
+        <translation>温度 (°C)</translation>
+    </message>
+    <message>
+        <source>Haltezeit (min)</source>
+        <translation>保持時間 (分)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::MainWindow::MainWindow</name>
+    <message>
+        <source>Favoriten</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Programmoptionen</source>
+        <translation>プログラムオプション</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>Filteroptionen</source>
+        <translation>フィルターオプション</translation>
+    </message>
+    <message>
+        <source>USB Stick erkannt</source>
+        <translation>USBメモリを検出しました</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>プログラム</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Temperatureinheit</source>
+        <translation>温度単位</translation>
+    </message>
+    <message>
+        <source>Neues Programm</source>
+        <translation>新規プログラム</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>サービスプログラム</translation>
+    </message>
+    <message>
+        <source>Meine Programme</source>
+        <translation>マイプログラム</translation>
+    </message>
+    <message>
+        <source>Feste Programme</source>
+        <translation>既定プログラム</translation>
+    </message>
+    <message>
+        <source>Gerätedaten</source>
+        <translation>装置データ</translation>
+    </message>
+    <message>
+        <source>Systemtest</source>
+        <translation>システムテスト</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>エラー消去</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>工場出荷時設定</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>プログラム削除</translation>
+    </message>
+    <message>
+        <source>Programm ändern</source>
+        <translation>プログラム変更</translation>
+    </message>
+    <message>
+        <source>Systemtest wiederholen</source>
+        <translation>システムテスト再実行</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>メーカー</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>Firmware Aktualisierung</source>
+        <translation>ファームウェア更新</translation>
+    </message>
+    <message>
+        <source>Konfiguration aktualisieren</source>
+        <translation>構成の更新</translation>
+    </message>
+    <message>
+        <source>Meine Programme laden</source>
+        <translation>マイプログラム読込</translation>
+    </message>
+    <message>
+        <source>Meine Programme sichern</source>
+        <translation>マイプログラム保存</translation>
+    </message>
+    <message>
+        <source>Daten sichern</source>
+        <translation>データのバックアップ</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QRコード作成</translation>
+    </message>
+    <message>
+        <source>Tür öffnen/schließen</source>
+        <translation>扉の開閉</translation>
+    </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>ライセンス</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit einstellen</source>
+        <translation>日付と時刻の設定</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit</source>
+        <translation>日付と時刻</translation>
+    </message>
+    <message>
+        <source>Türmechanik</source>
+        <translation>扉機構</translation>
+    </message>
+    <message>
+        <source>Heizsystem</source>
+        <translation>加熱システム</translation>
+    </message>
+    <message>
+        <source>Kühlsystem</source>
+        <translation>冷却システム</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>アルゴン</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>型式 + シリーズ:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>シリアル番号:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>ハードウェアバージョン:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>ソフトウェアバージョン:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>稼働時間:</translation>
+    </message>
+    <message>
+        <source>  Firmware Aktualisierung...
+  Bitte warten...</source>
+        <translation>  ファームウェア更新中...
+  お待ちください...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden geladen.
+  Bitte warten...</source>
+        <translation>  マイプログラムを読み込み中。
+  お待ちください...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden gesichert.
+  Bitte warten...</source>
+        <translation>  マイプログラムを保存中。
+  お待ちください...</translation>
+    </message>
+    <message>
+        <source>  Daten sichern.
+  Bitte warten...</source>
+        <translation>  データをバックアップ中。
+  お待ちください...</translation>
+    </message>
+    <message>
+        <source>  Konfiguration aktualisieren...
+  Bitte warten...</source>
+        <translation>  構成を更新中...
+  お待ちください...</translation>
+    </message>
+    <message>
+        <source>  Erfolgreich.</source>
+        <translation>  成功しました。</translation>
+    </message>
+    <message>
+        <source>°C  Celsius</source>
+        <translation>°C  摂氏</translation>
+    </message>
+    <message>
+        <source>°F  Fahrenheit</source>
+        <translation>°F  華氏</translation>
+    </message>
+    <message>
+        <source>Bereit</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>  Fehlgeschlagen.</source>
+        <translation>  失敗しました。</translation>
+    </message>
+    <message>
+        <source>Hauptmenü</source>
+        <translation>メインメニュー</translation>
+    </message>
+    <message>
+        <source>Datum &amp; Uhrzeit</source>
+        <translation>日付と時刻</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLeaveNewProg</name>
+    <message>
+        <source>Programm nicht gespeichert!
+Zum Hauptmenü?</source>
+        <translation>プログラムが保存されていません！
+メインメニューに戻りますか？</translation>
+    </message>
+    <message>
+        <source>Programm nicht gespeichert!
+Zurück?</source>
+        <translation>プログラムが保存されていません！
+戻りますか？</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLicense</name>
+    <message>
+        <source>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</source>
+        <translation>本ソフトウェアは Qt ツールキット (Qt 5, LGPL v3) を使用しています。</translation>
+    </message>
+    <message>
+        <source>Qt-Version: %1</source>
+        <translation>Qt バージョン: %1</translation>
+    </message>
+    <message>
+        <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
+        <translation>Qt は GNU Lesser General Public License バージョン 3 (LGPL v3) の下でライセンスされています。Qt ライブラリは動的にリンクされており、互換性のある独自のバージョンに置き換えることができます。ライセンス全文は https://www.gnu.org/licenses/lgpl-3.0.html、Qt のソースコードは https://download.qt.io/archive/qt/ および使用している Debian ディストリビューションのソースパッケージ (qtbase-opensource-src) から入手できます。</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupQRCode</name>
+    <message>
+        <source>QR Code nicht verfügbar</source>
+        <translation>QRコードは利用できません</translation>
+    </message>
+</context>
+</TS>

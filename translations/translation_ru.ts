@@ -1,0 +1,521 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru">
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Ofen</source>
+        <translation>Печь</translation>
+    </message>
+    <message>
+        <source>Bitte warten …</source>
+        <translation>Пожалуйста, подождите …</translation>
+    </message>
+    <message>
+        <source>Service-PIN:</source>
+        <translation>Сервисный PIN:</translation>
+    </message>
+    <message>
+        <source>Verbindung zum Ofen wird hergestellt …</source>
+        <translation>Подключение к печи …</translation>
+    </message>
+    <message>
+        <source>Materialwechsel</source>
+        <translation>Смена материала</translation>
+    </message>
+    <message>
+        <source>Bitte Türisolation einsetzen</source>
+        <translation>Установите изоляцию дверцы</translation>
+    </message>
+</context>
+<context>
+    <name>Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Аргон или цирконий?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Аргон</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Цирконий</translation>
+    </message>
+</context>
+<context>
+    <name>PopupArgonFailure</name>
+    <message>
+        <source>Überprüfung der Argon Versorgung
+fehlgeschlagen.
+
+Bitte die Anschlüsse und Eingangsdruck
+überprüfen und den Prozess neu starten.</source>
+        <translation>Проверка подачи аргона
+не пройдена.
+
+Проверьте подключения и входное давление
+и перезапустите процесс.</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteFailureList</name>
+    <message>
+        <source>Fehlerliste wird endgültig gelöscht!</source>
+        <translation>Список ошибок будет удалён безвозвратно!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupDeleteProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Программа будет удалена безвозвратно!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Ошибки</translation>
+    </message>
+</context>
+<context>
+    <name>PopupLicense</name>
+    <message>
+        <source>Lizenz</source>
+        <translation>Лицензия</translation>
+    </message>
+</context>
+<context>
+    <name>PopupOverrideProg</name>
+    <message>
+        <source>Programm wird überschrieben!</source>
+        <translation>Программа будет перезаписана!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQRCode</name>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Создать QR-код</translation>
+    </message>
+</context>
+<context>
+    <name>PopupQuitProgram</name>
+    <message>
+        <source>Programm wird endgültig gelöscht!</source>
+        <translation>Программа будет удалена безвозвратно!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupSettings</name>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Заводские настройки</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
+        <translation>Все собственные программы будут удалены, заводские настройки восстановлены!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupStop</name>
+    <message>
+        <source>Prozess wird abgebrochen!</source>
+        <translation>Процесс будет прерван!</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Внимание! Печь горячая – закройте дверцу!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Закрыть дверцу</translation>
+    </message>
+</context>
+<context>
+    <name>PopupTimeAdjust</name>
+    <message>
+        <source>Datum und Uhrzeit</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>ДД</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>ММ</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>ГГГГ</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>чч</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>мм</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Проверьте поля, отмеченные красным.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerPopup</name>
+    <message>
+        <source>Startzeit festlegen</source>
+        <translation>Задать время старта</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>ДД</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>ММ</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>ГГГГ</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>чч</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>мм</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::NewProgram</name>
+    <message>
+        <source>Programm sichern</source>
+        <translation>Сохранить программу</translation>
+    </message>
+    <message>
+        <source>Name ungültig: bitte einen Namen eingeben</source>
+        <translation>Недопустимое имя: введите имя</translation>
+    </message>
+    <message>
+        <source>Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt</source>
+        <translation>Недопустимое имя: символы ; = , . и $$ запрещены</translation>
+    </message>
+    <message>
+        <source>Name ungültig: nur Zeichen westeuropäischer Sprachen sind erlaubt</source>
+        <translation>Недопустимое имя: только западноевропейские символы</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::TableHead</name>
+    <message>
+        <source>Nr.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Temperatur (°F)</source>
+        <translation>Температура (°F)</translation>
+    </message>
+    <message>
+        <source>Temperatur (°C)</source>
+        <translation>Температура (°C)</translation>
+    </message>
+    <message>
+        <source>Haltezeit (min)</source>
+        <translation>Выдержка (мин)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::MainWindow::MainWindow</name>
+    <message>
+        <source>Favoriten</source>
+        <translation>Избранное</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Programmoptionen</source>
+        <translation>Параметры программ</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Сервис</translation>
+    </message>
+    <message>
+        <source>Filteroptionen</source>
+        <translation>Параметры фильтра</translation>
+    </message>
+    <message>
+        <source>USB Stick erkannt</source>
+        <translation>Обнаружен USB-накопитель</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Программы</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Temperatureinheit</source>
+        <translation>Единица температуры</translation>
+    </message>
+    <message>
+        <source>Neues Programm</source>
+        <translation>Новая программа</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Сервисные программы</translation>
+    </message>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Мои программы</translation>
+    </message>
+    <message>
+        <source>Feste Programme</source>
+        <translation>Стандартные программы</translation>
+    </message>
+    <message>
+        <source>Gerätedaten</source>
+        <translation>Данные устройства</translation>
+    </message>
+    <message>
+        <source>Systemtest</source>
+        <translation>Системный тест</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Ошибки</translation>
+    </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Удалить ошибки</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Заводские настройки</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Удалить программу</translation>
+    </message>
+    <message>
+        <source>Programm ändern</source>
+        <translation>Изменить программу</translation>
+    </message>
+    <message>
+        <source>Systemtest wiederholen</source>
+        <translation>Повторить системный тест</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>Производитель</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Материал</translation>
+    </message>
+    <message>
+        <source>Firmware Aktualisierung</source>
+        <translation>Обновление прошивки</translation>
+    </message>
+    <message>
+        <source>Konfiguration aktualisieren</source>
+        <translation>Обновить конфигурацию</translation>
+    </message>
+    <message>
+        <source>Meine Programme laden</source>
+        <translation>Загрузить мои программы</translation>
+    </message>
+    <message>
+        <source>Meine Programme sichern</source>
+        <translation>Сохранить мои программы</translation>
+    </message>
+    <message>
+        <source>Daten sichern</source>
+        <translation>Резервная копия данных</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Создать QR-код</translation>
+    </message>
+    <message>
+        <source>Tür öffnen/schließen</source>
+        <translation>Открыть/закрыть дверцу</translation>
+    </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Лицензия</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit einstellen</source>
+        <translation>Установить дату и время</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; Uhrzeit</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <source>Türmechanik</source>
+        <translation>Механизм дверцы</translation>
+    </message>
+    <message>
+        <source>Heizsystem</source>
+        <translation>Система нагрева</translation>
+    </message>
+    <message>
+        <source>Kühlsystem</source>
+        <translation>Система охлаждения</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Аргон</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Тип + серия:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Серийный номер:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Версия оборудования:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Версия ПО:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Часы работы:</translation>
+    </message>
+    <message>
+        <source>  Firmware Aktualisierung...
+  Bitte warten...</source>
+        <translation>  Обновление прошивки...
+  Пожалуйста, подождите...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden geladen.
+  Bitte warten...</source>
+        <translation>  Загрузка моих программ.
+  Пожалуйста, подождите...</translation>
+    </message>
+    <message>
+        <source>  Meine Programme werden gesichert.
+  Bitte warten...</source>
+        <translation>  Сохранение моих программ.
+  Пожалуйста, подождите...</translation>
+    </message>
+    <message>
+        <source>  Daten sichern.
+  Bitte warten...</source>
+        <translation>  Резервное копирование данных.
+  Пожалуйста, подождите...</translation>
+    </message>
+    <message>
+        <source>  Konfiguration aktualisieren...
+  Bitte warten...</source>
+        <translation>  Обновление конфигурации...
+  Пожалуйста, подождите...</translation>
+    </message>
+    <message>
+        <source>  Erfolgreich.</source>
+        <translation>  Успешно.</translation>
+    </message>
+    <message>
+        <source>°C  Celsius</source>
+        <translation>°C  Цельсий</translation>
+    </message>
+    <message>
+        <source>°F  Fahrenheit</source>
+        <translation>°F  Фаренгейт</translation>
+    </message>
+    <message>
+        <source>Bereit</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>  Fehlgeschlagen.</source>
+        <translation>  Ошибка.</translation>
+    </message>
+    <message>
+        <source>Hauptmenü</source>
+        <translation>Главное меню</translation>
+    </message>
+    <message>
+        <source>Datum &amp; Uhrzeit</source>
+        <translation>Дата и время</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLeaveNewProg</name>
+    <message>
+        <source>Programm nicht gespeichert!
+Zum Hauptmenü?</source>
+        <translation>Программа не сохранена!
+В главное меню?</translation>
+    </message>
+    <message>
+        <source>Programm nicht gespeichert!
+Zurück?</source>
+        <translation>Программа не сохранена!
+Назад?</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupLicense</name>
+    <message>
+        <source>Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).</source>
+        <translation>Это программное обеспечение использует библиотеку Qt (Qt 5, LGPL v3).</translation>
+    </message>
+    <message>
+        <source>Qt-Version: %1</source>
+        <translation>Версия Qt: %1</translation>
+    </message>
+    <message>
+        <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
+        <translation>Qt распространяется по лицензии GNU Lesser General Public License версии 3 (LGPL v3). Библиотеки Qt подключены динамически и могут быть заменены собственной совместимой версией. Текст лицензии: https://www.gnu.org/licenses/lgpl-3.0.html, исходный код Qt: https://download.qt.io/archive/qt/, а также пакет исходного кода используемого дистрибутива Debian (qtbase-opensource-src).</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupQRCode</name>
+    <message>
+        <source>QR Code nicht verfügbar</source>
+        <translation>QR-код недоступен</translation>
+    </message>
+</context>
+</TS>
