@@ -70,11 +70,6 @@ QString Icon(State state)
     return QString();
 }
 
-unsigned int TemperatureLimit(bool fahrenheit)
-{
-    return fahrenheit ? 572 : 300;
-}
-
 bool WarnHot(double shownTemperature, unsigned int limit, State state)
 {
     return shownTemperature > limit && state != State::Closed;

@@ -39,8 +39,8 @@ namespace Door {
 enum class State { Unknown, Opening, Closing, Closed };
 State FromReport(const QString &text); // "opening", "closing", "closed"; anything else Unknown
 QString Icon(State state);             // empty for Unknown: the button shows no door
-unsigned int TemperatureLimit(bool fahrenheit); // 300 °C, 572 °F: the hot-door limit
-// The hot-door warning: strictly above the limit of the shown unit, unless the door is closed.
+// The hot-door warning: strictly above the limit of the shown unit (its value comes with the
+// unit), unless the door is closed.
 bool WarnHot(double shownTemperature, unsigned int limit, State state);
 
 } // namespace Door

@@ -69,10 +69,5 @@ int ShownLanguageRow(const QString &loadedFile)
     return 0;
 }
 
-QString LanguageRequest(const QString &keyword)
-{
-    return QStringLiteral("lang==") + keyword;
-}
-
 } // namespace Settings
 } // namespace ovra

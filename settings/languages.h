@@ -49,8 +49,5 @@ QString TranslationPath(const GlobalElements::Paths &paths, const QString &file)
 // show, which is row 0.
 int ShownLanguageRow(const QString &loadedFile);
 
-// The request that tells the controller the language now shown.
-QString LanguageRequest(const QString &keyword);
-
 } // namespace Settings
 } // namespace ovra

@@ -2,6 +2,7 @@
 #include "app/captions.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "popups/popupbase.h"
 #include "popups/popuplicense.h"
 #include "popups/popuptimeadjust.h"
@@ -44,7 +45,7 @@ void MainWindow::ApplyLanguage(const Settings::LanguageChoice &choice)
         for (Popups::PopupBase *popup : findChildren<Popups::PopupBase *>())
             popup->Translate();
         ui->widget_newProg->Translate();
-        m_messageHandler->SetRequest(Settings::LanguageRequest(choice.keyword));
+        m_messageHandler->SetRequest(Communication::Requests::Language(choice.keyword));
         m_language = choice.current;
         qDebug() << "language" << choice.keyword << "from" << path;
     } else {
@@ -134,7 +135,7 @@ void MainWindow::SlotSetUnit(const QString &unit)
 void MainWindow::SlotUnitChanged()
 {
     m_fahrenheit = sender() == ui->widget_UnitF;
-    m_messageHandler->SetRequest(Settings::TemperatureUnit::Request(m_fahrenheit));
+    m_messageHandler->SetRequest(Communication::Requests::Unit(m_fahrenheit));
     m_doorTempLimit = Settings::TemperatureUnit::DoorTempLimit(m_fahrenheit);
     ui->widget_newProg->SetUnitToFahrenheit(m_fahrenheit);
     ui->widget_UnitC->SetChecked(!m_fahrenheit);
@@ -149,12 +150,12 @@ void MainWindow::Slot_ShowTimeAdjustPopup()
 
 void MainWindow::SlotAddTimeToRequest(const QString &time)
 {
-    m_messageHandler->SetRequest(QStringLiteral("time==") + time);
+    m_messageHandler->SetRequest(Communication::Requests::Time(time));
 }
 
 void MainWindow::SlotAddDateToRequest(const QString &date)
 {
-    m_messageHandler->SetRequest(QStringLiteral("date==") + date);
+    m_messageHandler->SetRequest(Communication::Requests::Date(date));
 }
 
 void MainWindow::SlotResetDeviceSettings(bool confirmed)

@@ -9,11 +9,6 @@ bool IsFahrenheit(const QString &unit)
     return unit == QLatin1String("f");
 }
 
-QString Request(bool fahrenheit)
-{
-    return fahrenheit ? QStringLiteral("unit==f") : QStringLiteral("unit==c");
-}
-
 unsigned int DoorTempLimit(bool fahrenheit)
 {
     return fahrenheit ? 572 : 300; // 300 °C

@@ -11,8 +11,6 @@ namespace TemperatureUnit {
 // Only a lower-case "f" from the controller means Fahrenheit; any other text, "F" included,
 // means Celsius.
 bool IsFahrenheit(const QString &unit);
-// The request that tells the controller the unit the user chose.
-QString Request(bool fahrenheit);
 // Above this chamber temperature, in the unit shown, an opened door draws the warning.
 unsigned int DoorTempLimit(bool fahrenheit);
 
