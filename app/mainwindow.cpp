@@ -2,6 +2,7 @@
 
 #include "app/captions.h"
 #include "app/paths.h"
+#include "app/scriptupkeep.h"
 #include "communication/communicator.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
@@ -24,10 +25,8 @@
 #include "ui_mainwindow.h"
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDebug>
 #include <QFile>
-#include <QFileInfo>
 #include <QTimer>
 
 namespace ovra {
@@ -393,27 +392,7 @@ void MainWindow::PulsePreDryTimeout()
 
 void MainWindow::RewriteExternalScripts()
 {
-    // Each start-up script has a reference copy in the resources; a copy on the device that
-    // differs (or is missing) is written anew, so a damaged card heals itself.
-    for (const QString &fixedPath : qAsConst(m_externalScripts)) {
-        const QString resource = QStringLiteral(":/scripts/") + QFileInfo(fixedPath).fileName();
-        QFile reference(resource);
-        if (!reference.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray wanted = reference.readAll();
-        const QString path = m_paths.Resolve(fixedPath);
-        QFile current(path);
-        if (current.open(QIODevice::ReadOnly)
-            && QCryptographicHash::hash(current.readAll(), QCryptographicHash::Md5)
-                   == QCryptographicHash::hash(wanted, QCryptographicHash::Md5)) {
-            continue;
-        }
-        current.close();
-        if (current.open(QIODevice::WriteOnly | QIODevice::Truncate) && current.write(wanted) == wanted.size())
-            qDebug() << "script rewritten:" << path;
-        else
-            qDebug() << "script could not be rewritten:" << path;
-    }
+    GlobalElements::ScriptUpkeep(m_paths).Run(m_externalScripts);
 }
 
 } // namespace Mainwindow

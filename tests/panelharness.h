@@ -16,6 +16,7 @@ public:
     explicit PanelHarness(int selftestDelayMs = 7000);
 
     ovra::Mainwindow::MainWindow *Window() const { return m_window.data(); }
+    QString Home() const { return m_home.path(); }
 
     // Feeds one frame; returns the requests that went out with the answer, or
     // "<bad answer>" when the answer's checksum is wrong.
