@@ -10,9 +10,9 @@ QString Text(const Data &data)
         const QString simplified = text.simplified();
         return simplified.isEmpty() ? QStringLiteral("-") : simplified;
     };
-    return QStringLiteral("Model: %1\nSerial: %2\nHW: %3\nSW: %4\nPanel: %5\nHours: %6\nFailures: %7")
+    return QStringLiteral("Model: %1\nSerial: %2\nHW: %3\nSW: %4\nHours: %5\nFailures: %6")
         .arg(value(data.model), value(data.serialNumber), value(data.hardwareVersion),
-             value(data.softwareVersion), value(data.panelVersion), value(data.operatingHours),
+             value(data.softwareVersion), value(data.operatingHours),
              value(data.failures.join(QLatin1Char(','))));
 }
 

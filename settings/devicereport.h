@@ -16,13 +16,12 @@ struct Data
     QString model;
     QString serialNumber;
     QString hardwareVersion;
-    QString softwareVersion;
-    QString panelVersion;
+    QString softwareVersion; // the controller's, then the panel's: "V 3.04 / R02E.1"
     QString operatingHours;
     QStringList failures; // current failure codes, newest first
 };
 
-// "Model: ...\nSerial: ...\nHW: ...\nSW: ...\nPanel: ...\nHours: ...\nFailures: A,B" ("-" for none).
+// "Model: ...\nSerial: ...\nHW: ...\nSW: ...\nHours: ...\nFailures: A,B" ("-" for none).
 QString Text(const Data &data);
 
 } // namespace DeviceReport

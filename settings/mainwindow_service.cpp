@@ -29,11 +29,18 @@ const QString stickOut = QStringLiteral("out");
 const QString actionDone = QStringLiteral("done");
 const QString actionFailed = QStringLiteral("failed");
 
-QList<const Program *> Constant(QList<Program *> *programs)
+QList<const Program *> Constant(const QList<Program *> &programs)
 {
     QList<const Program *> result;
-    for (const Program *program : qAsConst(*programs))
+    for (const Program *program : programs)
         result << program;
+    return result;
+}
+
+// The store's filtered lists are the caller's to delete.
+QList<const Program *> Taken(QList<Program *> *programs)
+{
+    const QList<const Program *> result = Constant(*programs);
     delete programs;
     return result;
 }
@@ -132,12 +139,12 @@ void MainWindow::RunUsbFileAction()
         error = QStringLiteral("no USB stick is mounted");
     } else if (m_usbAction == UsbAction::SavePrograms) {
         success = files.SavePrograms(
-            Constant(m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::ProgramHandler::userManufacturer)),
+            Taken(m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::ProgramHandler::userManufacturer)),
             &error);
     } else if (m_usbAction == UsbAction::LoadPrograms) {
         success = LoadProgramsFromStick(stick, &error);
     } else if (m_usbAction == UsbAction::Backup) {
-        const QString folder = files.Backup(Constant(m_programHandler->GetProgramList()), DeviceReportText(),
+        const QString folder = files.Backup(Constant(*m_programHandler->GetProgramList()), DeviceReportText(),
                                             ui->widget_Data2->GetText(), GlobalElements::logFolderName,
                                             QDateTime::currentDateTime(), &error);
         success = !folder.isEmpty();
@@ -150,12 +157,11 @@ void MainWindow::RunUsbFileAction()
 bool MainWindow::LoadProgramsFromStick(const QString &stick, QString *error)
 {
     QStringList taken;
-    QList<Program *> *all = m_programHandler->GetProgramList();
-    for (const Program *program : qAsConst(*all)) {
+    // The store's own list, not a copy.
+    for (const Program *program : qAsConst(*m_programHandler->GetProgramList())) {
         if (program->GetManufacturer() != ProgramHandler::ProgramHandler::userManufacturer)
             taken << program->GetName();
     }
-    delete all;
     QList<Program *> loaded;
     if (!Settings::UsbFiles(stick).LoadPrograms(taken, &loaded, error))
         return false;
@@ -194,7 +200,6 @@ QString MainWindow::DeviceReportText() const
     device.serialNumber = ui->widget_Data2->GetText();
     device.hardwareVersion = ui->widget_Data3->GetText();
     device.softwareVersion = ui->widget_Data4->GetText();
-    device.panelVersion = GlobalElements::Pageinterface::versionInfo;
     device.operatingHours = ui->widget_Data5->GetText();
     device.failures = m_errorHandler->GetErrorList().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return Settings::DeviceReport::Text(device);

@@ -279,7 +279,7 @@ void TestServiceCore::deviceReportAndQrCode()
     data.serialNumber = QStringLiteral("%1");
     data.failures = QStringList{QStringLiteral("E12"), QStringLiteral("E3")};
     QCOMPARE(ovra::Settings::DeviceReport::Text(data),
-             QStringLiteral("Model: Sinter X\nSerial: %1\nHW: -\nSW: -\nPanel: -\nHours: -\nFailures: E12,E3"));
+             QStringLiteral("Model: Sinter X\nSerial: %1\nHW: -\nSW: -\nHours: -\nFailures: E12,E3"));
 
     const auto code = ovra::Settings::QrCode::Encode("Model: Sinter X");
     QVERIFY(code.Size() >= 21);
