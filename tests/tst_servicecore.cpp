@@ -1,29 +1,45 @@
-// The service functions' logic without a window: upkeep of the start-up scripts, the
-// programs file and backup on the USB stick, the device report and its QR code.
+// The service functions without a window: the display-key server over real sockets and the
+// key script driven through a stand-in GPIO module, upkeep of the start-up scripts, the
+// programs file and backup on the USB stick.
 #include "app/paths.h"
 #include "app/scriptupkeep.h"
+#include "communication/internalcommunicator.h"
 #include "programs/heatfiletext.h"
 #include "programs/program.h"
-#include "settings/devicereport.h"
-#include "settings/qrcode.h"
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QNetworkInterface>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <sys/stat.h>
 
-using ovra::GlobalElements::Paths;
+using ovra::Communication::InternalCommunicator;
 using ovra::GlobalElements::Program;
-using ovra::GlobalElements::ScriptUpkeep;
 using ovra::Settings::UsbFiles;
-namespace HeatfileText = ovra::GlobalElements::HeatfileText;
 
 namespace {
+// The server shares this thread: wait with the event loop running.
+QByteArray Answer(QTcpSocket &socket, const QByteArray &message)
+{
+    socket.write(message);
+    QByteArray answer;
+    QDeadlineTimer deadline(5000);
+    while (answer.size() < 3 && !deadline.hasExpired()) {
+        QTest::qWait(5);
+        answer += socket.readAll();
+    }
+    return answer;
+}
+
 bool Write(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
@@ -36,25 +52,21 @@ QByteArray Read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
 }
 
-struct FileStamp
-{
-    ino_t inode = 0;
-    qint64 mtimeNs = 0;
-    bool operator==(const FileStamp &o) const { return inode == o.inode && mtimeNs == o.mtimeNs; }
-};
-
-FileStamp Stamp(const QString &path)
+// Inode and modification time: equal only for a file nobody wrote.
+QPair<qint64, qint64> Stamp(const QString &path)
 {
     struct stat st {};
-    if (::stat(QFile::encodeName(path).constData(), &st) != 0)
-        return {};
-    return {st.st_ino, qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec};
+    ::stat(QFile::encodeName(path).constData(), &st);
+    return {qint64(st.st_ino), qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec};
 }
 
 bool Runnable(const QString &path)
 {
     return QFileInfo(path).permission(QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 }
+
+const QByteArray good = "[metainfo];name=Krone;manufacturer=user;material=Zirkon;favorite=false;"
+                        "[1];rate=10;temp=1173;hold=1800;";
 } // namespace
 
 class TestServiceCore : public QObject
@@ -62,229 +74,196 @@ class TestServiceCore : public QObject
     Q_OBJECT
 
 private slots:
+    void wordsAndClients();
+    void listensOnLoopbackOnly();
+    void keyScriptSwitchesDisplayAndTouch();
     void scriptUpkeepRewritesOnlyWhatDiffers();
-    void heatfileTextReadsWhatItWrites();
-    void heatfileTextRefusesEditedNonsense_data();
-    void heatfileTextRefusesEditedNonsense();
-    void stickVolumes();
-    void myProgramsGoToTheStickAndBack();
     void loadingIsAllOrNothing();
-    void unwritableStickFails();
-    void backupHoldsProgramsDeviceDataAndLogs();
-    void deviceReportAndQrCode();
+    void stickFailuresAndBackup();
 };
 
-namespace {
-Program Sample(const QString &name, const QString &material, bool fav)
+void TestServiceCore::wordsAndClients()
 {
-    return Program(name, material, {{10, 900, 30}, {5, 1530, 120}}, QStringLiteral("user"), fav);
+    InternalCommunicator server(nullptr, 0);
+    QSignalSpy touch(&server, &InternalCommunicator::SignalReceivedTouchEvent);
+    QTcpSocket first;
+    first.connectToHost(QHostAddress::LocalHost, server.Port());
+    QVERIFY(first.waitForConnected(3000));
+    QCOMPARE(Answer(first, "aus"), QByteArray("ack"));
+    QCOMPARE(Answer(first, "ein"), QByteArray("ack"));
+    QCOMPARE(Answer(first, "anaus"), QByteArray("nak")); // two words in one read: one unknown text
+
+    // A second client waits unread in the backlog until the first leaves.
+    QTcpSocket second;
+    second.connectToHost(QHostAddress::LocalHost, server.Port());
+    QVERIFY(second.waitForConnected(3000));
+    second.write("aus");
+    QCOMPARE(Answer(first, "an"), QByteArray("nak"));
+    QCOMPARE(touch.size(), 4);
+    first.disconnectFromHost();
+    QTRY_COMPARE(touch.size(), 5);
+    QByteArray answer;
+    QTRY_COMPARE((answer += second.readAll()), QByteArray("ack"));
+    QList<bool> states;
+    for (const QList<QVariant> &signal : touch)
+        states << signal.at(0).toBool();
+    QCOMPARE(states, (QList<bool>{false, true, true, true, false}));
 }
-const char *const goodText = "[metainfo];name=Krone;manufacturer=user;material=Zirkon;favorite=false;"
-                             "[1];rate=10;temp=1173;hold=1800;";
-} // namespace
+
+void TestServiceCore::listensOnLoopbackOnly()
+{
+    InternalCommunicator server(nullptr, 0);
+    QTcpSocket key6;
+    key6.connectToHost(QHostAddress::LocalHostIPv6, server.Port());
+    QCOMPARE(key6.waitForConnected(3000), server.IsListeningIPv6());
+    const QList<QHostAddress> all = QNetworkInterface::allAddresses();
+    const auto outside = std::find_if(all.cbegin(), all.cend(), [](const QHostAddress &a) {
+        return !a.isLoopback() && a.protocol() == QAbstractSocket::IPv4Protocol;
+    });
+    if (outside == all.cend())
+        QSKIP("this machine has no address besides the loopback");
+    QTcpSocket stranger;
+    stranger.connectToHost(*outside, server.Port());
+    QVERIFY(!stranger.waitForConnected(3000));
+    QCOMPARE(stranger.error(), QAbstractSocket::ConnectionRefusedError);
+}
+
+void TestServiceCore::keyScriptSwitchesDisplayAndTouch()
+{
+    const QString python = QStandardPaths::findExecutable(QStringLiteral("python3"));
+    if (python.isEmpty())
+        QSKIP("no python3 on this machine");
+    InternalCommunicator server(nullptr, 0);
+    QSignalSpy touch(&server, &InternalCommunicator::SignalReceivedTouchEvent);
+    QTemporaryDir work;
+    QProcess script;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PYTHONPATH"), QStringLiteral(OVRA_SOURCE_DIR "/tests/fakegpio"));
+    environment.insert(QStringLiteral("PYTHONDONTWRITEBYTECODE"), QStringLiteral("1"));
+    script.setProcessEnvironment(environment);
+    script.setWorkingDirectory(work.path());
+    // A hold of 50 ms stands for the furnace's second.
+    script.start(python, {QStringLiteral(OVRA_SOURCE_DIR "/resources/scripts/dispOn.py"),
+                          QString::number(server.Port()), QStringLiteral("50")});
+    QByteArray output;
+    const auto printed = [&](const char *text) { return (output += script.readAll()).contains(text); };
+    QTRY_VERIFY(printed("mode BOARD\nsetup 32 out 1\nsetup 13 out 1\nsetup 15 in up\nwatch 15 falling 1500\n"));
+    QFile pid(work.filePath(QStringLiteral("dispOn.pid")));
+    QVERIFY(pid.open(QIODevice::ReadOnly));
+    QCOMPARE(pid.readAll().toLongLong(), script.processId());
+
+    // Held with the display on: display and touch off. Held again: both on, on a new socket.
+    script.write("press\n");
+    QTRY_VERIFY(printed("output 32 0\noutput 13 0\nhandled\n"));
+    script.write("release\npress\n");
+    QTRY_VERIFY(printed("output 32 1\noutput 13 1\nhandled\n"));
+    QTRY_COMPARE(touch.size(), 2);
+    QCOMPARE(touch.at(0).at(0).toBool(), false);
+    QCOMPARE(touch.at(1).at(0).toBool(), true);
+    QVERIFY(!output.contains("failure"));
+    script.kill();
+    script.waitForFinished();
+}
 
 void TestServiceCore::scriptUpkeepRewritesOnlyWhatDiffers()
 {
     QTemporaryDir references;
     QTemporaryDir home;
-    QVERIFY(Write(references.filePath(QStringLiteral("start.sh")), "#!/bin/sh\necho start\n"));
+    QVERIFY(Write(references.filePath(QStringLiteral("start.sh")), "echo start\n"));
     QVERIFY(Write(references.filePath(QStringLiteral("key.py")), "print('key')\n"));
     const QStringList scripts = {QStringLiteral("/home/pi/start.sh"), QStringLiteral("/home/pi/DispOn/key.py"),
                                  QStringLiteral("/home/pi/Downloads/none.py")};
-    const ScriptUpkeep upkeep(Paths(home.path()), references.path());
+    const ovra::GlobalElements::ScriptUpkeep upkeep(ovra::GlobalElements::Paths(home.path()), references.path());
     const QString start = home.filePath(QStringLiteral("start.sh"));
     const QString key = home.filePath(QStringLiteral("DispOn/key.py"));
 
-    // A fresh card: folders made, both written and runnable; no reference, no file.
+    // A fresh card: the folder made, both written and runnable; no reference, no file.
     QCOMPARE(upkeep.Run(scripts), (QStringList{start, key}));
-    QCOMPARE(Read(key), QByteArray("print('key')\n"));
     QVERIFY(Runnable(start) && Runnable(key));
-    QVERIFY(!QFile::exists(home.filePath(QStringLiteral("Downloads/none.py"))));
+    QVERIFY(!QFileInfo::exists(home.filePath(QStringLiteral("Downloads"))));
 
-    // Equal copies are not touched; a lost run bit comes back without a rewrite.
+    // Equal copies stay untouched; a lost run bit comes back without a rewrite.
     QVERIFY(QFile::setPermissions(key, QFile::ReadOwner | QFile::WriteOwner));
-    const FileStamp startBefore = Stamp(start);
-    const FileStamp keyBefore = Stamp(key);
+    const auto startBefore = Stamp(start);
+    const auto keyBefore = Stamp(key);
     QCOMPARE(upkeep.Run(scripts), QStringList());
-    QVERIFY(Stamp(start) == startBefore);
-    QVERIFY(Stamp(key) == keyBefore);
+    QCOMPARE(Stamp(start), startBefore);
+    QCOMPARE(Stamp(key), keyBefore);
     QVERIFY(Runnable(key));
 
     // A changed or emptied script is put back.
-    QVERIFY(Write(start, "#!/bin/sh\necho tampered\n"));
+    QVERIFY(Write(start, "echo tampered\n"));
     QVERIFY(Write(key, ""));
     QCOMPARE(upkeep.Run(scripts), (QStringList{start, key}));
-    QCOMPARE(Read(start), QByteArray("#!/bin/sh\necho start\n"));
+    QCOMPARE(Read(start), QByteArray("echo start\n"));
     QCOMPARE(Read(key), QByteArray("print('key')\n"));
-}
-
-void TestServiceCore::heatfileTextReadsWhatItWrites()
-{
-    for (const Program &original : {Sample(QStringLiteral("Brücke 14-gliedrig"), QStringLiteral("Zirkon"), true),
-                                    Sample(QStringLiteral("Argon Krone"), QStringLiteral("Argon"), false)}) {
-        Program read(QString(), QString(), {}, QString(), false);
-        QString error;
-        QVERIFY2(HeatfileText::Read(HeatfileText::Write(original), &read, &error), qPrintable(error));
-        QCOMPARE(read.GetName(), original.GetName());
-        QCOMPARE(read.GetMaterial(), original.GetMaterial());
-        QCOMPARE(read.IsFav(), original.IsFav());
-        QCOMPARE(*read.GetMatrix(), *original.GetMatrix());
-    }
-    // The metainfo keys in another order, no closing separator: a person's edit.
-    Program read(QString(), QString(), {}, QString(), false);
-    QString error;
-    QVERIFY(HeatfileText::Read(QStringLiteral("[metainfo];favorite=true;material=Zirkon;manufacturer=user;name=X;"
-                                              "[1];rate=1;temp=323;hold=0"), &read, &error));
-    QCOMPARE(*read.GetMatrix(), (Program::Matrix{{1, 50, 0}}));
-}
-
-void TestServiceCore::heatfileTextRefusesEditedNonsense_data()
-{
-    QTest::addColumn<QString>("text");
-    const QString head = QStringLiteral("[metainfo];name=Krone;manufacturer=user;material=Zirkon;favorite=false;");
-    const QString segment = QStringLiteral("[%1];rate=10;temp=1173;hold=60;");
-    QString eleven = head;
-    for (int i = 1; i <= 11; ++i)
-        eleven += segment.arg(i);
-    QTest::newRow("no segment") << head;
-    QTest::newRow("segments out of order") << head + segment.arg(2);
-    QTest::newRow("eleven segments") << eleven;
-    QTest::newRow("above 1650 °C") << head + QStringLiteral("[1];rate=10;temp=1924;hold=60;");
-    QTest::newRow("below 50 °C") << head + QStringLiteral("[1];rate=10;temp=322;hold=60;");
-    QTest::newRow("rate 0") << head + QStringLiteral("[1];rate=0;temp=1173;hold=60;");
-    QTest::newRow("hold not whole minutes") << head + QStringLiteral("[1];rate=10;temp=1173;hold=90;");
-    QTest::newRow("negative") << head + QStringLiteral("[1];rate=-10;temp=1173;hold=60;");
-    QTest::newRow("argon for zirconia") << head + QStringLiteral("[1];rate=10;temp=1173;hold=60;argon=on;");
-    QTest::newRow("argon missing") << QString(head).replace(QStringLiteral("Zirkon"), QStringLiteral("Argon")) + segment.arg(1);
-    QTest::newRow("unknown key") << head + QStringLiteral("colour=red;") + segment.arg(1);
-    QTest::newRow("name twice") << head + QStringLiteral("name=B;") + segment.arg(1);
-    QTest::newRow("no name") << QString(head).replace(QStringLiteral("Krone"), QString()) + segment.arg(1);
-    QTest::newRow("frame separator in name") << QString(head).replace(QStringLiteral("Krone"), QStringLiteral("a$$b")) + segment.arg(1);
-    QTest::newRow("favourite yes") << QString(head).replace(QStringLiteral("false"), QStringLiteral("yes")) + segment.arg(1);
-}
-
-void TestServiceCore::heatfileTextRefusesEditedNonsense()
-{
-    QFETCH(QString, text);
-    Program program(QStringLiteral("untouched"), QString(), {}, QString(), false);
-    QString error;
-    QVERIFY(!HeatfileText::Read(text, &program, &error));
-    QVERIFY(!error.isEmpty());
-    QCOMPARE(program.GetName(), QStringLiteral("untouched"));
-}
-
-void TestServiceCore::stickVolumes()
-{
-    using ovra::Settings::UsbStick::IsStickVolume;
-    QVERIFY(IsStickVolume(QStringLiteral("/dev/sda1"), QStringLiteral("/media/pi/STICK")));
-    QVERIFY(IsStickVolume(QStringLiteral("/dev/sdb"), QStringLiteral("/mnt/usb")));
-    QVERIFY(IsStickVolume(QStringLiteral("/dev/sdc1"), QStringLiteral("/run/media/pi/A B")));
-    // A board that boots from a USB disk: its system is no stick.
-    QVERIFY(!IsStickVolume(QStringLiteral("/dev/sda2"), QStringLiteral("/")));
-    QVERIFY(!IsStickVolume(QStringLiteral("/dev/sda1"), QStringLiteral("/boot")));
-    QVERIFY(!IsStickVolume(QStringLiteral("/dev/mmcblk0p1"), QStringLiteral("/media/pi/bootfs")));
-    QVERIFY(!IsStickVolume(QStringLiteral("/dev/sda1"), QStringLiteral("/media")));
-    QCOMPARE(ovra::Settings::UsbStick::Find(QStringLiteral("/some/folder")), QStringLiteral("/some/folder"));
-}
-
-void TestServiceCore::myProgramsGoToTheStickAndBack()
-{
-    QTemporaryDir stick;
-    const UsbFiles files(stick.path());
-    const Program crown = Sample(QStringLiteral("Krone"), QStringLiteral("Argon"), true);
-    const Program bridge = Sample(QStringLiteral("Brücke"), QStringLiteral("Zirkon"), false);
-    QString error;
-    QVERIFY2(files.SavePrograms({&crown, &bridge}, &error), qPrintable(error));
-
-    // A person can read it: each program in plain words before its line.
-    const QString text = QString::fromUtf8(Read(stick.filePath(QStringLiteral("ovra/myprograms.txt"))));
-    QVERIFY(text.contains(QStringLiteral("# Brücke | Zirkon | 10 °C/min to 900 °C, hold 30 min; 5 °C/min to 1530 °C, hold 120 min\n")));
-
-    QList<Program *> loaded;
-    QVERIFY2(files.LoadPrograms({QStringLiteral("Fremd")}, &loaded, &error), qPrintable(error));
-    QCOMPARE(loaded.size(), 2);
-    QCOMPARE(HeatfileText::Write(*loaded.at(0)), HeatfileText::Write(crown));
-    QCOMPARE(HeatfileText::Write(*loaded.at(1)), HeatfileText::Write(bridge));
-    qDeleteAll(loaded);
-
-    // Saved again over the old file: the new one replaces it whole.
-    QVERIFY(files.SavePrograms({&bridge}, &error));
-    QVERIFY(files.LoadPrograms({}, &loaded, &error));
-    QCOMPARE(loaded.size(), 1);
-    qDeleteAll(loaded);
 }
 
 void TestServiceCore::loadingIsAllOrNothing()
 {
     QTemporaryDir stick;
     QVERIFY(QDir(stick.path()).mkpath(QStringLiteral("ovra")));
-    const QString file = stick.filePath(QStringLiteral("ovra/myprograms.txt"));
     const UsbFiles files(stick.path());
-    const QByteArray good(goodText);
-    const QList<QPair<QByteArray, QString>> cases = {
-        {"# only notes\n\n", QStringLiteral("holds no program")},
-        {good + "\n" + QByteArray(goodText).replace("temp=1173", "temp=99999") + "\n", QStringLiteral("myprograms.txt:2:")},
-        {QByteArray(goodText).replace("manufacturer=user", "manufacturer=Zircos"), QStringLiteral("not one of my programs")},
-        {good + "\n" + good, QStringLiteral("taken")},
-        {QByteArray(goodText).replace("Krone", "Fremd"), QStringLiteral("taken")}, // a maker's program
+    // A person's edits: each spoils the file it is in, wherever it stands.
+    const QList<QPair<QByteArray, QByteArray>> spoilers = {
+        {"temp=1173", "temp=1924"},           // above 1650 °C
+        {"hold=1800", "hold=90"},             // not whole minutes
+        {"hold=1800;", "hold=1800;argon=on;"}, // argon for zirconia
+        {"name=Zweite", "name=a$$b"},           // would split the frame
+        {"manufacturer=user", "manufacturer=Zircos"},
+        {"name=Zweite", "name=Fremd"},          // a maker's program of that name
+        {"[1];rate=10;temp=1173;hold=1800;", ""},
     };
-    for (const auto &c : cases) {
-        QVERIFY(Write(file, c.first));
+    for (const auto &spoiler : spoilers) {
+        QVERIFY(Write(files.ProgramsFile(), "# note\n" + good + "\n" + QByteArray(good).replace("Krone", "Zweite").replace(spoiler.first, spoiler.second)));
         QList<Program *> loaded;
         QString error;
-        QVERIFY(!files.LoadPrograms({QStringLiteral("Fremd")}, &loaded, &error));
-        QVERIFY2(error.contains(c.second), qPrintable(error));
+        QVERIFY2(!files.LoadPrograms({QStringLiteral("Fremd")}, &loaded, &error), spoiler.second.constData());
+        QVERIFY2(error.contains(QStringLiteral("myprograms.txt:3: ")), qPrintable(error));
         QVERIFY(loaded.isEmpty());
     }
-    QVERIFY(QFile::remove(file));
+    // What the panel saves it reads back; a person can read it too.
+    const Program bridge(QStringLiteral("Brücke"), QStringLiteral("Argon"), {{10, 900, 30}}, QStringLiteral("user"), true);
     QList<Program *> loaded;
     QString error;
+    QVERIFY(files.SavePrograms({&bridge}, &error));
+    QVERIFY(QString::fromUtf8(Read(files.ProgramsFile())).contains(QStringLiteral("# Brücke | Argon | 10 °C/min to 900 °C, hold 30 min\n")));
+    QVERIFY(files.LoadPrograms({}, &loaded, &error) && loaded.size() == 1);
+    QCOMPARE(ovra::GlobalElements::HeatfileText::Write(*loaded.first()), ovra::GlobalElements::HeatfileText::Write(bridge));
+    qDeleteAll(loaded);
+    loaded.clear();
+    QVERIFY(Write(files.ProgramsFile(), good + "\n" + good));
+    QVERIFY(!files.LoadPrograms({}, &loaded, &error) && error.contains(QStringLiteral("taken")));
+    QVERIFY(Write(files.ProgramsFile(), "# notes only\n\n"));
     QVERIFY(!files.LoadPrograms({}, &loaded, &error));
-    QVERIFY(!UsbFiles(QString()).LoadPrograms({}, &loaded, &error));
 }
 
-void TestServiceCore::unwritableStickFails()
+void TestServiceCore::stickFailuresAndBackup()
 {
-    const Program crown = Sample(QStringLiteral("Krone"), QStringLiteral("Zirkon"), false);
-    QString error;
-    QVERIFY(!UsbFiles(QString()).SavePrograms({&crown}, &error));
-    QVERIFY(!UsbFiles(QStringLiteral("/nonexistent/stick")).SavePrograms({&crown}, &error));
-    QCOMPARE(error, QStringLiteral("no USB stick"));
-    // Where the folder must go there is a file (as root, permissions would not stop us).
-    QTemporaryDir stick;
-    QVERIFY(Write(stick.filePath(QStringLiteral("ovra")), "in the way"));
-    QVERIFY(!UsbFiles(stick.path()).SavePrograms({&crown}, &error));
-    QVERIFY(error.contains(QStringLiteral("ovra")));
-}
+    using ovra::Settings::UsbStick::IsStickVolume;
+    QVERIFY(IsStickVolume(QStringLiteral("/dev/sda1"), QStringLiteral("/media/pi/STICK")));
+    QVERIFY(!IsStickVolume(QStringLiteral("/dev/sda2"), QStringLiteral("/"))); // a board booted from USB
+    QVERIFY(!IsStickVolume(QStringLiteral("/dev/mmcblk0p1"), QStringLiteral("/media/pi/bootfs")));
 
-void TestServiceCore::backupHoldsProgramsDeviceDataAndLogs()
-{
-    QTemporaryDir stick;
-    QTemporaryDir logs;
-    QVERIFY(Write(logs.filePath(QStringLiteral("Log_2026_11_23__09_00_00_000.txt")), "line\n"));
     const Program crown(QStringLiteral("Krone"), QStringLiteral("Zirkon"), {{10, 900, 30}}, QStringLiteral("Zircos"), false);
     QString error;
+    QList<Program *> loaded;
+    QVERIFY(!UsbFiles(QString()).SavePrograms({&crown}, &error));
+    QVERIFY(!UsbFiles(QString()).LoadPrograms({}, &loaded, &error));
+    QTemporaryDir stick;
+    // Where the folder must go there is a file (as root, permissions would not stop us).
+    QVERIFY(Write(stick.filePath(QStringLiteral("ovra")), "in the way"));
+    QVERIFY(!UsbFiles(stick.path()).SavePrograms({&crown}, &error));
+    QVERIFY(QFile::remove(stick.filePath(QStringLiteral("ovra"))));
+
+    QTemporaryDir logs;
+    QVERIFY(Write(logs.filePath(QStringLiteral("Log_1.txt")), "line\n"));
     const QString folder = UsbFiles(stick.path()).Backup({&crown}, QStringLiteral("Model: X"), QStringLiteral("SN 42/7"),
                                                          logs.path(), QDateTime(QDate(2026, 11, 23), QTime(9, 30, 5)), &error);
     QCOMPARE(folder, stick.filePath(QStringLiteral("ovra/backup/SN_42_7_20261123_093005")));
     QVERIFY(Read(folder + QStringLiteral("/programs.txt")).contains("name=Krone;manufacturer=Zircos"));
     QCOMPARE(Read(folder + QStringLiteral("/device.txt")), QByteArray("Model: X\n"));
-    QCOMPARE(Read(folder + QStringLiteral("/logs/Log_2026_11_23__09_00_00_000.txt")), QByteArray("line\n"));
-}
-
-void TestServiceCore::deviceReportAndQrCode()
-{
-    ovra::Settings::DeviceReport::Data data;
-    data.model = QStringLiteral("  Sinter  X ");
-    data.serialNumber = QStringLiteral("%1");
-    data.failures = QStringList{QStringLiteral("E12"), QStringLiteral("E3")};
-    QCOMPARE(ovra::Settings::DeviceReport::Text(data),
-             QStringLiteral("Model: Sinter X\nSerial: %1\nHW: -\nSW: -\nHours: -\nFailures: E12,E3"));
-
-    const auto code = ovra::Settings::QrCode::Encode("Model: Sinter X");
-    QVERIFY(code.Size() >= 21);
-    QVERIFY(code.IsDark(0, 0)); // a finder pattern's corner
-    QCOMPARE(ovra::Settings::QrCode::Encode(QByteArray(4000, 'x')).Size(), 0); // beyond any QR code
+    QCOMPARE(Read(folder + QStringLiteral("/logs/Log_1.txt")), QByteArray("line\n"));
 }
 
 QTEST_GUILESS_MAIN(TestServiceCore)

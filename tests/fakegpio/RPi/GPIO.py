@@ -1,21 +1,12 @@
-# Stand-in for the board's GPIO module, for tests of the display-key script. The test drives
+# Stand-in for the board's GPIO module in tests of the display-key script: the test presses
 # the key through stdin ("press", "release") and reads what the script did on stdout.
 from __future__ import print_function
 
 import sys
 import threading
 
-BOARD = "BOARD"
-BCM = "BCM"
-IN = "in"
-OUT = "out"
-HIGH = 1
-LOW = 0
-PUD_UP = "up"
-FALLING = "falling"
-
+BOARD, IN, OUT, HIGH, LOW, PUD_UP, FALLING = "BOARD", "in", "out", 1, 0, "up", "falling"
 _levels = {}
-_mode = [None]
 
 
 def _say(*words):
@@ -24,17 +15,12 @@ def _say(*words):
 
 
 def setmode(mode):
-    _mode[0] = mode
     _say("mode", mode)
 
 
-def setup(pin, direction, initial=None, pull_up_down=None):
-    if direction == OUT:
-        _levels[pin] = HIGH if initial is None else initial
-        _say("setup", pin, "out", _levels[pin])
-    else:
-        _levels[pin] = HIGH if pull_up_down == PUD_UP else LOW
-        _say("setup", pin, "in", pull_up_down)
+def setup(pin, direction, initial=HIGH, pull_up_down=None):
+    _levels[pin] = initial if direction == OUT else HIGH
+    _say("setup", pin, direction, initial if direction == OUT else pull_up_down)
 
 
 def output(pin, level):
@@ -46,22 +32,17 @@ def input(pin):
     return _levels.get(pin, LOW)
 
 
-def _drive(pin, edge, callback):
+def _drive(pin, callback):
     for line in iter(sys.stdin.readline, ""):
-        word = line.strip()
-        if word == "press":
-            _levels[pin] = LOW
-            if edge == FALLING:
-                callback(pin)
+        _levels[pin] = LOW if line.strip() == "press" else HIGH
+        if line.strip() == "press":
+            callback(pin)
             _say("handled")
-        elif word == "release":
-            _levels[pin] = HIGH
-            _say("released")
 
 
 def add_event_detect(pin, edge, callback=None, bouncetime=None):
     _say("watch", pin, edge, bouncetime)
-    worker = threading.Thread(target=_drive, args=(pin, edge, callback))
+    worker = threading.Thread(target=_drive, args=(pin, callback))
     worker.daemon = True
     worker.start()
 
