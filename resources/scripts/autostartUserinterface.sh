@@ -12,10 +12,12 @@ sudo modprobe "${OVRA_TOUCH_MODULE:-edt-ft5x06}" 2>/dev/null
 
 "$PYTHON" "$HOME_DIR/Downloads/makeExecutable.py"
 
-# The key watcher writes dispOn.pid into its working folder; an old one is ended first.
+# The key watcher writes dispOn.pid into its working folder; one still running is ended
+# first. After a reboot the number may belong to another process: that one is left alone.
 cd "$HOME_DIR/DispOn" || exit 1
-if [ -f dispOn.pid ]; then
-    kill "$(cat dispOn.pid)" 2>/dev/null
+OLD_PID=$(cat dispOn.pid 2>/dev/null)
+if [ -n "$OLD_PID" ] && grep -q dispOn.py "/proc/$OLD_PID/cmdline" 2>/dev/null; then
+    kill "$OLD_PID"
 fi
 "$PYTHON" "$HOME_DIR/DispOn/dispOn.py" >/dev/null 2>&1 &
 
