@@ -18,6 +18,9 @@
 #include <QDebug>
 #include <QTimer>
 
+#include <algorithm>
+#include <tuple>
+
 namespace ovra {
 namespace Mainwindow {
 
@@ -109,6 +112,7 @@ void MainWindow::SlotUSBInProgress()
                                      [this](const auto &a) { return std::get<1>(a) == m_usbAction; });
     if (chosen == actions.cend())
         return;
+    qDebug() << "usb:" << QString::fromUtf8(std::get<2>(*chosen)).simplified();
     m_popupUSB->SetText(Caption(std::get<2>(*chosen)));
     m_popupUSB->SlotUpdateProgress(QStringLiteral("0"));
     m_popupUSB->SetBusy(true);
@@ -149,7 +153,7 @@ void MainWindow::RunUsbFileAction()
                                             QDateTime::currentDateTime(), &error);
         success = !folder.isEmpty();
         if (success)
-            qDebug() << "backup written to" << folder;
+            qDebug() << "usb: backup written to" << folder;
     }
     FinishUsbAction(success, error);
 }
@@ -184,7 +188,7 @@ void MainWindow::FinishUsbAction(bool success, const QString &reason)
     if (m_usbAction == UsbAction::None)
         return;
     if (!success)
-        qDebug() << "usb: action" << static_cast<int>(m_usbAction) << "failed:" << reason;
+        qDebug() << "usb: failed:" << reason;
     m_usbAnswerTimer->stop();
     m_usbAction = UsbAction::None;
     if (success)
