@@ -82,6 +82,10 @@ void MainWindow::SlotCheckUsbStick(const QString &state)
         if (m_currentPage == Page::USB)
             Statemachine(Page::MainMenu);
     } else if (state == actionDone || state == actionFailed) {
+        if (m_usbAction != UsbAction::None && m_usbAction != UsbAction::Firmware && m_usbAction != UsbAction::Config) {
+            qDebug() << "usb: controller's" << state << "while the panel works on the stick, ignored";
+            return;
+        }
         if (m_usbAction == UsbAction::None) {
             // An update the controller began on its own: its result is shown all the same.
             m_usbAction = UsbAction::Firmware;
