@@ -29,23 +29,19 @@ def output(pin, level):
 
 
 def input(pin):
-    return _levels.get(pin, LOW)
-
-
-def _drive(pin, callback):
-    for line in iter(sys.stdin.readline, ""):
-        _levels[pin] = LOW if line.strip() == "press" else HIGH
-        if line.strip() == "press":
-            callback(pin)
-            _say("handled")
+    return _levels[pin]
 
 
 def add_event_detect(pin, edge, callback=None, bouncetime=None):
+    def drive():
+        for line in iter(sys.stdin.readline, ""):
+            _levels[pin] = LOW if line.strip() == "press" else HIGH
+            if _levels[pin] == LOW:
+                callback(pin)
+                _say("handled")
     _say("watch", pin, edge, bouncetime)
-    worker = threading.Thread(target=_drive, args=(pin, callback))
-    worker.daemon = True
-    worker.start()
+    threading.Thread(target=drive).start()
 
 
 def cleanup():
-    _say("cleanup")
+    pass
