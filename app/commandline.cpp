@@ -48,8 +48,12 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
                                                                 "(default 7000)."),
                                                  QStringLiteral("ms"),
                                                  QString::number(options.selftestDelayMs));
+    const QCommandLineOption usbDirOption(QStringLiteral("usb-dir"),
+                                          QStringLiteral("Folder that stands for the USB stick "
+                                                         "(default: the mounted stick)."),
+                                          QStringLiteral("dir"));
     parser.addOptions({helpOption, versionOption, portOption, homeOption, keyPortOption, quitOption,
-                       selftestDelayOption});
+                       selftestDelayOption, usbDirOption});
 
     if (!parser.parse(arguments)) {
         output = parser.errorText() + QStringLiteral("\nTry --help.\n");
@@ -97,6 +101,7 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     options.keyPort = static_cast<quint16>(keyPort);
     options.quitAfterStart = parser.isSet(quitOption);
     options.selftestDelayMs = selftestDelay;
+    options.usbDir = parser.value(usbDirOption);
     return Outcome::Run;
 }
 

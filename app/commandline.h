@@ -19,6 +19,11 @@ struct PanelOptions
     int selftestDelayMs = 7000;
     // How long the start and door buttons stay locked after a press (the furnace: 1000 ms).
     int playLockMs = 1000;
+    // Development aid: a folder that stands for the USB stick (empty: the mounted stick).
+    QString usbDir;
+    // How long the USB menu waits for the controller's next word on a firmware or
+    // configuration update before it reports failure.
+    int usbAnswerTimeoutMs = 120000;
 
     // For running the panel away from the furnace (tests, benchmarks, tools): no serial
     // device, any free display-key port, `home` standing for the device's home.

@@ -2,6 +2,7 @@
 
 #include "app/captions.h"
 #include "app/paths.h"
+#include "app/scriptupkeep.h"
 #include "communication/communicator.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
@@ -25,10 +26,8 @@
 #include "ui_mainwindow.h"
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDebug>
 #include <QFile>
-#include <QFileInfo>
 #include <QTimer>
 
 namespace ovra {
@@ -87,6 +86,7 @@ MainWindow::~MainWindow()
     delete m_preDryPulseTimer;
     delete m_playEnableTimer;
     delete m_selftestStartTimer;
+    delete m_usbAnswerTimer;
     delete ui;
 }
 
@@ -150,6 +150,12 @@ void MainWindow::CreateTimers()
     m_selftestStartTimer = new QTimer();
     m_selftestStartTimer->setSingleShot(true);
     connect(m_selftestStartTimer, &QTimer::timeout, this, &MainWindow::Slot_StartSelftest);
+
+    m_usbAnswerTimer = new QTimer();
+    m_usbAnswerTimer->setSingleShot(true);
+    m_usbAnswerTimer->setInterval(m_options.usbAnswerTimeoutMs);
+    connect(m_usbAnswerTimer, &QTimer::timeout, this,
+            [this] { FinishUsbAction(false, QStringLiteral("no answer from the controller")); });
 }
 
 void MainWindow::SetUpIcons()
@@ -268,6 +274,12 @@ void MainWindow::ConnectOvenLink()
     connect(h, &MessageHandler::SignalSetUnit, this, &MainWindow::SlotSetUnit);
     connect(h, &MessageHandler::SignalSetInitalStartup, this, &MainWindow::SlotSetInitialStartup);
     connect(h, &MessageHandler::SignalUpdateProgress, m_popupUSB, &Popups::PopupUSB::SlotUpdateProgress);
+    connect(h, &MessageHandler::SignalUSB, this, &MainWindow::SlotCheckUsbStick);
+    // An update that makes progress is not waiting for an answer.
+    connect(h, &MessageHandler::SignalUpdateProgress, this, [this] {
+        if (m_usbAnswerTimer->isActive())
+            m_usbAnswerTimer->start();
+    });
     ConnectProcessLink();
 }
 
@@ -345,6 +357,10 @@ void MainWindow::ConnectPageButtons()
         connect(language, &Button::SignalButtonClicked, this, &MainWindow::SlotLanguageChange);
     connect(ui->widget_redoSelftest, &Button::SignalButtonClicked, this, &MainWindow::Slot_StartSelftest);
     connect(ui->widget_LicenseButton, &Button::SignalButtonClicked, this, &MainWindow::SlotShowLicense);
+    for (Button *usb : {ui->widget_USBMenuFWUpdate, ui->widget_USBMenuConfigUpdate, ui->widget_USBMenuLoadMyProgs,
+                        ui->widget_USBMenuSaveMyProgs, ui->widget_USBMenuBackup})
+        connect(usb, &Button::SignalButtonClicked, this, &MainWindow::SlotUSBInProgress);
+    connect(ui->widget_USBMenuQRCode, &Button::SignalButtonClicked, this, &MainWindow::GenerateQRCode);
     for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling}) {
         connect(row, &GlobalElements::TestDisplayElement::SignalSelftestResult, this,
                 &MainWindow::SlotIncreaseSelftestProgress);
@@ -400,27 +416,7 @@ void MainWindow::PulsePreDryTimeout()
 
 void MainWindow::RewriteExternalScripts()
 {
-    // Each start-up script has a reference copy in the resources; a copy on the device that
-    // differs (or is missing) is written anew, so a damaged card heals itself.
-    for (const QString &fixedPath : qAsConst(m_externalScripts)) {
-        const QString resource = QStringLiteral(":/scripts/") + QFileInfo(fixedPath).fileName();
-        QFile reference(resource);
-        if (!reference.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray wanted = reference.readAll();
-        const QString path = m_paths.Resolve(fixedPath);
-        QFile current(path);
-        if (current.open(QIODevice::ReadOnly)
-            && QCryptographicHash::hash(current.readAll(), QCryptographicHash::Md5)
-                   == QCryptographicHash::hash(wanted, QCryptographicHash::Md5)) {
-            continue;
-        }
-        current.close();
-        if (current.open(QIODevice::WriteOnly | QIODevice::Truncate) && current.write(wanted) == wanted.size())
-            qDebug() << "script rewritten:" << path;
-        else
-            qDebug() << "script could not be rewritten:" << path;
-    }
+    GlobalElements::ScriptUpkeep(m_paths).Run(m_externalScripts);
 }
 
 } // namespace Mainwindow

@@ -163,6 +163,11 @@ public slots:
     void SlotResetDeviceSettings(bool confirmed);
     void SlotShowLicense();
 
+    // USB stick menu and QR code (service).
+    void SlotCheckUsbStick(const QString &state);
+    void SlotUSBInProgress();
+    void GenerateQRCode();
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -220,6 +225,13 @@ private:
     void ReleaseListScrolling();
     void RewriteExternalScripts();
 
+    enum class UsbAction { None, Firmware, Config, LoadPrograms, SavePrograms, Backup };
+    bool CanShowUsbMenu() const;
+    void RunUsbFileAction();
+    bool LoadProgramsFromStick(const QString &stick, QString *error);
+    void FinishUsbAction(bool success, const QString &reason);
+    QString DeviceReportText() const;
+
     Ui::MainWindow *ui;
     GlobalElements::PanelOptions m_options;
     const GlobalElements::Paths m_paths;
@@ -259,6 +271,10 @@ private:
     QTranslator m_translator;
     // Caption of the page title, re-applied on a language change; none for a program's name.
     const char *m_titleSource = nullptr;
+    // USB stick: the controller's last word on its socket, and the one action under way.
+    bool m_usbStickIn = false;
+    UsbAction m_usbAction = UsbAction::None;
+    QTimer *m_usbAnswerTimer = nullptr;
 
     // State flags.
     bool m_startupShown = false;

@@ -8,13 +8,24 @@ namespace ovra {
 namespace Communication {
 
 InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
-    : QObject(parent), m_server(new QTcpServer(this))
+    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this))
 {
     connect(m_server, &QTcpServer::newConnection, this, &InternalCommunicator::SlotNewConnection);
-    if (m_server->listen(QHostAddress::Any, port))
+    connect(m_server6, &QTcpServer::newConnection, this, &InternalCommunicator::SlotNewConnection);
+    if (m_server->listen(QHostAddress::LocalHost, port))
         qDebug() << "Server up!";
     else
         qDebug() << "Server not up!";
+    // Same port on ::1 (the one the system chose, when asked for any). A system without IPv6
+    // still has the IPv4 loopback the key script uses.
+    const quint16 port6 = m_server->isListening() ? m_server->serverPort() : port;
+    if (!m_server6->listen(QHostAddress::LocalHostIPv6, port6))
+        qDebug() << "display-key server: no IPv6 loopback:" << m_server6->errorString();
+}
+
+bool InternalCommunicator::IsListeningIPv6() const
+{
+    return m_server6->isListening();
 }
 
 bool InternalCommunicator::IsListening() const
@@ -29,15 +40,20 @@ quint16 InternalCommunicator::Port() const
 
 void InternalCommunicator::SlotNewConnection()
 {
-    QTcpSocket *socket = m_server->nextPendingConnection();
+    auto *server = qobject_cast<QTcpServer *>(sender());
+    if (server == nullptr)
+        server = m_server;
+    QTcpSocket *socket = server->nextPendingConnection();
     if (socket == nullptr)
         return;
     if (m_socket != nullptr)
         m_socket->deleteLater();
     m_socket = socket;
     m_socket->setParent(this);
-    // One client at a time: the next waits in the backlog until this one leaves.
+    // One client at a time, on either loopback: the next waits in the backlog until this
+    // one leaves.
     m_server->pauseAccepting();
+    m_server6->pauseAccepting();
     connect(m_socket, &QTcpSocket::readyRead, this, &InternalCommunicator::SlotHandleMessage);
     connect(m_socket, &QTcpSocket::disconnected, this, &InternalCommunicator::SlotDestroyConnection);
 }
@@ -64,6 +80,7 @@ void InternalCommunicator::SlotHandleMessage()
 void InternalCommunicator::SlotDestroyConnection()
 {
     m_server->resumeAccepting();
+    m_server6->resumeAccepting();
     qDebug() << "connection terminated";
 }
 

@@ -9,7 +9,8 @@ namespace ovra {
 namespace Communication {
 
 // Local server for the display-key script: "aus" switches touch input off, anything else
-// switches it on. One client at a time.
+// switches it on. One client at a time. It listens on the loopback interface only (IPv4 and,
+// where the system has it, IPv6), so nobody on the network can switch the touch screen off.
 class InternalCommunicator : public QObject
 {
     Q_OBJECT
@@ -19,7 +20,9 @@ public:
 
     explicit InternalCommunicator(QObject *parent = nullptr, quint16 port = defaultPort);
 
+    // True when the IPv4 loopback listens: that is where the key script connects.
     bool IsListening() const;
+    bool IsListeningIPv6() const;
     quint16 Port() const;
 
 signals:
@@ -32,6 +35,7 @@ public slots:
 
 private:
     QTcpServer *m_server;
+    QTcpServer *m_server6;
     QTcpSocket *m_socket = nullptr;
 };
 

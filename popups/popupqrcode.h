@@ -9,9 +9,12 @@ class PopupQRCode;
 }
 
 namespace ovra {
+namespace Settings {
+class QrCode;
+}
 namespace Popups {
 
-// Shows a QR code picture made elsewhere (a file on disk).
+// Shows a QR code: drawn from its modules, or a picture made elsewhere (a file on disk).
 class PopupQRCode : public PopupBase
 {
     Q_OBJECT
@@ -26,6 +29,9 @@ public:
 
     // Loads the picture; a missing or unreadable file shows a notice instead.
     void SetImage(const QString &path);
+    // Draws the code in whole pixels per module with its quiet zone; an empty code shows
+    // the notice.
+    void SetCode(const Settings::QrCode &code);
     bool HasImage() const { return m_hasImage; }
 
 private:

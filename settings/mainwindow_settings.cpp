@@ -7,6 +7,7 @@
 #include "popups/popuplicense.h"
 #include "popups/popuptimeadjust.h"
 #include "programs/newprogram.h"
+#include "programs/programhandler.h"
 #include "settings/languages.h"
 #include "settings/temperatureunit.h"
 #include "ui_mainwindow.h"
@@ -160,19 +161,19 @@ void MainWindow::SlotAddDateToRequest(const QString &date)
 
 void MainWindow::SlotResetDeviceSettings(bool confirmed)
 {
-    if (confirmed)
-        m_messageHandler->SetRequest(QStringLiteral("defaultsettings"));
-}
-
-void MainWindow::PreparePageUSBMenu()
-{
-    ui->pushButton_USBProgress->setText(Caption(Captions::Bereit));
-    ui->widget_USBMenuFWUpdate->SetText(Caption(Captions::FirmwareAktualisierung));
-    ui->widget_USBMenuConfigUpdate->SetText(Caption(Captions::KonfigurationAktualisieren));
-    ui->widget_USBMenuLoadMyProgs->SetText(Caption(Captions::MeineProgrammeLaden));
-    ui->widget_USBMenuSaveMyProgs->SetText(Caption(Captions::MeineProgrammeSichern));
-    ui->widget_USBMenuBackup->SetText(Caption(Captions::DatenSichern));
-    ui->widget_USBMenuQRCode->SetText(Caption(Captions::QrCodeErzeugen));
+    if (!confirmed)
+        return;
+    // The user's own programs go first, each with its own "hpdelete==", so the controller's
+    // store and ours agree before it restores its settings.
+    QList<GlobalElements::Program *> *own =
+        m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::ProgramHandler::userManufacturer);
+    QStringList names;
+    for (const GlobalElements::Program *program : qAsConst(*own))
+        names << program->GetName();
+    delete own;
+    for (const QString &name : qAsConst(names))
+        m_programHandler->Slot_DeleteProgramFromList(name);
+    m_messageHandler->SetRequest(Communication::Requests::FactoryReset());
 }
 
 void MainWindow::SlotShowLicense()

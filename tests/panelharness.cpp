@@ -8,11 +8,14 @@
 
 namespace Frame = ovra::Communication::Frame;
 
-PanelHarness::PanelHarness(int selftestDelayMs)
+PanelHarness::PanelHarness(int selftestDelayMs,
+                           const std::function<void(ovra::GlobalElements::PanelOptions &)> &adjust)
 {
     ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(m_home.path());
     options.selftestDelayMs = selftestDelayMs;
     options.playLockMs = 20; // stands for the furnace's one-second lock
+    if (adjust)
+        adjust(options);
     m_window.reset(new ovra::Mainwindow::MainWindow(options));
     m_window->show();
 }

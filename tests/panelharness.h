@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
 class QWidget;
 
 // A main window offscreen with its own home folder and no serial line, driven by controller
@@ -13,7 +15,8 @@ class QWidget;
 class PanelHarness
 {
 public:
-    explicit PanelHarness(int selftestDelayMs = 7000);
+    explicit PanelHarness(int selftestDelayMs = 7000,
+                          const std::function<void(ovra::GlobalElements::PanelOptions &)> &adjust = {});
 
     ovra::Mainwindow::MainWindow *Window() const { return m_window.data(); }
     QString Home() const { return m_home.path(); }

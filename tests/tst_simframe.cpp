@@ -450,14 +450,15 @@ void TestSimFrame::startUpAsThePanelSeesIt()
     QVERIFY(panel.open(link));
     QVERIFY2(sim.waitUntil([&] { return panel.countOf("hfcount") == 2; }), qPrintable(sim.log()));
 
-    // Device data, page, language, unit, the closed door, the programs and their count, in order.
+    // Device data, page, language, unit, the closed door, the service PIN, the programs and
+    // their count, in order.
     const QByteArrayList fields = panel.fields();
-    QCOMPARE(fields.mid(0, 9), (QByteArrayList{"name==Ovra S1", "serialno==S1-2304-0087", "hwver==HX3-C", "swver==3.12.0", "ophours==1234",
-                                               "guistate==1", "lang==deutsch", "unit==c", "doorclosed"}));
+    QCOMPARE(fields.mid(0, 10), (QByteArrayList{"name==Ovra S1", "serialno==S1-2304-0087", "hwver==HX3-C", "swver==3.12.0", "ophours==1234",
+                                                "guistate==1", "lang==deutsch", "unit==c", "doorclosed", "code==1234"}));
     const QList<QByteArrayList> rounds = panel.programRounds();
     QCOMPARE(rounds.at(0).size(), 9);
-    QCOMPARE(fields.indexOf("hfcount==8"), 17);
-    const QByteArray status = panel.bodies.at(18).join("$$");
+    QCOMPARE(fields.indexOf("hfcount==8"), 18);
+    const QByteArray status = panel.bodies.at(19).join("$$");
     QVERIFY2(matches(QStringLiteral("^time==\\d{4}\\$\\$date==20\\d{6}\\$\\$temp==29[3-7]$"), status), status.constData());
     // No commissioning and no self-test results the panel did not ask for.
     QVERIFY(among(fields, QByteArrayList{"initialstart"} + kSelfTestFields).isEmpty());
@@ -549,7 +550,7 @@ void TestSimFrame::commissioning()
     const QByteArrayList fields = panel.fields();
     QCOMPARE(fields.mid(0, 9), (QByteArrayList{"initialstart", "name==Ovra S1", "serialno==S1-2304-0087", "hwver==HX3-C", "swver==3.12.0",
                                                "ophours==1234", "guistate==12", "lang==deutsch", "unit==c"}));
-    QCOMPARE(fields.indexOf("hfcount==8"), 18);
+    QCOMPARE(fields.indexOf("hfcount==8"), 19);
     // The settings page after the set-up pages ends it once, and without a self-test.
     QCOMPARE(among(fields, kSelfTestFields), QByteArrayList{"guistate==26"});
     QVERIFY(!fields.contains("guistate==1"));

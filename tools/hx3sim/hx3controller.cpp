@@ -109,6 +109,8 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
 
     m_door.travel.setSingleShot(true);
     connect(&m_door.travel, &QTimer::timeout, this, &Hx3Controller::onDoorArrived);
+
+    setUpServiceFunctions();
 }
 
 void Hx3Controller::start()
@@ -166,6 +168,7 @@ QList<Hx3Controller::Outgoing> Hx3Controller::startupFrames() const
     // Before the programs, so that the panel knows its self-test has an argon row.
     if (m_argonOven)
         frames.append(single(command("argon", "True"), Kind::Startup));
+    frames += serviceFrames();
     frames += heatfileFrames();
     return frames;
 }

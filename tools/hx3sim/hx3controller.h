@@ -52,6 +52,12 @@ public:
         int doorMs = 3000;
         // An argon furnace, which says so at start-up.
         bool argon = false;
+        // The service PIN handed to the panel at start-up ("code==").
+        QByteArray pin = "1234";
+        // A stick in the USB socket at start-up; how long a firmware or configuration
+        // update from it takes.
+        bool usbStick = false;
+        int usbMs = 1500;
     };
 
     struct Counters
@@ -155,6 +161,15 @@ private:
     void commandUnit(const QString &arguments);
     void sendEvent(const QByteArray &field);
 
+    // Service PIN and USB socket (hx3controller_usb.cpp).
+    void setUpServiceFunctions();
+    QList<Outgoing> serviceFrames() const;
+    void requestFirmwareUpdate(const QByteArray &parameter);
+    void requestConfigUpdate(const QByteArray &parameter);
+    void answerUsbUpdate(const QString &what);
+    void commandUsb(const QString &arguments);
+    void commandPin(const QString &arguments);
+
     // Furnace time: the system time at construction moved on by the furnace's own time, so
     // that with --speed the clock, the end estimate and delayed starts keep pace with firings.
     QDateTime furnaceSystemTime() const;
@@ -246,6 +261,15 @@ private:
         bool active = false;
         bool setupPageSeen = false;
     } m_commissioning;
+
+    // The USB socket as the controller sees it, and how it answers an update from the stick
+    // ("done", "failed" or "none": never).
+    struct UsbSocket
+    {
+        bool stickIn = false;
+        QByteArray answer = "done";
+    } m_usb;
+    QByteArray m_pin;
 
     QHash<QByteArray, RequestHandler> m_requestHandlers;
     QHash<QString, CommandHandler> m_commandHandlers;

@@ -23,6 +23,7 @@ constexpr int kMaxGenerated = 9999;
 // Beyond this one report interval of a second spans more than a day of furnace time.
 constexpr double kMaxSpeed = 100000.0;
 constexpr int kMaxDoorMs = 600000;
+constexpr int kMaxUsbMs = 600000;
 
 // Tests and scripts read us through a pipe, so every line goes out at once.
 void printLine(const QString &line)
@@ -91,8 +92,14 @@ int main(int argc, char *argv[])
     const QCommandLineOption doorOption(QStringLiteral("door-ms"), QStringLiteral("Milliseconds the lift door takes to open or close, whatever the speed."),
                                         QStringLiteral("ms"), QStringLiteral("3000"));
     const QCommandLineOption argonOption(QStringLiteral("argon"), QStringLiteral("An argon furnace: says argon==True at start-up."));
+    const QCommandLineOption pinOption(QStringLiteral("pin"), QStringLiteral("Service PIN handed to the panel at start-up (1 to 8 digits)."),
+                                       QStringLiteral("digits"), QStringLiteral("1234"));
+    const QCommandLineOption usbOption(QStringLiteral("usb"), QStringLiteral("A stick is in the USB socket at start-up."));
+    const QCommandLineOption usbMsOption(QStringLiteral("usb-ms"), QStringLiteral("Milliseconds a firmware or configuration update from the stick takes."),
+                                         QStringLiteral("ms"), QStringLiteral("1500"));
     parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, langOption, runForOption, stepOption, selftestFailOption,
-                       commissioningOption, programsOption, manyOption, speedOption, doorOption, argonOption});
+                       commissioningOption, programsOption, manyOption, speedOption, doorOption, argonOption,
+                       pinOption, usbOption, usbMsOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -132,6 +139,16 @@ int main(int argc, char *argv[])
     }
     options.commissioning = parser.isSet(commissioningOption);
     options.argon = parser.isSet(argonOption);
+
+    const QString pin = parser.value(pinOption);
+    pin.toUInt(&ok);
+    if (!ok || pin.startsWith(QLatin1Char('+')) || pin.size() > 8)
+        return usageError(QStringLiteral("--pin needs 1 to 8 digits, not \"%1\"").arg(pin));
+    options.pin = pin.toLatin1();
+    options.usbStick = parser.isSet(usbOption);
+    options.usbMs = parser.value(usbMsOption).toInt(&ok);
+    if (!ok || options.usbMs < 0 || options.usbMs > kMaxUsbMs)
+        return usageError(QStringLiteral("--usb-ms needs 0 to %1 milliseconds, not \"%2\"").arg(kMaxUsbMs).arg(parser.value(usbMsOption)));
 
     options.speed = parser.value(speedOption).toDouble(&ok);
     if (!ok || !(options.speed > 0.0) || options.speed > kMaxSpeed)

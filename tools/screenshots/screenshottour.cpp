@@ -191,6 +191,11 @@ QStringList ScreenshotTour::Run()
     Save(numbered(QStringLiteral("doorinsulation")));
     ui->stackedWidget_main->setCurrentIndex(0);
 
+    // The stick menu as the controller opens it, and the QR code of the device data.
+    Feed("usb==in");
+    Save(numbered(QStringLiteral("usb_stick")));
+    m_window->GenerateQRCode();
+
     m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
     for (QDialog *popup : m_window->findChildren<QDialog *>()) {
         if (auto *usb = qobject_cast<Popups::PopupUSB *>(popup)) {
