@@ -3,7 +3,6 @@
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 
-#include <QAbstractButton>
 #include <QtTest>
 
 namespace Frame = ovra::Communication::Frame;
@@ -17,6 +16,7 @@ PanelHarness::PanelHarness(int selftestDelayMs,
     if (adjust)
         adjust(options);
     m_window.reset(new ovra::Mainwindow::MainWindow(options));
+    SetWindow(m_window.data());
     m_window->show();
 }
 
@@ -29,13 +29,4 @@ QStringList PanelHarness::Send(const QByteArray &fields)
     parts.removeLast();  // checksum
     parts.removeFirst(); // ack / nack
     return parts;
-}
-
-void PanelHarness::Click(QWidget *widget)
-{
-    auto *button = qobject_cast<QAbstractButton *>(widget);
-    if (button == nullptr)
-        button = widget->findChild<QAbstractButton *>();
-    QVERIFY(button != nullptr);
-    QTest::mouseClick(button, Qt::LeftButton);
 }

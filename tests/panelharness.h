@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/mainwindow.h"
+#include "panelview.h"
 
 #include <QScopedPointer>
 #include <QStringList>
@@ -11,8 +12,8 @@
 class QWidget;
 
 // A main window offscreen with its own home folder and no serial line, driven by controller
-// frames fed straight into its message handler.
-class PanelHarness
+// frames fed straight into its message handler and by taps on its widgets.
+class PanelHarness : public PanelView
 {
 public:
     explicit PanelHarness(int selftestDelayMs = 7000,
@@ -24,9 +25,6 @@ public:
     // Feeds one frame; returns the requests that went out with the answer, or
     // "<bad answer>" when the answer's checksum is wrong.
     QStringList Send(const QByteArray &fields);
-
-    // Presses the touch button inside a widget-kit widget (or the button itself).
-    static void Click(QWidget *widget);
 
 private:
     QTemporaryDir m_home;

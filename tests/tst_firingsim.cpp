@@ -1,12 +1,12 @@
 // Firings run end to end against the controller simulator, sped up: a start with pre-dry
 // through heat and hold to success, a firing stopped by the user, and the hot-door warning
 // following door and temperature reports.
+#include "panelview.h"
 #include "app/mainwindow.h"
 #include "popups/popupstop.h"
 #include "popups/popuptempwarning.h"
 #include "process/chart.h"
 #include "simulatorprocess.h"
-#include "ui_mainwindow.h"
 #include "widgets/programbutton.h"
 
 #include <QFile>
@@ -75,7 +75,7 @@ void TestFiringWithSimulator::firings()
     options.playLockMs = 20;
     MainWindow window(options);
     window.show();
-    Ui::MainWindow *ui = window.GetUi();
+    PanelView view(&window);
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
     QCOMPARE(window.CurrentPage(), Page::MainMenu);
 
@@ -84,43 +84,43 @@ void TestFiringWithSimulator::firings()
     QTRY_VERIFY_WITH_TIMEOUT(!window.GetProgramButtons().isEmpty(), 5000);
     press(window.GetProgramButtons().first());
     QCOMPARE(window.CurrentPage(), Page::PlayProg);
-    press(ui->widget_timerPreDry);
-    press(ui->widget_playNewProg);
+    view.Tap("widget_timerPreDry");
+    view.Tap("widget_playNewProg");
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("request: hpstart==Kurz,15")), 5000);
 
     // Pre-dry, then the fill moves through the ramp and the hold.
     QTRY_COMPARE_WITH_TIMEOUT(window.CurrentPage(), Page::ProcessProg, 5000);
-    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_processPreDryInfo->isVisibleTo(ui->page_processProg), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(view.Shown("widget_processPreDryInfo"), 5000);
     QVERIFY(window.IsHeatProgramInProgress());
-    ovra::GlobalElements::Chart *chart = ui->widget_chart_process;
+    ovra::GlobalElements::Chart *chart = view.Find<ovra::GlobalElements::Chart>("widget_chart_process");
     QTRY_VERIFY_WITH_TIMEOUT(frontX(chart) > 0.05 && frontX(chart) < 1.0, 10000); // heating
     QTRY_VERIFY_WITH_TIMEOUT(frontX(chart) > 1.0 && frontX(chart) < 2.0, 10000);  // holding
-    QTRY_VERIFY_WITH_TIMEOUT(ui->label_processResult->styleSheet().contains(QStringLiteral("success.png")), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(view.Style("label_processResult").contains(QStringLiteral("success.png")), 10000);
     QCOMPARE(frontX(chart), 2.0);
     QVERIFY(!window.IsHeatProgramInProgress());
-    QVERIFY(ui->widget_exitProcessProg->isVisibleTo(ui->page_processProg));
+    QVERIFY(view.Shown("widget_exitProcessProg"));
     // The controller's empty report closes the firing and frees the page's buttons.
-    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_backProcessProg->isEnabled(), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(view.Enabled("widget_backProcessProg"), 5000);
 
     // A second firing, stopped by the user through the stop question.
-    press(ui->widget_backProcessProg);
+    view.Tap("widget_backProcessProg");
     QCOMPARE(window.CurrentPage(), Page::PlayProg);
-    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_playNewProg->isEnabled(), 3000);
-    press(ui->widget_playNewProg);
-    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_stopProcessProg->isVisibleTo(ui->page_processProg)
+    QTRY_VERIFY_WITH_TIMEOUT(view.Enabled("widget_playNewProg"), 3000);
+    view.Tap("widget_playNewProg");
+    QTRY_VERIFY_WITH_TIMEOUT(view.Shown("widget_stopProcessProg")
                                  && window.CurrentPage() == Page::ProcessProg && frontX(chart) > 0.0,
                              10000);
-    press(ui->widget_stopProcessProg);
+    view.Tap("widget_stopProcessProg");
     auto *stop = window.findChild<ovra::Popups::PopupStop *>();
     QTRY_VERIFY(stop->isVisible());
     press(stop->findChild<QPushButton *>(QStringLiteral("pushButton_OK")));
-    QCOMPARE(ui->label_processResult->styleSheet(), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QCOMPARE(view.Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("firing stopped")), 5000);
 
     // Hot chamber: a closed door draws no warning, an opening one does, closing is not closed.
     auto *warning = window.findChild<ovra::Popups::PopupTempWarning *>();
     sim.Command("temp 450");
-    QTRY_VERIFY_WITH_TIMEOUT(ui->widget_tempProcess->GetText().startsWith(QStringLiteral("4")), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(view.Text("widget_tempProcess").startsWith(QStringLiteral("4")), 5000);
     QVERIFY(!warning->isVisible());
     window.SlotMoveDoor();
     QTRY_VERIFY_WITH_TIMEOUT(warning->isVisible(), 5000);

@@ -7,7 +7,6 @@
 #include "programs/tablerow.h"
 #include "simulatorprocess.h"
 #include "widgets/button.h"
-#include "ui_mainwindow.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -86,10 +85,9 @@ private slots:
 
 private:
     QStringList send(const QByteArray &fields) { return m_panel->Send(fields); }
-    QString title() const { return ui->label_Name->text(); }
+    QString title() const { return m_panel->Text("label_Name"); }
 
     QScopedPointer<PanelHarness> m_panel;
-    Ui::MainWindow *ui = nullptr;
 };
 
 void TestLanguage::initTestCase()
@@ -101,7 +99,6 @@ void TestLanguage::initTestCase()
 void TestLanguage::init()
 {
     m_panel.reset(new PanelHarness(30));
-    ui = m_panel->Window()->GetUi();
 }
 
 void TestLanguage::cleanup()
@@ -135,19 +132,19 @@ void TestLanguage::chineseTappedThenSentBackByTheController()
 {
     InstallTranslations(m_panel->Home());
     send("guistate==12");
-    QVERIFY(ui->widget_Lang1->IsChecked()); // German shows before anything is loaded
-    QVERIFY(!ui->widget_Lang11->isVisibleTo(ui->page_LangSelect));
+    QVERIFY(m_panel->Checked("widget_Lang1")); // German shows before anything is loaded
+    QVERIFY(!m_panel->Shown("widget_Lang11"));
 
-    ui->widget_Lang11->setVisible(true); // a panel that offers all twelve languages
-    PanelHarness::Click(ui->widget_Lang11);
+    m_panel->Widget("widget_Lang11")->setVisible(true); // a panel that offers all twelve languages
+    m_panel->Tap("widget_Lang11");
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("lang==chinesisch")});
     QCOMPARE(title(), QStringLiteral("语言"));
-    QVERIFY(ui->widget_Lang11->IsChecked() && !ui->widget_Lang1->IsChecked());
+    QVERIFY(m_panel->Checked("widget_Lang11") && !m_panel->Checked("widget_Lang1"));
 
     // The panel's own keyword is not one the controller sends: US English, echoed as sent.
     QCOMPARE(send("lang==chinesisch"), QStringList{QStringLiteral("lang==chinesisch")});
     QCOMPARE(title(), QStringLiteral("LANGUAGE"));
-    QVERIFY(ui->widget_Lang2->IsChecked());
+    QVERIFY(m_panel->Checked("widget_Lang2"));
 }
 
 void TestLanguage::everyTextOfEveryPageAndPopupFollows()
@@ -171,7 +168,7 @@ void TestLanguage::everyTextOfEveryPageAndPopupFollows()
     }
     QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral(" | "))));
     QCOMPARE(title(), QStringLiteral("PROGRAM OPTIONS"));
-    QCOMPARE(ui->widget_newProg->GetSaveTitle(), QStringLiteral("Save program"));
+    QCOMPARE(m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg")->GetSaveTitle(), QStringLiteral("Save program"));
 }
 
 namespace {
@@ -199,40 +196,41 @@ void TestLanguage::simulatorSwitchesToSpanishAndUserPicksFrench()
 {
     SimulatedPanel panel({});
     MainWindow *window = panel.window.data();
-    Ui::MainWindow *form = window->GetUi();
+    PanelView view(window);
     QTRY_VERIFY_WITH_TIMEOUT(panel.Ready(), 15000);
     QVERIFY(panel.sim.Printed(QStringLiteral("language: deutsch")));
 
     panel.sim.Command("lang spanisch");
-    QTRY_COMPARE_WITH_TIMEOUT(form->label_Name->text(), QStringLiteral("MENÚ PRINCIPAL"), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(view.Text("label_Name"), QStringLiteral("MENÚ PRINCIPAL"), 5000);
     QTRY_VERIFY_WITH_TIMEOUT(panel.sim.Printed(QStringLiteral("language: spanisch")), 5000);
     const QList<QPair<QWidget *, QString>> steps = {
-        {form->widget_MainMenuButtonProgs, QStringLiteral("OPCIONES DE PROGRAMA")},
-        {form->widget_ProgsButtonLists, QStringLiteral("PROGRAMAS")},
-        {form->widget_exitLists, QStringLiteral("MENÚ PRINCIPAL")},
-        {form->widget_MainMenuButtonSettings, QStringLiteral("AJUSTES")},
-        {form->widget_SettingsButtonLangSelect, QStringLiteral("IDIOMA")},
+        {view.Widget("widget_MainMenuButtonProgs"), QStringLiteral("OPCIONES DE PROGRAMA")},
+        {view.Widget("widget_ProgsButtonLists"), QStringLiteral("PROGRAMAS")},
+        {view.Widget("widget_exitLists"), QStringLiteral("MENÚ PRINCIPAL")},
+        {view.Widget("widget_MainMenuButtonSettings"), QStringLiteral("AJUSTES")},
+        {view.Widget("widget_SettingsButtonLangSelect"), QStringLiteral("IDIOMA")},
     };
     for (const auto &step : steps) {
         PanelHarness::Click(step.first);
-        QCOMPARE(form->label_Name->text(), step.second);
+        QCOMPARE(view.Text("label_Name"), step.second);
     }
-    QVERIFY(form->widget_Lang4->IsChecked()); // Español
+    QVERIFY(view.Checked("widget_Lang4")); // Español
 
-    PanelHarness::Click(form->widget_Lang5);
-    QCOMPARE(form->label_Name->text(), QStringLiteral("LANGUE"));
+    view.Tap("widget_Lang5");
+    QCOMPARE(view.Text("label_Name"), QStringLiteral("LANGUE"));
     QTRY_VERIFY_WITH_TIMEOUT(panel.sim.Printed(QStringLiteral("language: franzoesisch")), 5000);
-    PanelHarness::Click(form->widget_fwdLang);
-    QCOMPARE(form->label_Name->text(), QStringLiteral("UNITÉ DE TEMPÉRATURE"));
-    QCOMPARE(form->widget_UnitC->GetText(), QStringLiteral("°C  Celsius"));
+    view.Tap("widget_fwdLang");
+    QCOMPARE(view.Text("label_Name"), QStringLiteral("UNITÉ DE TEMPÉRATURE"));
+    QCOMPARE(view.Text("widget_UnitC"), QStringLiteral("°C  Celsius"));
 }
 
 void TestLanguage::fahrenheitLimitsInTheEditor()
 {
     SimulatedPanel panel({QStringLiteral("--unit"), QStringLiteral("f")});
     MainWindow *window = panel.window.data();
+    PanelView view(window);
     QTRY_VERIFY_WITH_TIMEOUT(panel.Ready(), 15000);
-    ovra::GlobalElements::NewProgram *editor = window->GetUi()->widget_newProg;
+    ovra::GlobalElements::NewProgram *editor = view.Find<ovra::GlobalElements::NewProgram>("widget_newProg");
     QVERIFY(editor->IsFahrenheit());
 
     window->Statemachine(Page::NewProg);

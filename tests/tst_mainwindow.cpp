@@ -6,10 +6,11 @@
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
 #include "faults/errorhandler.h"
-#include "ui_mainwindow.h"
 
 #include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QProgressBar>
+#include <QTextEdit>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
@@ -45,11 +46,9 @@ private slots:
 private:
     // Feeds one controller frame and returns the requests that went out with the answer.
     QStringList send(const QByteArray &fields);
-    void click(QWidget *kitWidget);
 
     QScopedPointer<PanelHarness> m_panel;
     MainWindow *m_window = nullptr;
-    Ui::MainWindow *ui = nullptr;
 };
 
 void TestMainWindow::initTestCase()
@@ -62,7 +61,6 @@ void TestMainWindow::init()
 {
     m_panel.reset(new PanelHarness(30));
     m_window = m_panel->Window();
-    ui = m_window->GetUi();
 }
 
 void TestMainWindow::cleanup()
@@ -76,14 +74,9 @@ QStringList TestMainWindow::send(const QByteArray &fields)
     return m_panel->Send(fields);
 }
 
-void TestMainWindow::click(QWidget *kitWidget)
-{
-    PanelHarness::Click(kitWidget);
-}
-
 void TestMainWindow::startsOnTheSplashAndSendsNothing()
 {
-    QCOMPARE(ui->stackedWidget_main->currentIndex(), 1);
+    QCOMPARE(int(m_panel->CurrentScreen()), 1);
     QCOMPARE(send("temp==300"), QStringList());
 }
 
@@ -91,12 +84,12 @@ void TestMainWindow::deviceDataStartsTheSelftest()
 {
     QCOMPARE(send("name==S1$$serialno==42$$hwver==3$$swver==1.2$$ophours==77"),
              QStringList{QStringLiteral("guistate==1")});
-    QCOMPARE(ui->stackedWidget_main->currentIndex(), 0);
-    QCOMPARE(ui->stackedWidget->currentIndex(), int(Page::DeviceData));
-    QCOMPARE(ui->label_Name->text(), QStringLiteral("GERÄTEDATEN"));
+    QCOMPARE(int(m_panel->CurrentScreen()), 0);
+    QCOMPARE(m_panel->ShownPageIndex(), int(Page::DeviceData));
+    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("GERÄTEDATEN"));
     QVERIFY(m_window->IsSelftestPending());
-    QCOMPARE(ui->widget_Data1->GetText(), QStringLiteral("S1"));
-    QCOMPARE(ui->widget_Data42->GetText(), QStringLiteral("1.2 / R02E.1"));
+    QCOMPARE(m_panel->Text("widget_Data1"), QStringLiteral("S1"));
+    QCOMPARE(m_panel->Text("widget_Data42"), QStringLiteral("1.2 / R02E.1"));
 
     // The injected delay stands for the furnace's 7000 ms.
     QTRY_COMPARE(m_window->CurrentPage(), Page::Selftest);
@@ -122,7 +115,7 @@ void TestMainWindow::guardsOfTheStateMachine()
 {
     // 26 before the start-up page: no page, but the oven is told.
     QCOMPARE(send("guistate==26"), QStringList{QStringLiteral("guistate==26")});
-    QCOMPARE(ui->stackedWidget_main->currentIndex(), 0);
+    QCOMPARE(int(m_panel->CurrentScreen()), 0);
     QCOMPARE(m_window->CurrentPage(), Page::OvenReady);
 
     send("initialstart"); // keep the self-test timer out of this test
@@ -134,15 +127,15 @@ void TestMainWindow::guardsOfTheStateMachine()
 
     // Re-selecting the current page prepares it again but reports nothing.
     QCOMPARE(send("guistate==6"), QStringList());
-    QCOMPARE(ui->label_Name->text(), QStringLiteral("EINSTELLUNGEN"));
+    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("EINSTELLUNGEN"));
 
     send("guistate==14");
-    QCOMPARE(ui->label_Name->text(), QStringLiteral("DATUM & UHRZEIT"));
-    QCOMPARE(ui->widget_DateTimeAdjust->GetText(), QStringLiteral("Datum && Uhrzeit einstellen"));
+    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("DATUM & UHRZEIT"));
+    QCOMPARE(m_panel->Text("widget_DateTimeAdjust"), QStringLiteral("Datum && Uhrzeit einstellen"));
 
     // A page number beyond the last: the stack stays, the oven is told.
     QCOMPARE(send("guistate==99"), QStringList{QStringLiteral("guistate==99")});
-    QCOMPARE(ui->stackedWidget->currentIndex(), int(Page::DateTime));
+    QCOMPARE(m_panel->ShownPageIndex(), int(Page::DateTime));
     QCOMPARE(int(m_window->CurrentPage()), 99);
 }
 
@@ -159,17 +152,17 @@ void TestMainWindow::mainMenuDuringCommissioning()
     QCOMPARE(m_window->CurrentPage(), Page::LangSelect);
 
     // Now 26 is the main menu with the temperature shown.
-    ui->widget_temp->setVisible(false);
+    m_panel->Widget("widget_temp")->setVisible(false);
     QCOMPARE(send("guistate==26"), QStringList{QStringLiteral("guistate==3")});
     QCOMPARE(m_window->CurrentPage(), Page::MainMenu);
-    QVERIFY(ui->widget_temp->isVisible());
+    QVERIFY(m_panel->Shown("widget_temp"));
 }
 
 void TestMainWindow::badGuiStateText()
 {
     send("guistate==5");
     QCOMPARE(send("guistate==five"), QStringList{QStringLiteral("guistate==0")});
-    QCOMPARE(ui->stackedWidget->currentIndex(), int(Page::StartUp));
+    QCOMPARE(m_panel->ShownPageIndex(), int(Page::StartUp));
     QCOMPARE(send("guistate==-3"), QStringList());     // also reads as 0
     QCOMPARE(send("guistate==4294967296"), QStringList()); // out of range reads as 0
 }
@@ -177,22 +170,22 @@ void TestMainWindow::badGuiStateText()
 void TestMainWindow::menuButtonsAndNavigation()
 {
     send("guistate==3");
-    QCOMPARE(ui->widget_MainMenuButtonSettings->GetText(), QStringLiteral("Einstellungen"));
-    click(ui->widget_MainMenuButtonSettings);
+    QCOMPARE(m_panel->Text("widget_MainMenuButtonSettings"), QStringLiteral("Einstellungen"));
+    m_panel->Tap("widget_MainMenuButtonSettings");
     QCOMPARE(m_window->CurrentPage(), Page::Settings);
-    click(ui->widget_SettingsButtonLangSelect);
+    m_panel->Tap("widget_SettingsButtonLangSelect");
     QCOMPARE(m_window->CurrentPage(), Page::LangSelect);
-    QVERIFY(ui->widget_Lang2->isVisibleTo(ui->page_LangSelect));
-    QVERIFY(!ui->widget_Lang3->isVisibleTo(ui->page_LangSelect));
-    click(ui->widget_fwdLang);
+    QVERIFY(m_panel->Shown("widget_Lang2"));
+    QVERIFY(!m_panel->Shown("widget_Lang3"));
+    m_panel->Tap("widget_fwdLang");
     QCOMPARE(m_window->CurrentPage(), Page::UnitSelect);
-    QVERIFY(ui->widget_UnitC->IsChecked());
-    click(ui->widget_UnitF);
+    QVERIFY(m_panel->Checked("widget_UnitC"));
+    m_panel->Tap("widget_UnitF");
     QVERIFY(m_window->IsFahrenheit());
-    QVERIFY(ui->widget_UnitF->IsChecked() && !ui->widget_UnitC->IsChecked());
-    click(ui->widget_backUnit);
+    QVERIFY(m_panel->Checked("widget_UnitF") && !m_panel->Checked("widget_UnitC"));
+    m_panel->Tap("widget_backUnit");
     QCOMPARE(m_window->CurrentPage(), Page::LangSelect);
-    click(ui->widget_exitLang);
+    m_panel->Tap("widget_exitLang");
     QCOMPARE(m_window->CurrentPage(), Page::MainMenu);
 
     const QStringList requests = send("temp==300");
@@ -202,22 +195,22 @@ void TestMainWindow::menuButtonsAndNavigation()
 
     // Forward from the material filter leads to the program options.
     send("guistate==23");
-    click(ui->widget_fwdDisplayMaterial);
+    m_panel->Tap("widget_fwdDisplayMaterial");
     QCOMPARE(m_window->CurrentPage(), Page::Progs);
-    QVERIFY(!ui->widget_ProgsButtonDisplayOptions->isVisibleTo(ui->page_Progs));
+    QVERIFY(!m_panel->Shown("widget_ProgsButtonDisplayOptions"));
 }
 
 void TestMainWindow::backFromDeviceDataFollowsTheCommissioningOrder()
 {
     send("guistate==6");
-    click(ui->widget_SettingsButtonDeviceData);
+    m_panel->Tap("widget_SettingsButtonDeviceData");
     QCOMPARE(m_window->CurrentPage(), Page::DeviceData2);
-    click(ui->widget_backDeviceData2);
+    m_panel->Tap("widget_backDeviceData2");
     QCOMPARE(m_window->CurrentPage(), Page::DateTime);
 
     send("guistate==7");
-    click(ui->widget_ServiceDeviceData);
-    click(ui->widget_backDeviceData2);
+    m_panel->Tap("widget_ServiceDeviceData");
+    m_panel->Tap("widget_backDeviceData2");
     QCOMPARE(m_window->CurrentPage(), Page::Service);
 }
 
@@ -229,12 +222,12 @@ void TestMainWindow::displayKeyClosesTheDoorUnlessFiring()
 
     QByteArray answers;
     key.write("aus");
-    QTRY_VERIFY(!ui->stackedWidget_main->isEnabled());
+    QTRY_VERIFY(!m_panel->TouchEnabled());
     QTRY_COMPARE((answers += key.readAll()), QByteArray("ack"));
     key.write("an");
-    QTRY_VERIFY(ui->stackedWidget_main->isEnabled());
+    QTRY_VERIFY(m_panel->TouchEnabled());
     key.write("aus");
-    QTRY_VERIFY(!ui->stackedWidget_main->isEnabled());
+    QTRY_VERIFY(!m_panel->TouchEnabled());
     QCOMPARE(send("temp==300"), (QStringList{QStringLiteral("doorclose"), QStringLiteral("doorclose")}));
 
     m_window->SetHeatProgramInProgress(true);
@@ -245,22 +238,22 @@ void TestMainWindow::displayKeyClosesTheDoorUnlessFiring()
 void TestMainWindow::selftestProgressAndResult()
 {
     send("guistate==2");
-    QCOMPARE(ui->progressBar_selftest->value(), 0);
-    QVERIFY(!ui->widget_redoSelftest->isVisibleTo(ui->page_Selftest));
+    QCOMPARE(m_panel->Find<QProgressBar>("progressBar_selftest")->value(), 0);
+    QVERIFY(!m_panel->Shown("widget_redoSelftest"));
     send("stheater==pass$$stdoor==fail");
     send("stheater==pass"); // a second result of a row counts nothing
-    QCOMPARE(ui->progressBar_selftest->value(), 50);
+    QCOMPARE(m_panel->Find<QProgressBar>("progressBar_selftest")->value(), 50);
     send("stcooling==pass");
-    QCOMPARE(ui->progressBar_selftest->value(), 75);
-    QCOMPARE(ui->progressBar_selftest->maximum(), 75);
+    QCOMPARE(m_panel->Find<QProgressBar>("progressBar_selftest")->value(), 75);
+    QCOMPARE(m_panel->Find<QProgressBar>("progressBar_selftest")->maximum(), 75);
 
     send("st==PASS"); // only the exact word passes
     QCOMPARE(m_window->CurrentPage(), Page::Selftest);
-    QVERIFY(ui->widget_redoSelftest->isVisibleTo(ui->page_Selftest));
-    QVERIFY(ui->widget_exitSelftest->isVisibleTo(ui->page_Selftest));
+    QVERIFY(m_panel->Shown("widget_redoSelftest"));
+    QVERIFY(m_panel->Shown("widget_exitSelftest"));
 
-    click(ui->widget_redoSelftest);
-    QCOMPARE(ui->progressBar_selftest->value(), 0);
+    m_panel->Tap("widget_redoSelftest");
+    QCOMPARE(m_panel->Find<QProgressBar>("progressBar_selftest")->value(), 0);
     QVERIFY(send("temp==300").contains(QStringLiteral("redost")));
     send("st==pass");
     QCOMPARE(m_window->CurrentPage(), Page::MainMenu);
@@ -269,13 +262,13 @@ void TestMainWindow::selftestProgressAndResult()
 void TestMainWindow::selftestFromServiceStays()
 {
     send("guistate==7");
-    click(ui->widget_ServiceSelftest);
+    m_panel->Tap("widget_ServiceSelftest");
     QCOMPARE(m_window->CurrentPage(), Page::Selftest);
     QCOMPARE(send("temp==300"), (QStringList{QStringLiteral("redost"), QStringLiteral("guistate==2")}));
     send("st==pass");
     QCOMPARE(m_window->CurrentPage(), Page::Selftest);
-    QVERIFY(ui->widget_backSelftest->isVisibleTo(ui->page_Selftest));
-    click(ui->widget_backSelftest);
+    QVERIFY(m_panel->Shown("widget_backSelftest"));
+    m_panel->Tap("widget_backSelftest");
     QCOMPARE(m_window->CurrentPage(), Page::Service);
 
     // During a firing the automatic self-test does not take the screen.
@@ -287,19 +280,19 @@ void TestMainWindow::selftestFromServiceStays()
 void TestMainWindow::failuresShowTheWorstSymbol()
 {
     send("guistate==3");
-    QVERIFY(!ui->pushButton_infoMainMenu->isVisibleTo(ui->page_MainMenu));
+    QVERIFY(!m_panel->Shown("pushButton_infoMainMenu"));
     send("date==20261122$$time==0905$$error==E123,E12");
-    QVERIFY(ui->pushButton_infoMainMenu->isVisibleTo(ui->page_MainMenu));
-    QCOMPARE(ui->widget_processError->styleSheet(), QStringLiteral("background-image: url(:/Failure/schwer.png);"));
-    QVERIFY(ui->textEdit_FailureList->toPlainText().startsWith(QStringLiteral("22.11.2026, 09:05: E12\n")));
+    QVERIFY(m_panel->Shown("pushButton_infoMainMenu"));
+    QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/schwer.png);"));
+    QVERIFY(m_panel->Find<QTextEdit>("textEdit_FailureList")->toPlainText().startsWith(QStringLiteral("22.11.2026, 09:05: E12\n")));
     send("reseterror==E12");
-    QCOMPARE(ui->widget_processError->styleSheet(), QStringLiteral("background-image: url(:/Failure/mittel.png);"));
+    QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/mittel.png);"));
 
     m_window->SlotDeleteFailure();
-    QVERIFY(!ui->pushButton_infoMainMenu->isVisibleTo(ui->page_MainMenu));
+    QVERIFY(!m_panel->Shown("pushButton_infoMainMenu"));
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("deletefailurelist")});
     send("error==E77");
-    QVERIFY(ui->pushButton_infoMainMenu->isVisibleTo(ui->page_MainMenu));
+    QVERIFY(m_panel->Shown("pushButton_infoMainMenu"));
 }
 
 QTEST_MAIN(TestMainWindow)

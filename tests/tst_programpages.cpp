@@ -6,9 +6,11 @@
 #include "communication/messagehandler.h"
 #include "process/chart.h"
 #include "programs/programhandler.h"
-#include "ui_mainwindow.h"
 #include "widgets/programbutton.h"
 
+#include "widgets/button.h"
+
+#include <QPushButton>
 #include <QtTest>
 
 using ovra::GlobalElements::Program;
@@ -53,7 +55,6 @@ private:
 
     QScopedPointer<PanelHarness> m_panel;
     MainWindow *m_window = nullptr;
-    Ui::MainWindow *ui = nullptr;
 };
 
 void TestProgramPages::initTestCase()
@@ -66,7 +67,6 @@ void TestProgramPages::init()
 {
     m_panel.reset(new PanelHarness());
     m_window = m_panel->Window();
-    ui = m_window->GetUi();
     send(heatfile(QStringLiteral("Mein Speed"), QStringLiteral("user"), QStringLiteral("Zirkon"), true));
     send(heatfile(QStringLiteral("Mein Argon"), QStringLiteral("user"), QStringLiteral("Argon"), false));
     send(heatfile(QStringLiteral("Zirkon HT"), QStringLiteral("DentaCeram"), QStringLiteral("Zirkon"), false));
@@ -135,11 +135,11 @@ void TestProgramPages::filtersNarrowTheUserList()
     send(heatfile(QStringLiteral("Fremd"), QStringLiteral("user"), QStringLiteral("Glaskeramik"), false));
     send("guistate==22");
     QStringList makers;
-    for (auto *b : ui->scrollAreaWidgetContents_Manufacturer->findChildren<ovra::GlobalElements::Button *>())
+    for (auto *b : m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>())
         makers << b->GetText();
     QCOMPARE(makers.size(), 4); // user, DentaCeram, Dental Werk, service
     send("guistate==23");
-    const auto materials = ui->scrollAreaWidgetContents_Material->findChildren<ovra::GlobalElements::Button *>();
+    const auto materials = m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>();
     QCOMPARE(materials.size(), 3);
     for (auto *b : materials) {
         if (b->GetText() == QLatin1String("Zirkon"))
@@ -150,16 +150,16 @@ void TestProgramPages::filtersNarrowTheUserList()
 
     // Visiting the filter page again adds no second button for a known value.
     send("guistate==23");
-    QCOMPARE(ui->scrollAreaWidgetContents_Material->findChildren<ovra::GlobalElements::Button *>().size(), 3);
+    QCOMPARE(m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>().size(), 3);
     // "Dental Werk" never matches its own button: with it checked nothing is listed.
     send("guistate==22");
-    for (auto *b : ui->scrollAreaWidgetContents_Manufacturer->findChildren<ovra::GlobalElements::Button *>()) {
+    for (auto *b : m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>()) {
         if (b->GetText() == QLatin1String("Dental Werk"))
             click(b);
     }
     // ... and it gets another button on every visit.
     send("guistate==22");
-    QCOMPARE(ui->scrollAreaWidgetContents_Manufacturer->findChildren<ovra::GlobalElements::Button *>().size(), 6);
+    QCOMPARE(m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>().size(), 6);
     send("guistate==10");
     QCOMPARE(listed(), QStringList());
 }
@@ -169,18 +169,18 @@ void TestProgramPages::showingAndDeletingAProgram()
     send("guistate==11");
     click(m_window->GetProgramButtons().at(0)); // Zirkon HT, a maker's program
     QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
-    QCOMPARE(ui->label_Name->text(), QStringLiteral("Zirkon HT")); // not in upper case
-    QVERIFY(!ui->widget_playProgChange->isVisibleTo(ui->page_playProg));
-    QCOMPARE(ui->widget_chart_play->GetProfile().points.size(), 4); // summary: (0,0) and three points
+    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Zirkon HT")); // not in upper case
+    QVERIFY(!m_panel->Shown("widget_playProgChange"));
+    QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(), 4); // summary: (0,0) and three points
 
-    click(ui->widget_backPlayNewProg);
+    m_panel->Tap("widget_backPlayNewProg");
     QCOMPARE(m_window->CurrentPage(), Page::FixProgs);
 
     send("guistate==10");
     click(m_window->GetProgramButtons().at(1)); // Mein Argon
-    QCOMPARE(ui->widget_materialPlay->GetIcon(), QStringLiteral(":/Play/Gas.png"));
-    QVERIFY(ui->widget_playProgDelete->isVisibleTo(ui->page_playProg));
-    QCOMPARE(ui->widget_chart_play->GetProfile().points.size(), 5);
+    QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
+    QVERIFY(m_panel->Shown("widget_playProgDelete"));
+    QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(), 5);
     send("temp==300"); // drop the page reports
     m_window->SlotDeleteProg();
     QVERIFY(send("temp==300").contains(QStringLiteral("hpdelete==Mein Argon")));
@@ -196,11 +196,11 @@ void TestProgramPages::replacedProgramOnAShownListStaysSafe()
     send(heatfile(QStringLiteral("Mein Speed"), QStringLiteral("user"), QStringLiteral("Argon"), false));
     click(shown); // the old record is still alive (checked under the sanitizer build)
     QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
-    click(ui->widget_backPlayNewProg);
+    m_panel->Tap("widget_backPlayNewProg");
     QCOMPARE(m_window->CurrentPage(), Page::MyProgs);
     QCOMPARE(m_window->GetProgramHandler()->RetiredCount(), 0); // freed with the rebuilt list
     click(m_window->GetProgramButtons().at(0));
-    QCOMPARE(ui->widget_materialPlay->GetText(), QStringLiteral("Argon"));
+    QCOMPARE(m_panel->Text("widget_materialPlay"), QStringLiteral("Argon"));
 }
 
 void TestProgramPages::resendIsAskedForTenTimesAtMost()

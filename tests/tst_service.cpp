@@ -10,7 +10,6 @@
 #include "popups/popupusb.h"
 #include "programs/programhandler.h"
 #include "simulatorprocess.h"
-#include "ui_mainwindow.h"
 
 #include <QDirIterator>
 #include <QLabel>
@@ -59,7 +58,6 @@ private:
 
     QTemporaryDir m_stick;
     QScopedPointer<PanelHarness> m_panel;
-    Ui::MainWindow *ui = nullptr;
     ovra::Popups::PopupUSB *m_usb = nullptr;
 };
 
@@ -76,7 +74,6 @@ void TestService::init()
         options.usbDir = stick;
         options.usbAnswerTimeoutMs = 100; // stands for two minutes
     }));
-    ui = m_panel->Window()->GetUi();
     m_usb = m_panel->Window()->findChild<ovra::Popups::PopupUSB *>();
     send("guistate==1"); // started up: device data, then the main menu
     send("guistate==3");
@@ -121,10 +118,10 @@ void TestService::factoryResetDeletesOwnProgramsFirst()
     send(Heatfile("Krone", "user") + "$$" + Heatfile("ZS Speed", "Zircos") + "$$" + Heatfile("Bruecke", "user"));
     auto *popup = m_panel->Window()->findChild<ovra::Popups::PopupSettings *>();
     send("guistate==6");
-    click(ui->widget_SettingsButtonDeviceReset);
+    m_panel->Tap("widget_SettingsButtonDeviceReset");
     Tap(popup, "pushButton_Cancel");
     QCOMPARE(send("temp==300"), QStringList());
-    click(ui->widget_SettingsButtonDeviceReset);
+    m_panel->Tap("widget_SettingsButtonDeviceReset");
     Tap(popup, "pushButton_OK");
     QCOMPARE(send("temp==300"), (QStringList{QStringLiteral("hpdelete==Krone"), QStringLiteral("hpdelete==Bruecke"),
                                              QStringLiteral("defaultsettings")}));
@@ -136,7 +133,7 @@ void TestService::stickMenuFailsWithoutHanging()
     const QString failed = QStringLiteral("  Fehlgeschlagen.");
     // Not before the controller says a stick is in: it is not asked.
     send("guistate==24");
-    QCOMPARE(usbResult(ui->widget_USBMenuFWUpdate), failed);
+    QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuFWUpdate")), failed);
     QCOMPARE(send("temp==300"), QStringList());
 
     // A stick never pulls the user out of the self-test; a menu page gives way.
@@ -146,7 +143,7 @@ void TestService::stickMenuFailsWithoutHanging()
     QCOMPARE(m_panel->Window()->CurrentPage(), Page::USB);
 
     // A controller that never answers.
-    QCOMPARE(usbResult(ui->widget_USBMenuConfigUpdate), failed);
+    QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuConfigUpdate")), failed);
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("configupdate")});
 
     // A file naming a maker's program is refused whole: nothing goes to the controller.
@@ -156,16 +153,16 @@ void TestService::stickMenuFailsWithoutHanging()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(Heatfile("Abend", "user").mid(10) + '\n' + Heatfile("ZS Speed", "user").mid(10) + '\n');
     file.close();
-    QCOMPARE(usbResult(ui->widget_USBMenuLoadMyProgs), failed);
+    QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuLoadMyProgs")), failed);
     QCOMPARE(send("temp==300"), QStringList());
 
     // No stick at all.
     QVERIFY(m_stick.remove());
-    QCOMPARE(usbResult(ui->widget_USBMenuBackup), failed);
+    QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuBackup")), failed);
     QVERIFY(!QFileInfo::exists(m_stick.path()));
 
     // Pulled while the controller works: failed, and the menu goes.
-    click(ui->widget_USBMenuFWUpdate);
+    m_panel->Tap("widget_USBMenuFWUpdate");
     QVERIFY(m_usb->IsBusy());
     send("usb==out");
     QCOMPARE(m_usb->GetText(), failed);
@@ -179,7 +176,7 @@ void TestService::qrCodeScansToTheDeviceData()
         QSKIP("zbarimg (zbar-tools) is not installed");
     send("name==Sinterofen S1$$serialno==SN-0042$$hwver==HW 2.1$$swver==V 3.04$$ophours==1234$$error==E123,E12");
     send("usb==in");
-    click(ui->widget_USBMenuQRCode);
+    m_panel->Tap("widget_USBMenuQRCode");
     auto *popup = m_panel->Window()->findChild<ovra::Popups::PopupQRCode *>();
     QVERIFY(popup->isVisible() && popup->HasImage());
     const QString png = m_panel->Home() + QStringLiteral("/shown.png");
@@ -202,18 +199,18 @@ void TestService::pinAndStickFromTheController()
         options.port = slave;
         options.usbDir = stick.path();
     });
-    Ui::MainWindow *form = panel.Window()->GetUi();
+    const PanelView &view = panel;
     auto *usb = panel.Window()->findChild<ovra::Popups::PopupUSB *>();
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
 
     panel.Window()->Statemachine(Page::ServicePIN);
     for (const char *key : {"pushButton_2", "pushButton_4", "pushButton_6", "pushButton_8", "pushButton_ok"})
-        form->widget_numpad->findChild<QPushButton *>(QString::fromLatin1(key))->click();
+        view.Widget("widget_numpad")->findChild<QPushButton *>(QString::fromLatin1(key))->click();
     QCOMPARE(panel.Window()->CurrentPage(), Page::Service);
 
     sim.Command("usb in");
     QTRY_COMPARE_WITH_TIMEOUT(panel.Window()->CurrentPage(), Page::USB, 5000);
-    for (QWidget *button : {form->widget_USBMenuSaveMyProgs, form->widget_USBMenuLoadMyProgs, form->widget_USBMenuFWUpdate}) {
+    for (QWidget *button : {view.Widget("widget_USBMenuSaveMyProgs"), view.Widget("widget_USBMenuLoadMyProgs"), view.Widget("widget_USBMenuFWUpdate")}) {
         PanelHarness::Click(button);
         QTRY_COMPARE_WITH_TIMEOUT(usb->GetText(), QStringLiteral("  Erfolgreich."), 5000);
         usb->accept();

@@ -1,10 +1,10 @@
 // The panel's start-up against the controller simulator over a pseudo-terminal: splash,
 // device data, the automatic self-test, the main menu, and the commissioning walk.
+#include "panelview.h"
 #include "app/mainwindow.h"
 #include "simulatorprocess.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
-#include "ui_mainwindow.h"
 #include "widgets/iconbutton.h"
 #include "widgets/keyboard.h"
 #include "widgets/programbutton.h"
@@ -14,6 +14,7 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QProgressBar>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
@@ -63,20 +64,20 @@ void TestStartUp::automaticSelftestLeadsToTheMainMenu()
     QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
     QScopedPointer<MainWindow> window(makeWindow(slave, home));
-    Ui::MainWindow *ui = window->GetUi();
-    QCOMPARE(ui->stackedWidget_main->currentIndex(), 1); // the splash until the oven speaks
+    PanelView view(window.data());
+    QCOMPARE(int(view.CurrentScreen()), 1); // the splash until the oven speaks
 
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::DeviceData, 10000);
-    QCOMPARE(ui->stackedWidget_main->currentIndex(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(ui->widget_Data1->GetText(), QStringLiteral("Ovra S1"), 5000);
+    QCOMPARE(int(view.CurrentScreen()), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(view.Text("widget_Data1"), QStringLiteral("Ovra S1"), 5000);
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::Selftest, 5000);
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("request: redost")), 5000);
-    QTRY_COMPARE_WITH_TIMEOUT(ui->progressBar_selftest->value(), 75, 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(view.Find<QProgressBar>("progressBar_selftest")->value(), 75, 5000);
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 5000);
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("request: guistate==3")), 5000);
-    QCOMPARE(ui->label_Name->text(), QStringLiteral("HAUPTMENÜ"));
-    QVERIFY(ui->widget_temp->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(!ui->label_Time->text().isEmpty(), 5000);
+    QCOMPARE(view.Text("label_Name"), QStringLiteral("HAUPTMENÜ"));
+    QVERIFY(view.Shown("widget_temp"));
+    QTRY_VERIFY_WITH_TIMEOUT(!view.Text("label_Time").isEmpty(), 5000);
 }
 
 void TestStartUp::commissioningWalksTheSettingsPages()
@@ -86,20 +87,19 @@ void TestStartUp::commissioningWalksTheSettingsPages()
     QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
     QScopedPointer<MainWindow> window(makeWindow(slave, home));
-    Ui::MainWindow *ui = window->GetUi();
+    PanelView view(window.data());
 
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::LangSelect, 10000);
     QVERIFY(window->IsInitialStartup());
     QVERIFY(!window->IsSelftestPending());
 
-    auto press = [](QWidget *kit) { QTest::mouseClick(kit->findChild<QAbstractButton *>(), Qt::LeftButton); };
-    press(ui->widget_fwdLang);
+    view.Tap("widget_fwdLang");
     QCOMPARE(window->CurrentPage(), Page::UnitSelect);
-    press(ui->widget_UnitF);
-    press(ui->widget_fwdUnit);
-    press(ui->widget_fwdDateTime);
+    view.Tap("widget_UnitF");
+    view.Tap("widget_fwdUnit");
+    view.Tap("widget_fwdDateTime");
     QCOMPARE(window->CurrentPage(), Page::DeviceData2);
-    press(ui->widget_fwdDeviceData2);
+    view.Tap("widget_fwdDeviceData2");
     QCOMPARE(window->CurrentPage(), Page::Settings);
 
     // The controller closes the commissioning with the main menu.
@@ -115,7 +115,7 @@ void TestStartUp::programCreatedOnThePanelReachesTheController()
     QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
     QScopedPointer<MainWindow> window(makeWindow(slave, home));
-    Ui::MainWindow *ui = window->GetUi();
+    PanelView view(window.data());
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 15000);
     // The controller's own "main menu" after the self-test, before the user starts typing.
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 5000);
@@ -130,9 +130,9 @@ void TestStartUp::programCreatedOnThePanelReachesTheController()
     QTRY_VERIFY_WITH_TIMEOUT(window->GetProgramButtons().size() >= 3, 5000);
 
     // A new program, typed on the panel's own pads.
-    press(ui->widget_myProgsNew);
+    view.Tap("widget_myProgsNew");
     QCOMPARE(window->CurrentPage(), Page::NewProg);
-    ovra::GlobalElements::NewProgram *editor = ui->widget_newProg;
+    ovra::GlobalElements::NewProgram *editor = view.Find<ovra::GlobalElements::NewProgram>("widget_newProg");
     auto type = [&](QLineEdit *field, const QString &digits) {
         QTest::mouseClick(field, Qt::LeftButton);
         for (const QChar d : digits)
@@ -163,7 +163,7 @@ void TestStartUp::programCreatedOnThePanelReachesTheController()
                              5000);
     QVERIFY(sim.Printed(QStringLiteral("stored: Krone")));
     QCOMPARE(window->CurrentPage(), Page::PlayProg);
-    QCOMPARE(ui->label_Name->text(), QStringLiteral("Krone"));
+    QCOMPARE(view.Text("label_Name"), QStringLiteral("Krone"));
     window->Statemachine(Page::MyProgs);
     QVERIFY(window->GetProgramButtons().last()->GetText() == QStringLiteral("Krone"));
 }
