@@ -61,7 +61,8 @@ void MessageHandler::InitializeUpdater(QString blockCount)
 {
     if (!m_outputFile)
         m_outputFile = new QFile(m_paths.Resolve(outputFilePath));
-    if (m_outputFile->open(QIODevice::ReadWrite | QIODevice::Append)) {
+    // Unbuffered: each block is on disk once applied, one write per block.
+    if (m_outputFile->open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
         if (m_outputFile->pos() != 0)
             m_outputFile->resize(0);
         delete m_outputStream;
