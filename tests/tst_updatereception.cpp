@@ -3,12 +3,11 @@
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 #include "communication/updateblock.h"
+#include "updatefiles.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -61,19 +60,13 @@ public:
         handler.SetUnpackDelayMs(60 * 60 * 1000); // the script is not part of these cases
     }
 
-    QStringList send(const QString &text)
+    QStringList send(const QString &text) { return answerFields(handler.HandleMessage(QLatin1Char('\x02') + text + QLatin1Char('\x03'))); }
+    QStringList command(const QByteArray &body) { return answerFields(handler.HandleMessage(QString::fromLatin1(Frame::Build(body)))); }
+    QByteArray written() const { return UpdateFiles::Read(home.path() + QStringLiteral("/Downloads/outfile.txt")); }
+    void script(const QByteArray &text)
     {
-        const QString frame = QLatin1Char('\x02') + text + QLatin1Char('\x03');
-        return answerFields(handler.HandleMessage(frame));
-    }
-    QStringList command(const QByteArray &body)
-    {
-        return answerFields(handler.HandleMessage(QString::fromLatin1(Frame::Build(body))));
-    }
-    QByteArray written() const
-    {
-        QFile file(home.path() + QStringLiteral("/Downloads/outfile.txt"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
+        UpdateFiles::Write(home.path() + QStringLiteral("/Downloads/decode_and_unzip_lin.py"), text + '\n');
+        handler.SetUnpackInterpreters({UpdateFiles::Python()});
     }
     static QByteArray expected(const QList<int> &numbers)
     {
@@ -89,13 +82,6 @@ public:
 
 const QStringList closing = {QStringLiteral("endupdate"), QStringLiteral("hx3update")};
 
-QString python()
-{
-    // Debian's own interpreter first: a python3 earlier on PATH may be a wrapper of its own.
-    const QString system = QStandardPaths::findExecutable(QStringLiteral("python3"), {QStringLiteral("/usr/bin")});
-    return system.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("python3")) : system;
-}
-
 } // namespace
 
 class TestUpdateReception : public QObject
@@ -104,7 +90,6 @@ class TestUpdateReception : public QObject
 
 private slots:
     void initTestCase();
-    void blockTextHasTheControllersLayout();
     void blocksInOrderAreWrittenAndAnnounced();
     void lostBlockIsAskedForAndLaterBlocksWait();
     void damagedBlocksAreAskedForAgain_data();
@@ -113,7 +98,6 @@ private slots:
     void repeatedBlockIsWrittenAgain();
     void noiseDuringTheUpdateIsNotABlock();
     void secondUpdateContinuesTheCounters();
-    void missingDownloadsFolderStillEndsTheUpdate();
     void scriptResultIsReported_data();
     void scriptResultIsReported();
     void scriptRunsWithoutBlockingTheLine();
@@ -122,20 +106,6 @@ private slots:
 void TestUpdateReception::initTestCase()
 {
     qputenv("OVRA_REBOOT_COMMAND", "true");
-}
-
-void TestUpdateReception::blockTextHasTheControllersLayout()
-{
-    const QByteArray text = UpdateBlock::Encode(17, QByteArray(120, 'x'));
-    QVERIFY(text.startsWith("000017120"));
-    QCOMPARE(text.indexOf('&'), 9 + 160);
-    QCOMPARE(text.size(), 9 + 160 + 1 + 32);
-
-    QByteArray data;
-    int number = -1;
-    QVERIFY(UpdateBlock::Decode(QString::fromLatin1(text), data, number));
-    QCOMPARE(number, 17);
-    QCOMPARE(data, QByteArray(120, 'x'));
 }
 
 void TestUpdateReception::blocksInOrderAreWrittenAndAnnounced()
@@ -258,29 +228,19 @@ void TestUpdateReception::secondUpdateContinuesTheCounters()
     QVERIFY(r.handler.IsUpdateActive());
 }
 
-void TestUpdateReception::missingDownloadsFolderStillEndsTheUpdate()
-{
-    QTemporaryDir home;
-    MessageHandler handler((Paths(home.path())));
-    handler.SetUnpackDelayMs(60 * 60 * 1000);
-    handler.HandleMessage(QString::fromLatin1(Frame::Build("update==1")));
-    QCOMPARE(answerFields(handler.HandleMessage(QLatin1Char('\x02') + block(0) + QLatin1Char('\x03'))), closing);
-    QVERIFY(QDir(home.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).isEmpty());
-}
-
 void TestUpdateReception::scriptResultIsReported_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<QStringList>("interpreters");
     QTest::addColumn<QString>("report");
-    const QStringList py = {python()};
+    const QStringList py = {UpdateFiles::Python()};
     QTest::newRow("0") << QByteArray("print(0)") << py << "done";
     QTest::newRow("3") << QByteArray("print(3)") << py << "failed";
     QTest::newRow("not a number") << QByteArray("print('x')") << py << "done";
     QTest::newRow("says nothing, dies") << QByteArray("import sys; sys.exit(1)") << py << "failed";
     QTest::newRow("no interpreter") << QByteArray("print(0)") << QStringList{"/nonexistent/python"} << "failed";
     QTest::newRow("second interpreter")
-        << QByteArray("print(0)") << QStringList{"/nonexistent/python", python()} << "done";
+        << QByteArray("print(0)") << QStringList{"/nonexistent/python", UpdateFiles::Python()} << "done";
 }
 
 void TestUpdateReception::scriptResultIsReported()
@@ -288,20 +248,15 @@ void TestUpdateReception::scriptResultIsReported()
     QFETCH(QByteArray, script);
     QFETCH(QStringList, interpreters);
     QFETCH(QString, report);
-    QVERIFY2(!python().isEmpty(), "python3 is needed");
-
     Receiver r;
-    QFile file(r.home.path() + QStringLiteral("/Downloads/decode_and_unzip_lin.py"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(script + '\n');
-    file.close();
+    r.script(script);
     r.handler.SetUnpackInterpreters(interpreters);
     r.handler.SetUnpackDelayMs(10);
     QSignalSpy usb(&r.handler, &MessageHandler::SignalUSB);
 
     r.command("update==1");
     QCOMPARE(r.send(block(0)), closing);
-    QTRY_COMPARE_WITH_TIMEOUT(usb.count(), 1, 10000);
+    QVERIFY(usb.wait(10000));
     QCOMPARE(usb.at(0).at(0).toString(), report);
     // Reported once: the timer does not start the script again.
     QTest::qWait(50);
@@ -310,21 +265,16 @@ void TestUpdateReception::scriptResultIsReported()
 
 void TestUpdateReception::scriptRunsWithoutBlockingTheLine()
 {
+    // The slot returns at once; the result comes later from the event loop.
     Receiver r;
-    QFile file(r.home.path() + QStringLiteral("/Downloads/decode_and_unzip_lin.py"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("import time\ntime.sleep(1)\nprint(0)\n");
-    file.close();
-    r.handler.SetUnpackInterpreters({python()});
+    r.script("import time\ntime.sleep(1)\nprint(0)");
     QSignalSpy usb(&r.handler, &MessageHandler::SignalUSB);
-
     QElapsedTimer clock;
     clock.start();
     r.handler.SlotStartUpdate();
     QVERIFY(clock.elapsed() < 900);
-    QCOMPARE(usb.count(), 0);
     QCOMPARE(r.command("temp==300"), QStringList{QStringLiteral("ack")});
-    QTRY_COMPARE_WITH_TIMEOUT(usb.count(), 1, 10000);
+    QVERIFY(usb.wait(10000));
     QCOMPARE(usb.at(0).at(0).toString(), QStringLiteral("done"));
 }
 

@@ -3,14 +3,12 @@
 // unpacking script installs it in a home of its own and reports "done".
 #include "communication/communicator.h"
 #include "communication/messagehandler.h"
+#include "updatefiles.h"
 
 #include <QDir>
-#include <QDirIterator>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -18,36 +16,6 @@ using ovra::Communication::Communicator;
 using ovra::Communication::MessageHandler;
 
 namespace {
-
-QString python()
-{
-    const QString system = QStandardPaths::findExecutable(QStringLiteral("python3"), {QStringLiteral("/usr/bin")});
-    return system.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("python3")) : system;
-}
-
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
-
-QMap<QString, QByteArray> snapshot(const QString &root)
-{
-    QMap<QString, QByteArray> files;
-    QDirIterator it(root, QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        files.insert(QDir(root).relativeFilePath(path), QFileInfo(path).isDir() ? QByteArray("<dir>") : readFile(path));
-    }
-    return files;
-}
 
 QByteArray noise(int size, quint32 seed)
 {
@@ -71,37 +39,24 @@ private slots:
 
 void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
 {
-    QVERIFY2(!python().isEmpty(), "python3 is needed");
+    QVERIFY2(!UpdateFiles::Python().isEmpty(), "python3 is needed");
     qputenv("OVRA_REBOOT_COMMAND", "true");
 
     QTemporaryDir root;
     QTemporaryDir controller; // the simulator's side: where the update comes from
     const QString home = root.filePath(QStringLiteral("home"));
     const QString downloads = home + QStringLiteral("/Downloads");
-    QVERIFY(writeFile(downloads + QStringLiteral("/build/ovra-panel"), "old program"));
-    QVERIFY(writeFile(downloads + QStringLiteral("/translations/ovra_en.qm"), "old translation"));
-    QVERIFY(QFile::copy(QStringLiteral(OVRA_SOURCE_DIR "/resources/scripts/decode_and_unzip_lin.py"),
-                        downloads + QStringLiteral("/decode_and_unzip_lin.py")));
-    QVERIFY(writeFile(root.filePath(QStringLiteral("outside/keep.txt")), "not to be touched"));
+    QVERIFY(UpdateFiles::MakeHome(home));
+    QVERIFY(UpdateFiles::Write(root.filePath(QStringLiteral("outside/keep.txt")), "not to be touched"));
 
     // A few hundred kilobytes that do not compress, as a program does not much.
     const QByteArray program = noise(260 * 1024, 7);
     const QByteArray translation = noise(20 * 1024, 8);
-    QVERIFY(writeFile(controller.filePath(QStringLiteral("p")), program));
-    QVERIFY(writeFile(controller.filePath(QStringLiteral("t")), translation));
     const QString zip = controller.filePath(QStringLiteral("update.zip"));
-    QCOMPARE(QProcess::execute(python(), {QStringLiteral("-c"),
-                                          QStringLiteral("import sys, zipfile\n"
-                                                         "z = zipfile.ZipFile(sys.argv[1], 'w', zipfile.ZIP_DEFLATED)\n"
-                                                         "z.write(sys.argv[2], 'build/ovra-panel')\n"
-                                                         "z.write(sys.argv[3], 'translations/ovra_de.qm')\n"
-                                                         "z.close()\n"),
-                                          zip, controller.filePath(QStringLiteral("p")),
-                                          controller.filePath(QStringLiteral("t"))}),
-             0);
-    const QByteArray archive = readFile(zip);
+    QVERIFY(UpdateFiles::MakeZip(zip, {{"build/ovra-panel", program}, {"translations/ovra_de.qm", translation}}));
+    const QByteArray archive = UpdateFiles::Read(zip);
     QVERIFY(archive.size() > 250 * 1024);
-    const auto outsideHome = snapshot(root.filePath(QStringLiteral("outside")));
+    const auto outsideHome = UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside")));
 
     QProcess sim;
     sim.start(QStringLiteral(OVRA_HX3SIM_BINARY),
@@ -127,13 +82,13 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
 
     MessageHandler handler{ovra::GlobalElements::Paths(home)};
     handler.SetUnpackDelayMs(200);
-    handler.SetUnpackInterpreters({python()});
+    handler.SetUnpackInterpreters({UpdateFiles::Python()});
     QByteArray received;
     // Queued: runs once the last block's frame is handled and the file closed, before the
     // script takes the file away.
     connect(&handler, &MessageHandler::SignalUpdateProgress, this, [&](const QString &progress) {
         if (progress == QLatin1String("100%"))
-            received = readFile(downloads + QStringLiteral("/outfile.txt"));
+            received = UpdateFiles::Read(downloads + QStringLiteral("/outfile.txt"));
     }, Qt::QueuedConnection);
     QSignalSpy usb(&handler, &MessageHandler::SignalUSB);
     Communicator link(&handler, nullptr, lineStartingWith(QStringLiteral("slave: ")).mid(7));
@@ -153,12 +108,12 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
     QVERIFY2(faults.hasMatch(), qPrintable(finished));
     QVERIFY2(faults.captured(1).toInt() > 0 && faults.captured(2).toInt() > 0, qPrintable(finished));
 
-    QCOMPARE(readFile(downloads + QStringLiteral("/build/ovra-panel")), program);
-    QCOMPARE(readFile(downloads + QStringLiteral("/translations/ovra_de.qm")), translation);
+    QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/build/ovra-panel")), program);
+    QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/translations/ovra_de.qm")), translation);
     QCOMPARE(QDir(downloads).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              (QStringList{"build", "decode_and_unzip_lin.py", "translations"}));
     QCOMPARE(QDir(root.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), (QStringList{"home", "outside"}));
-    QCOMPARE(snapshot(root.filePath(QStringLiteral("outside"))), outsideHome);
+    QCOMPARE(UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside"))), outsideHome);
     // The line is served as before.
     QVERIFY(!handler.IsUpdateActive());
 
