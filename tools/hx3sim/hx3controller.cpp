@@ -301,13 +301,12 @@ void Hx3Controller::onIncomingFrame(const QByteArray &content)
         emit message(QStringLiteral("request: ") + QString::fromUtf8(field));
         handleRequest(field);
     }
-    if (m_inFlight.kind == Kind::Update) {
-        if (answer.nack)
-            emit message(QStringLiteral("update: refused by the panel"));
-        else
-            startStreaming();
+    if (m_inFlight.kind == Kind::Update && !answer.nack) {
+        startStreaming();
         return;
     }
+    if (m_inFlight.kind == Kind::Update)
+        emit message(QStringLiteral("update: refused by the panel"));
     sendNext();
 }
 
