@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace ovra {
@@ -104,6 +105,11 @@ void MessageHandler::HandleUpdate(QString &block)
         ApplyFileData(block, data, number, size, valid);
     } else if (!IsBlockExpected(number)) {
         m_storedBlocks.append(block);
+    } else if (std::any_of(m_expectedBlocks.cbegin(), m_expectedBlocks.cend(),
+                           [number](int missing) { return missing < number; })) {
+        // An earlier block asked for is still missing (it came damaged again): this one
+        // waits, or it would be written before it.
+        m_storedBlocks.append(block);
     } else if (ApplyFileData(block, data, number, size, valid) && m_expectedBlocks.isEmpty()) {
         BulkApplyStoredBlocks();
     }
@@ -161,10 +167,14 @@ void MessageHandler::ResendUpdateBlock(int number)
 
 void MessageHandler::BulkApplyStoredBlocks()
 {
-    // One pass over what is stored now: a block that has to wait again is stored anew and
-    // stays for the next closed gap instead of spinning here.
-    const QStringList stored = std::exchange(m_storedBlocks, QStringList());
-    for (const QString &block : stored) {
+    // One pass over what is stored now, in block order (blocks asked for more than once may
+    // have arrived in another); a block that has to wait again is stored anew and stays for
+    // the next closed gap instead of spinning here.
+    QStringList stored = std::exchange(m_storedBlocks, QStringList());
+    std::stable_sort(stored.begin(), stored.end(), [this](const QString &a, const QString &b) {
+        return a.leftRef(m_blockNumberWidth).toInt() < b.leftRef(m_blockNumberWidth).toInt();
+    });
+    for (const QString &block : qAsConst(stored)) {
         if (!m_updateActive)
             break;
         QByteArray data;

@@ -177,14 +177,22 @@ void TestUpdateReception::damagedBlocksAreAskedForAgain()
 void TestUpdateReception::damagedBlockFromTheStoreHoldsLaterBlocksBack()
 {
     Receiver r;
-    r.command("update==4");
+    r.command("update==7");
     r.send(block(0));
     QCOMPARE(r.send(damaged(2)), QStringList{"resend==1"});   // 1 lost, 2 kept as it came
     QCOMPARE(r.send(block(1)), QStringList{"resend==2"});     // 2 turns out damaged
     QCOMPARE(r.send(block(3)), QStringList());                // must not overtake 2
     QCOMPARE(r.written(), Receiver::expected({0, 1}));
-    QCOMPARE(r.send(block(2)), closing);
+    QCOMPARE(r.send(block(2)), QStringList());
     QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3}));
+
+    // Two asked for, the first damaged again: the second waits for it.
+    QCOMPARE(r.send(block(6)), (QStringList{"resend==4", "resend==5"}));
+    QCOMPARE(r.send(damaged(4)), QStringList{"resend==4"});
+    QCOMPARE(r.send(block(5)), QStringList());
+    QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3}));
+    QCOMPARE(r.send(block(4)), closing);
+    QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3, 4, 5, 6}));
 }
 
 void TestUpdateReception::repeatedBlockIsWrittenAgain()
