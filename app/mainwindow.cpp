@@ -126,7 +126,7 @@ void MainWindow::CreateComponents()
     m_popupQRCode = new Popups::PopupQRCode(this);
     m_popupArgonFailure = new Popups::PopupArgonFailure(this);
     m_programHandler = new ProgramHandler::ProgramHandler();
-    m_messageHandler = new MessageHandler();
+    m_messageHandler = new MessageHandler(m_paths);
     m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port);
     m_internalCommunicator = new Communication::InternalCommunicator(nullptr, m_options.keyPort);
     m_popupDeleteProgram = new Popups::PopupDeleteProgram(this);

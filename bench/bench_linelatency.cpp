@@ -44,7 +44,7 @@ int main(int argc, char *argv[])
     }
     fcntl(master, F_SETFL, fcntl(master, F_GETFL) | O_NONBLOCK);
 
-    MessageHandler handler;
+    MessageHandler handler(ovra::GlobalElements::Paths(QStringLiteral("/nonexistent/ovra-home")));
     Communicator communicator(&handler, nullptr, QString::fromLocal8Bit(name));
     auto *port = communicator.findChild<QSerialPort *>();
 

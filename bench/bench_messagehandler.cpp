@@ -24,7 +24,7 @@ QByteArray heatfileBody()
 
 void handleFrame(benchmark::State &state, const QByteArray &body)
 {
-    MessageHandler handler;
+    MessageHandler handler(ovra::GlobalElements::Paths(QStringLiteral("/nonexistent/ovra-home")));
     QObject::connect(&handler, &MessageHandler::SignalHeatfileReceived, &handler,
                      [](ovra::GlobalElements::Program *p) { delete p; });
     const QString frame = QString::fromLatin1(Frame::Build(body));

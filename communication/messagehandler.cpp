@@ -9,7 +9,8 @@ namespace Communication {
 
 using GlobalElements::Pageinterface;
 
-MessageHandler::MessageHandler(QObject *parent) : QObject(parent)
+MessageHandler::MessageHandler(const GlobalElements::Paths &paths, QObject *parent)
+    : QObject(parent), m_paths(paths)
 {
     qRegisterMetaType<Pageinterface::en_pages>("ovra::GlobalElements::Pageinterface::en_pages");
     qRegisterMetaType<GlobalElements::Program *>("ovra::GlobalElements::Program*");
@@ -64,6 +65,7 @@ MessageHandler::MessageHandler(QObject *parent) : QObject(parent)
         QStringLiteral("insulationmissing"), QStringLiteral("waitforuserinteraction"),
         QStringLiteral("initialstart"),
     };
+    SetUpUpdateReception();
 }
 
 QByteArray MessageHandler::HandleMessage(QString message)

@@ -1,12 +1,19 @@
 #pragma once
 
 #include "app/pageinterface.h"
+#include "app/paths.h"
 #include "programs/program.h"
 
 #include <QByteArray>
 #include <QObject>
+#include <QProcess>
+#include <QSet>
 #include <QString>
 #include <QStringList>
+
+class QDataStream;
+class QFile;
+class QTimer;
 
 namespace ovra {
 namespace Communication {
@@ -19,7 +26,9 @@ class MessageHandler : public QObject
     Q_OBJECT
 
 public:
-    explicit MessageHandler(QObject *parent = nullptr);
+    // `paths` places the update file and the unpacking script under the panel's home.
+    explicit MessageHandler(const GlobalElements::Paths &paths, QObject *parent = nullptr);
+    ~MessageHandler() override;
 
     // One received frame as text (delimiters may still be in it). Returns the answer frame,
     // or an empty array when nothing is to be written.
@@ -36,8 +45,19 @@ public:
     // with SignalHeatfileReceived.
     void HandleRecvHeatfile(const QString &payload);
 
+    // Update reception. The delay before the unpacking script starts (the furnace: 2000 ms)
+    // and the interpreters tried for it are settable so that tests need not wait or rely on
+    // the machine's "python".
+    static constexpr int defaultUnpackDelayMs = 2000;
+    void SetUnpackDelayMs(int ms);
+    void SetUnpackInterpreters(const QStringList &programs);
+    void GetReceivingFileBlocks() {}
+
 public slots:
     void SetRequest(const QString &request);
+    void SlotStartUpdate();
+    void Slot_UpdateProcess_Output();
+    void Slot_UpdateProcess_Error();
 
 signals:
     void SignalOvenConnected(ovra::GlobalElements::Pageinterface::en_pages page);
@@ -131,13 +151,42 @@ private:
     static void CleanMatrix(QList<QList<unsigned int>> *matrix);
 
     // Update reception: frames go to HandleUpdate() while it is active.
-    void InitializeUpdater(const QString &blockCount);
+    void SetUpUpdateReception();
+    void InitializeUpdater(QString blockCount);
     void HandleUpdate(QString &block);
+    bool DecodeDataBlocks(const QString &block, QByteArray &data, int &number);
+    bool IsBlockExpected(int number);
+    bool ApplyFileData(const QString &block, QByteArray &data, int number, int size, bool valid);
+    void ResendUpdateBlock(int number);
+    void BulkApplyStoredBlocks();
+    void CloseUpdater();
+    void StartUnpackInterpreter();
+    void OnUnpackProcessError(QProcess::ProcessError error);
+    void OnUnpackProcessFinished(int exitCode, QProcess::ExitStatus status);
 
     QList<Command> m_commands;           // in matching order
     QStringList m_commandsWithoutParameter;
     QStringList m_requests;
+    const GlobalElements::Paths m_paths;
+
     bool m_updateActive = false;
+    bool m_resendMode = false;
+    int m_blockNumberWidth = 6;
+    int m_lengthWidth = 3;
+    int m_totalBlocks = 0;
+    // Not reset by a new update: a second update in the same run continues from these.
+    int m_appliedBlocks = 0;
+    int m_highestBlock = -1;
+    QString m_lastProgress;
+    QStringList m_storedBlocks;    // raw texts of blocks that came ahead of a gap
+    QSet<int> m_expectedBlocks;    // asked for again, not yet received
+    QDataStream *m_outputStream = nullptr;
+    QFile *m_outputFile = nullptr;
+    QProcess *m_unpackProcess;
+    QTimer *m_unpackTimer;
+    QStringList m_unpackInterpreters;
+    int m_unpackInterpreter = 0;   // index of the one being tried
+    QByteArray m_unpackOutput;
     int m_heatfileSection = -1;
     // Rows the segment matrix grows by in one step while a heatfile is read.
     const int m_segmentCapacity = 10;

@@ -14,7 +14,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static bool once = [] { qInstallMessageHandler(quiet); return true; }();
     (void)once;
-    static ovra::Communication::MessageHandler handler;
+    // "update==N" may switch to block reception: a home that does not exist keeps the
+    // update file from being written anywhere.
+    static ovra::Communication::MessageHandler handler(
+        ovra::GlobalElements::Paths(QStringLiteral("/nonexistent/ovra-home")));
     static const bool store = [] {
         QObject::connect(&handler, &ovra::Communication::MessageHandler::SignalHeatfileReceived,
                          &handler, [](ovra::GlobalElements::Program *p) { delete p; });

@@ -152,7 +152,7 @@ void TestCommunicator::init()
     m_received.clear();
     m_pty.reset(new Pty);
     QVERIFY(m_pty->isValid());
-    m_handler.reset(new MessageHandler);
+    m_handler.reset(new MessageHandler(ovra::GlobalElements::Paths(QStringLiteral("/nonexistent/ovra-home"))));
     m_communicator.reset(new Communicator(m_handler.data(), nullptr, m_pty->slavePath()));
     QVERIFY(m_communicator->IsPortOpen());
     QCOMPARE(countLog(QStringLiteral("serial port open!!")), 1);

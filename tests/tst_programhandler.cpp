@@ -92,7 +92,7 @@ void TestProgramHandler::roundTripOverGeneratedPrograms()
 {
     // Whatever the editor can store reads back into an equal record.
     QRandomGenerator random(4711);
-    MessageHandler reader;
+    MessageHandler reader(ovra::GlobalElements::Paths(QStringLiteral("/nonexistent/ovra-home")));
     QList<Program *> received;
     connect(&reader, &MessageHandler::SignalHeatfileReceived, this, [&received](Program *p) { received << p; });
     const QString alphabet = QStringLiteral("abcdefghijklmnopqrstuvwxyzÄÖÜäöüß ABC-_0123456789");

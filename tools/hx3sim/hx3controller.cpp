@@ -55,7 +55,14 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     connect(&m_statusTimer, &QTimer::timeout, this, &Hx3Controller::onStatusTick);
 
     connect(m_line, &PtyLine::bytesReceived, this, &Hx3Controller::onBytesReceived);
-    connect(m_line, &PtyLine::frameWritten, this, [this] { m_inFlightComplete = true; });
+    connect(m_line, &PtyLine::frameWritten, this, [this] {
+        m_inFlightComplete = true;
+        if (m_update.streaming && m_update.inFlight >= 0) {
+            m_update.inFlight = -1;
+            m_update.draining = true;
+            scheduleNextBlock();
+        }
+    });
     connect(m_line, &PtyLine::lineError, this, [this](const QString &text) { emit message(QStringLiteral("line error: ") + text); });
 
     // What the panel may ask for in its answers; a new request is one more entry here.
@@ -99,6 +106,13 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_commandHandlers.insert(QStringLiteral("temp"), &Hx3Controller::commandTemp);
     m_commandHandlers.insert(QStringLiteral("lang"), &Hx3Controller::commandLanguage);
     m_commandHandlers.insert(QStringLiteral("unit"), &Hx3Controller::commandUnit);
+    m_commandHandlers.insert(QStringLiteral("update"), &Hx3Controller::commandUpdate);
+
+    m_update.pace.setSingleShot(true);
+    m_update.pace.setTimerType(Qt::PreciseTimer);
+    connect(&m_update.pace, &QTimer::timeout, this, &Hx3Controller::onUpdatePace);
+    m_update.tail.setSingleShot(true);
+    connect(&m_update.tail, &QTimer::timeout, this, &Hx3Controller::onUpdateTail);
 
     m_selfTest.failingRow = m_options.selftestFailRow;
     m_selfTest.stepTimer.setInterval(m_options.stepMs);
@@ -200,7 +214,7 @@ void Hx3Controller::enqueue(const QList<Outgoing> &frames)
 
 void Hx3Controller::sendNext()
 {
-    if (m_awaitingAnswer || m_phase != Phase::Connected || m_queue.isEmpty())
+    if (m_update.streaming || m_awaitingAnswer || m_phase != Phase::Connected || m_queue.isEmpty())
         return;
     transmit(m_queue.takeFirst());
 }
@@ -243,6 +257,10 @@ void Hx3Controller::onIncomingFrame(const QByteArray &content)
     const QString raw = simframe::printable(simframe::kStx + content + simframe::kEtx);
     if (m_options.verbose)
         emit message(QStringLiteral("rx: ") + raw);
+    if (m_update.streaming) {
+        onUpdateAnswer(content);
+        return;
+    }
 
     // The panel cannot have dispatched a frame whose end byte is not out yet, so anything
     // arriving before that is a late answer to an earlier frame.
@@ -287,6 +305,12 @@ void Hx3Controller::onIncomingFrame(const QByteArray &content)
         emit message(QStringLiteral("request: ") + QString::fromUtf8(field));
         handleRequest(field);
     }
+    if (m_inFlight.kind == Kind::Update && !answer.nack) {
+        startStreaming();
+        return;
+    }
+    if (m_inFlight.kind == Kind::Update)
+        emit message(QStringLiteral("update: refused by the panel"));
     sendNext();
 }
 

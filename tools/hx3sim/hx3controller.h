@@ -4,6 +4,7 @@
 #include "furnacemodel.h"
 #include "programstore.h"
 #include "sampleprograms.h"
+#include "updatesender.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -58,6 +59,11 @@ public:
         // update from it takes.
         bool usbStick = false;
         int usbMs = 1500;
+        // Updates ("update FILE"): block size, faults on the line, and the line's speed that
+        // paces the blocks (0: as fast as the panel reads).
+        int updateBlockBytes = 512;
+        UpdateSender::Faults updateFaults;
+        int updateBaud = 115200;
     };
 
     struct Counters
@@ -91,7 +97,7 @@ signals:
 
 private:
     enum class Phase { WaitingForPanel, Connected };
-    enum class Kind { Startup, Heatfile, Status, SelfTest, Operator, Event };
+    enum class Kind { Startup, Heatfile, Status, SelfTest, Operator, Event, Update };
     enum class DoorState { Closed, Opening, Open, Closing };
     enum class Outcome { Done, Stopped, Failed };
 
@@ -169,6 +175,16 @@ private:
     void answerUsbUpdate(const QString &what);
     void commandUsb(const QString &arguments);
     void commandPin(const QString &arguments);
+    // Update streaming (hx3controller_update.cpp): after the panel's ack to "update==N" every
+    // frame is a block and the panel only answers to ask for blocks again or to end.
+    void commandUpdate(const QString &arguments);
+    void startStreaming();
+    void sendNextBlock();
+    void scheduleNextBlock(int minimumMs = 0);
+    void onUpdatePace();
+    void onUpdateAnswer(const QByteArray &content);
+    void onUpdateTail();
+    void finishUpdate(const QString &how);
 
     // Furnace time: the system time at construction moved on by the furnace's own time, so
     // that with --speed the clock, the end estimate and delayed starts keep pace with firings.
@@ -270,6 +286,20 @@ private:
         QByteArray answer = "done";
     } m_usb;
     QByteArray m_pin;
+    struct Update
+    {
+        UpdateSender sender;
+        bool streaming = false;
+        int inFlight = -1;          // block whose end byte is not out yet
+        int frameBytes = 0;
+        QElapsedTimer frameClock;   // since the present block began
+        QElapsedTimer clock;        // since the update began
+        QTimer pace;                // the line's own speed between blocks
+        bool draining = false;      // waiting for the panel to read the end byte
+        QTimer tail;                // quiet after the last block without the panel's end
+        int tailRetries = 0;
+        int lastDecile = 0;
+    } m_update;
 
     QHash<QByteArray, RequestHandler> m_requestHandlers;
     QHash<QString, CommandHandler> m_commandHandlers;

@@ -9,6 +9,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QTimer>
 
 #include <csignal>
@@ -97,9 +98,28 @@ int main(int argc, char *argv[])
     const QCommandLineOption usbOption(QStringLiteral("usb"), QStringLiteral("A stick is in the USB socket at start-up."));
     const QCommandLineOption usbMsOption(QStringLiteral("usb-ms"), QStringLiteral("Milliseconds a firmware or configuration update from the stick takes."),
                                          QStringLiteral("ms"), QStringLiteral("1500"));
+    const QCommandLineOption updateOption(QStringLiteral("update"),
+                                          QStringLiteral("Once the panel is up, send <file> as a panel update, block by block."),
+                                          QStringLiteral("file"));
+    const QCommandLineOption updateBlockOption(QStringLiteral("update-block"), QStringLiteral("Data bytes per update block (1-999)."),
+                                               QStringLiteral("bytes"), QStringLiteral("512"));
+    const QCommandLineOption updateDropOption(QStringLiteral("update-drop"), QStringLiteral("Percent of update blocks lost on the line."),
+                                              QStringLiteral("pct"), QStringLiteral("0"));
+    const QCommandLineOption updateCorruptOption(QStringLiteral("update-corrupt"),
+                                                 QStringLiteral("Percent of update blocks arriving with damaged data."),
+                                                 QStringLiteral("pct"), QStringLiteral("0"));
+    const QCommandLineOption updateReorderOption(QStringLiteral("update-reorder"),
+                                                 QStringLiteral("Percent of update blocks sent after their successor."),
+                                                 QStringLiteral("pct"), QStringLiteral("0"));
+    const QCommandLineOption updateSeedOption(QStringLiteral("update-seed"), QStringLiteral("Seed of the faults above; a seed repeats a run."),
+                                              QStringLiteral("n"), QStringLiteral("1"));
+    const QCommandLineOption updateBaudOption(QStringLiteral("update-baud"),
+                                              QStringLiteral("Line speed the blocks are paced at; 0: as fast as the panel reads."),
+                                              QStringLiteral("baud"), QStringLiteral("115200"));
     parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, langOption, runForOption, stepOption, selftestFailOption,
                        commissioningOption, programsOption, manyOption, speedOption, doorOption, argonOption,
-                       pinOption, usbOption, usbMsOption});
+                       pinOption, usbOption, usbMsOption, updateOption, updateBlockOption, updateDropOption,
+                       updateCorruptOption, updateReorderOption, updateSeedOption, updateBaudOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -157,6 +177,27 @@ int main(int argc, char *argv[])
     options.doorMs = parser.value(doorOption).toInt(&ok);
     if (!ok || options.doorMs < 0 || options.doorMs > kMaxDoorMs)
         return usageError(QStringLiteral("--door-ms needs 0 to %1 milliseconds, not \"%2\"").arg(kMaxDoorMs).arg(parser.value(doorOption)));
+
+    options.updateBlockBytes = parser.value(updateBlockOption).toInt(&ok);
+    if (!ok || options.updateBlockBytes < 1 || options.updateBlockBytes > UpdateSender::maxBlockBytes)
+        return usageError(QStringLiteral("--update-block needs 1 to %1 bytes, not \"%2\"").arg(UpdateSender::maxBlockBytes).arg(parser.value(updateBlockOption)));
+    const QList<std::pair<const QCommandLineOption *, double *>> percents = {
+        {&updateDropOption, &options.updateFaults.dropPercent},
+        {&updateCorruptOption, &options.updateFaults.corruptPercent},
+        {&updateReorderOption, &options.updateFaults.reorderPercent}};
+    for (const auto &[option, value] : percents) {
+        *value = parser.value(*option).toDouble(&ok);
+        if (!ok || *value < 0.0 || *value > 50.0)
+            return usageError(QStringLiteral("--%1 needs a percentage from 0 to 50, not \"%2\"").arg(option->names().first(), parser.value(*option)));
+    }
+    options.updateFaults.seed = parser.value(updateSeedOption).toUInt(&ok);
+    if (!ok)
+        return usageError(QStringLiteral("--update-seed needs a whole number, not \"%1\"").arg(parser.value(updateSeedOption)));
+    options.updateBaud = parser.value(updateBaudOption).toInt(&ok);
+    if (!ok || options.updateBaud < 0)
+        return usageError(QStringLiteral("--update-baud needs 0 or a line speed, not \"%1\"").arg(parser.value(updateBaudOption)));
+    if (parser.isSet(updateOption) && !QFileInfo(parser.value(updateOption)).isReadable())
+        return usageError(QStringLiteral("--update: cannot read \"%1\"").arg(parser.value(updateOption)));
 
     // Said once the line is up, so that "slave:" stays the first line for whoever reads us.
     QStringList programNotes;
@@ -225,6 +266,9 @@ int main(int argc, char *argv[])
         QTimer::singleShot(runForMs, &app, [] { QCoreApplication::exit(0); });
 
     controller.start();
+    // Queued behind the start-up: it goes out once the panel is up.
+    if (parser.isSet(updateOption))
+        controller.handleCommand(QStringLiteral("update ") + parser.value(updateOption));
     app.exec();
 
     printLine(controller.summaryLine());

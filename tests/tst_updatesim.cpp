@@ -1,0 +1,125 @@
+// A whole panel update from the controller simulator over a pseudo-terminal, with blocks
+// lost, damaged and swapped on the way: the file arrives byte for byte, the panel's own
+// unpacking script installs it in a home of its own and reports "done".
+#include "communication/communicator.h"
+#include "communication/messagehandler.h"
+#include "updatefiles.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using ovra::Communication::Communicator;
+using ovra::Communication::MessageHandler;
+
+namespace {
+
+QByteArray noise(int size, quint32 seed)
+{
+    QByteArray data(size, Qt::Uninitialized);
+    for (int i = 0; i < size; ++i) {
+        seed = seed * 1664525u + 1013904223u;
+        data[i] = char(seed >> 24);
+    }
+    return data;
+}
+
+} // namespace
+
+class TestUpdateSim : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void updateSurvivesLostDamagedAndSwappedBlocks();
+};
+
+void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
+{
+    QVERIFY2(!UpdateFiles::Python().isEmpty(), "python3 is needed");
+    qputenv("OVRA_REBOOT_COMMAND", "true");
+
+    QTemporaryDir root;
+    QTemporaryDir controller; // the simulator's side: where the update comes from
+    const QString home = root.filePath(QStringLiteral("home"));
+    const QString downloads = home + QStringLiteral("/Downloads");
+    QVERIFY(UpdateFiles::MakeHome(home));
+    QVERIFY(UpdateFiles::Write(root.filePath(QStringLiteral("outside/keep.txt")), "not to be touched"));
+
+    // A few hundred kilobytes that do not compress, as a program does not much.
+    const QByteArray program = noise(260 * 1024, 7);
+    const QByteArray translation = noise(20 * 1024, 8);
+    const QString zip = controller.filePath(QStringLiteral("update.zip"));
+    QVERIFY(UpdateFiles::MakeZip(zip, {{"build/ovra-panel", program}, {"translations/ovra_de.qm", translation}}));
+    const QByteArray archive = UpdateFiles::Read(zip);
+    QVERIFY(archive.size() > 250 * 1024);
+    const auto outsideHome = UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside")));
+
+    QProcess sim;
+    sim.start(QStringLiteral(OVRA_HX3SIM_BINARY),
+              {QStringLiteral("--interval"), QStringLiteral("200"),
+               QStringLiteral("--update"), zip, QStringLiteral("--update-block"), QStringLiteral("960"),
+               QStringLiteral("--update-drop"), QStringLiteral("5"), QStringLiteral("--update-corrupt"), QStringLiteral("5"),
+               QStringLiteral("--update-reorder"), QStringLiteral("2"), QStringLiteral("--update-seed"), QStringLiteral("11"),
+               QStringLiteral("--update-baud"), QStringLiteral("0")});
+    QVERIFY(sim.waitForStarted());
+    QStringList printed;
+    // Read as it comes: a full pipe would stall the simulator.
+    connect(&sim, &QProcess::readyReadStandardOutput, this, [&] {
+        while (sim.canReadLine())
+            printed << QString::fromUtf8(sim.readLine()).trimmed();
+    });
+    auto lineStartingWith = [&](const QString &prefix) {
+        for (const QString &line : qAsConst(printed))
+            if (line.startsWith(prefix))
+                return line;
+        return QString();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(!lineStartingWith(QStringLiteral("slave: ")).isEmpty(), 5000);
+
+    MessageHandler handler{ovra::GlobalElements::Paths(home)};
+    handler.SetUnpackDelayMs(200);
+    handler.SetUnpackInterpreters({UpdateFiles::Python()});
+    QByteArray received;
+    // Queued: runs once the last block's frame is handled and the file closed, before the
+    // script takes the file away.
+    connect(&handler, &MessageHandler::SignalUpdateProgress, this, [&](const QString &progress) {
+        if (progress == QLatin1String("100%"))
+            received = UpdateFiles::Read(downloads + QStringLiteral("/outfile.txt"));
+    }, Qt::QueuedConnection);
+    QSignalSpy usb(&handler, &MessageHandler::SignalUSB);
+    Communicator link(&handler, nullptr, lineStartingWith(QStringLiteral("slave: ")).mid(7));
+    QVERIFY(link.IsPortOpen());
+
+    // A real event loop, as the panel runs: QTRY_* sleeps between its looks, long enough for
+    // a block's end byte to reach the port together with its body, which drops the block.
+    QVERIFY2(usb.wait(120000), qPrintable(printed.join(QLatin1Char('\n'))));
+    const QString finished = lineStartingWith(QStringLiteral("update: panel has the file"));
+    QVERIFY2(!finished.isEmpty(), qPrintable(printed.join(QLatin1Char('\n'))));
+    QVERIFY2(received == archive, qPrintable(finished));
+    QCOMPARE(usb.at(0).at(0).toString(), QStringLiteral("done"));
+
+    // The faults really happened.
+    const QRegularExpressionMatch faults =
+        QRegularExpression(QStringLiteral("(\\d+) lost, (\\d+) damaged, (\\d+) sent again")).match(finished);
+    QVERIFY2(faults.hasMatch(), qPrintable(finished));
+    QVERIFY2(faults.captured(1).toInt() > 0 && faults.captured(2).toInt() > 0, qPrintable(finished));
+
+    QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/build/ovra-panel")), program);
+    QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/translations/ovra_de.qm")), translation);
+    QCOMPARE(QDir(downloads).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             (QStringList{"build", "decode_and_unzip_lin.py", "translations"}));
+    QCOMPARE(QDir(root.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), (QStringList{"home", "outside"}));
+    QCOMPARE(UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside"))), outsideHome);
+    // The line is served as before.
+    QVERIFY(!handler.IsUpdateActive());
+
+    sim.write("quit\n");
+    QVERIFY(sim.waitForFinished(5000));
+}
+
+QTEST_GUILESS_MAIN(TestUpdateSim)
+#include "tst_updatesim.moc"
