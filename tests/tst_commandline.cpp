@@ -48,7 +48,7 @@ void TestCommandLine::optionsAreTaken()
 
     QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--version")}, options, text),
              CommandLine::Outcome::ExitSuccess);
-    QCOMPARE(text, QStringLiteral("R02E.1\n"));
+    QCOMPARE(text, QStringLiteral(OVRA_VERSION_TEXT "\n"));
     QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--help")}, options, text),
              CommandLine::Outcome::ExitSuccess);
     QVERIFY(text.contains(QStringLiteral("--key-port")));
@@ -102,7 +102,7 @@ void TestCommandLine::processExitCodes()
     process.start(panel, {QStringLiteral("--version")});
     QVERIFY(process.waitForFinished(10000));
     QCOMPARE(process.exitCode(), 0);
-    QCOMPARE(process.readAllStandardOutput(), QByteArray("R02E.1\n"));
+    QCOMPARE(process.readAllStandardOutput(), QByteArray(OVRA_VERSION_TEXT "\n"));
 
     process.start(panel, {QStringLiteral("--key-port"), QStringLiteral("many")});
     QVERIFY(process.waitForFinished(10000));

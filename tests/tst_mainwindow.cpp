@@ -89,7 +89,7 @@ void TestMainWindow::deviceDataStartsTheSelftest()
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("GERÄTEDATEN"));
     QVERIFY(m_window->IsSelftestPending());
     QCOMPARE(m_panel->Text("widget_Data1"), QStringLiteral("S1"));
-    QCOMPARE(m_panel->Text("widget_Data42"), QStringLiteral("1.2 / R02E.1"));
+    QCOMPARE(m_panel->Text("widget_Data42"), QStringLiteral("1.2 / " OVRA_VERSION_TEXT));
 
     // The injected delay stands for the furnace's 7000 ms.
     QTRY_COMPARE(m_window->CurrentPage(), Page::Selftest);

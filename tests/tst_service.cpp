@@ -185,7 +185,7 @@ void TestService::qrCodeScansToTheDeviceData()
     reader.start(zbarimg, {QStringLiteral("--raw"), QStringLiteral("-q"), png});
     QVERIFY(reader.waitForFinished(20000));
     QCOMPARE(QString::fromUtf8(reader.readAllStandardOutput()).trimmed(),
-             QStringLiteral("Model: Sinterofen S1\nSerial: SN-0042\nHW: HW 2.1\nSW: V 3.04 / R02E.1\n"
+             QStringLiteral("Model: Sinterofen S1\nSerial: SN-0042\nHW: HW 2.1\nSW: V 3.04 / " OVRA_VERSION_TEXT "\n"
                             "Hours: 1234\nFailures: E12,E123"));
 }
 
