@@ -60,7 +60,7 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
 
     PreparePageUnitSelect();
     PreparePageLanguageSelect();
-    ui->progressBar_selftest->setMaximum(75);
+    ui->progressBar_selftest->setMaximum(GlobalElements::SelftestProgress::maximum);
     ui->pushButton_USBProgress->setEnabled(false);
     ErrorHandling(); // no failures yet: their symbols and fields stay hidden
 

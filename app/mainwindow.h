@@ -4,6 +4,7 @@
 #include "app/pageinterface.h"
 #include "app/pagetables.h"
 #include "app/paths.h"
+#include "faults/selftestprogress.h"
 #include "process/firingrules.h"
 
 #include <QMainWindow>
@@ -307,9 +308,7 @@ private:
     PageOrigins m_origins;
 
     // Self-test rows counted since the page was entered.
-    bool m_doorCounted = false;
-    bool m_heaterCounted = false;
-    bool m_coolingCounted = false;
+    GlobalElements::SelftestProgress m_selftestProgress;
 };
 
 } // namespace Mainwindow

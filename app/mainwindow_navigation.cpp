@@ -15,28 +15,18 @@ using GlobalElements::Pageinterface;
 
 void MainWindow::Statemachine(Pageinterface::en_pages requested)
 {
-    Page page = requested;
     const int from = m_currentPage;
-
-    if (m_startupShown) {
-        // The start-up device data is shown once per run.
-        if (page == Page::DeviceData)
-            return;
-        if (page == Page::OvenReady && !m_initialStartup) {
-            page = Page::MainMenu;
-            ui->widget_temp->setVisible(true);
-        }
+    const PageTables::Redirect redirect =
+        PageTables::ResolveRequest(requested, m_currentPage, m_startupShown, m_initialStartup);
+    if (redirect.action == PageTables::Redirect::Action::Ignore)
+        return;
+    if (redirect.action == PageTables::Redirect::Action::EndCommissioning) {
+        m_initialStartup = false;
+        return;
     }
-    if (m_initialStartup && (page == Page::MainMenu || (page == Page::OvenReady && m_startupShown))) {
-        // The controller's "main menu" while the language page is shown ends commissioning
-        // and leaves the user where the commissioning begins.
-        if (m_currentPage == Page::LangSelect) {
-            m_initialStartup = false;
-            return;
-        }
+    Page page = redirect.page;
+    if (redirect.showTemperature)
         ui->widget_temp->setVisible(true);
-        page = Page::MainMenu;
-    }
 
     QString title;
     const char *titleSource = nullptr;

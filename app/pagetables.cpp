@@ -126,6 +126,31 @@ Page ForwardTarget(int shownPage)
     return forward[static_cast<std::size_t>(index)];
 }
 
+Redirect ResolveRequest(Page requested, Page current, bool startupShown, bool initialStartup)
+{
+    Redirect result;
+    result.page = requested;
+    if (startupShown) {
+        if (requested == Page::DeviceData) {
+            result.action = Redirect::Action::Ignore;
+            return result;
+        }
+        if (requested == Page::OvenReady && !initialStartup) {
+            result.page = Page::MainMenu;
+            result.showTemperature = true;
+        }
+    }
+    if (initialStartup && (requested == Page::MainMenu || (requested == Page::OvenReady && startupShown))) {
+        if (current == Page::LangSelect) {
+            result.action = Redirect::Action::EndCommissioning;
+            return result;
+        }
+        result.page = Page::MainMenu;
+        result.showTemperature = true;
+    }
+    return result;
+}
+
 bool RemembersPlayOrigin(int from)
 {
     return isOneOf(from, {Page::MyHitlist, Page::MyProgs, Page::FixProgs, Page::NewProg, Page::ServiceProgs});

@@ -31,6 +31,19 @@ Page BackTarget(int shownPage, const PageOrigins &origins);
 // Target of the forward button for the page the stack shows.
 Page ForwardTarget(int shownPage);
 
+// What a requested page becomes once the start-up is behind the panel: the start-up device
+// data is shown once per run; the controller's "oven ready" (26) means the main menu after the
+// start-up; during commissioning the main menu waits for the set-up pages, and the
+// controller's main menu while the language page is shown ends commissioning in place.
+struct Redirect
+{
+    enum class Action { Show, Ignore, EndCommissioning };
+    Action action = Action::Show;
+    Page page = Page::StartUp;
+    bool showTemperature = false; // the header's temperature comes with the main menu
+};
+Redirect ResolveRequest(Page requested, Page current, bool startupShown, bool initialStartup);
+
 // Whether `from` is remembered as the origin when `to` is entered.
 bool RemembersPlayOrigin(int from);
 bool RemembersEditorOrigin(Page to, int from);

@@ -29,7 +29,7 @@ void MainWindow::PreparePageSelftest()
 {
     for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling})
         row->SetIconResult(QStringLiteral("delete"));
-    m_doorCounted = m_heaterCounted = m_coolingCounted = false;
+    m_selftestProgress.Reset();
     ui->widget_redoSelftest->setVisible(false);
     ui->widget_exitSelftest->setVisible(false);
     ui->widget_backSelftest->setVisible(false);
@@ -47,21 +47,15 @@ void MainWindow::SetSelftestCaptions()
 
 void MainWindow::SlotIncreaseSelftestProgress(const QString &)
 {
-    // Each row counts once per page entry, whatever its result.
-    int add = 0;
+    using Row = GlobalElements::SelftestProgress::Row;
     const QObject *row = sender();
-    if (row == ui->widget_testHeatsystem && !m_heaterCounted) {
-        add += 25;
-        m_heaterCounted = true;
-    }
-    if (row == ui->widget_testCooling && !m_coolingCounted) {
-        add += 25;
-        m_coolingCounted = true;
-    }
-    if (row == ui->widget_testDoor && !m_doorCounted) {
-        add += 25;
-        m_doorCounted = true;
-    }
+    int add = 0;
+    if (row == ui->widget_testHeatsystem)
+        add = m_selftestProgress.Count(Row::Heater);
+    else if (row == ui->widget_testCooling)
+        add = m_selftestProgress.Count(Row::Cooling);
+    else if (row == ui->widget_testDoor)
+        add = m_selftestProgress.Count(Row::Door);
     ui->progressBar_selftest->setValue(ui->progressBar_selftest->value() + add);
 }
 

@@ -337,7 +337,7 @@ void MainWindow::SlotSetArgonOven(const QString &text)
         connect(m_messageHandler, &Communication::MessageHandler::SignalSelftestArgon, this,
                 &MainWindow::SlotArgonPressureFailure);
     }
-    ui->progressBar_selftest->setMaximum(75);
+    ui->progressBar_selftest->setMaximum(GlobalElements::SelftestProgress::maximum);
 }
 
 void MainWindow::SlotArgonPressureFailure(const QString &result)

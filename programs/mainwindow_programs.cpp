@@ -148,13 +148,12 @@ void MainWindow::PreparePageDisplayOptions()
 
 void MainWindow::AddFilterButtons(QVBoxLayout *layout, QList<Button *> &buttons, bool byManufacturer)
 {
-    for (const Program *program : qAsConst(*m_programHandler->GetProgramList())) {
-        const QString value = byManufacturer ? program->GetManufacturer() : program->GetMaterial();
-        bool known = false;
-        for (const Button *button : qAsConst(buttons))
-            known = known || GlobalElements::ProgramFilter::ButtonMatches(button->GetText(), value);
-        if (known)
-            continue;
+    QStringList shown;
+    for (const Button *button : qAsConst(buttons))
+        shown << button->GetText();
+    const QStringList values =
+        GlobalElements::ProgramFilter::NewButtonValues(*m_programHandler->GetProgramList(), byManufacturer, shown);
+    for (const QString &value : values) {
         auto *button = new Button();
         button->SetText(value);
         button->SetCheckable(true);
@@ -233,8 +232,7 @@ void MainWindow::CheckChangeInProcess(const QString &)
 
 void MainWindow::SlotCheckHeatfileCount(int count)
 {
-    // At most ten resends per run, whatever the controller keeps reporting.
-    if (count > m_programHandler->GetProgramList()->size() && m_hfresendCount < 10) {
+    if (ProgramHandler::ProgramHandler::NeedsResend(count, m_programHandler->GetProgramList()->size(), m_hfresendCount)) {
         m_messageHandler->SetRequest(Communication::Requests::ResendHeatfiles());
         ++m_hfresendCount;
     }

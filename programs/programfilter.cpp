@@ -2,6 +2,8 @@
 
 #include "programs/program.h"
 
+#include <algorithm>
+
 namespace ovra {
 namespace GlobalElements {
 namespace ProgramFilter {
@@ -23,6 +25,22 @@ bool ButtonMatches(const QString &buttonText, const QString &value)
 {
     QString text = buttonText;
     return text.remove(QLatin1Char(' ')) == value;
+}
+
+QStringList NewButtonValues(const QList<Program *> &programs, bool byManufacturer, const QStringList &buttonTexts)
+{
+    QStringList texts = buttonTexts;
+    QStringList values;
+    for (const Program *program : programs) {
+        const QString value = byManufacturer ? program->GetManufacturer() : program->GetMaterial();
+        const bool known = std::any_of(texts.cbegin(), texts.cend(),
+                                       [&value](const QString &text) { return ButtonMatches(text, value); });
+        if (known)
+            continue;
+        values << value;
+        texts << value;
+    }
+    return values;
 }
 
 } // namespace ProgramFilter

@@ -18,6 +18,10 @@ void Apply(QList<Program *> &programs, const QStringList &manufacturers, const Q
 // A filter button stands for a value when its text without spaces equals the value.
 bool ButtonMatches(const QString &buttonText, const QString &value);
 
+// The values of `programs` (manufacturers or materials) that need a button of their own,
+// in the programs' order: one per value, none for a value an existing button stands for.
+QStringList NewButtonValues(const QList<Program *> &programs, bool byManufacturer, const QStringList &buttonTexts);
+
 } // namespace ProgramFilter
 } // namespace GlobalElements
 } // namespace ovra

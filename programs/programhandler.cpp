@@ -8,6 +8,11 @@ namespace ProgramHandler {
 
 const QString ProgramHandler::userManufacturer = QStringLiteral("user");
 
+bool ProgramHandler::NeedsResend(int reportedCount, int heldCount, int resendsSoFar)
+{
+    return reportedCount > heldCount && resendsSoFar < 10;
+}
+
 bool ProgramHandler::IsUserProgram(const GlobalElements::Program *program)
 {
     return program != nullptr && program->GetManufacturer() == userManufacturer;

@@ -48,6 +48,9 @@ public:
     static const QString userManufacturer;
     // The user's own programs are the ones that may be changed, deleted and shown in full.
     static bool IsUserProgram(const GlobalElements::Program *program);
+    // The controller counts more programs than it handed over: ask again, ten times a run at
+    // most, whatever it keeps reporting.
+    static bool NeedsResend(int reportedCount, int heldCount, int resendsSoFar);
     static const QString serviceManufacturer;
 
 signals:
