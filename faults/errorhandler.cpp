@@ -1,5 +1,7 @@
 #include "faults/errorhandler.h"
 
+#include "faults/failureseverity.h"
+
 namespace ovra {
 namespace GlobalElements {
 
@@ -32,7 +34,7 @@ void ErrorHandler::ResetError(const QString &code)
 void ErrorHandler::DeleteErrorList()
 {
     for (int i = m_errorList.size() - 1; i >= 0; --i) {
-        if (m_errorList.at(i).size() >= 4)
+        if (FailureSeverity::UserMayDelete(m_errorList.at(i)))
             m_errorList.removeAt(i);
     }
     emit SignalErrorListChanged();

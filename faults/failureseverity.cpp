@@ -10,6 +10,11 @@ constexpr int medium = 4;
 constexpr int information = 5;
 } // namespace
 
+bool UserMayDelete(const QString &code)
+{
+    return code.size() > severe;
+}
+
 QString WorstIcon(const QStringList &codes)
 {
     int worst = 10;
