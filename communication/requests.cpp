@@ -27,6 +27,11 @@ QString DelayedStart(const QString &timer, const QString &programName, unsigned 
     return timer + QLatin1Char(',') + StartArguments(programName, preDryMinutes);
 }
 
+QString DelayedStartTime(const QString &yyyymmdd, const QString &hhmm)
+{
+    return WithArgument("timer", yyyymmdd + QLatin1Char(',') + hhmm);
+}
+
 QString CancelDelayedStart() { return WithArgument("timer", QString()); }
 QString Stop() { return QStringLiteral("hpstop"); }
 QString MoveDoor() { return QStringLiteral("movedoor"); }
@@ -55,6 +60,8 @@ QString Language(const QString &keyword) { return WithArgument("lang", keyword);
 QString Time(const QString &time) { return WithArgument("time", time); }
 QString Date(const QString &date) { return WithArgument("date", date); }
 QString FactoryReset() { return QStringLiteral("defaultsettings"); }
+QString FirmwareUpdateFromStick() { return QStringLiteral("fwupdate"); }
+QString ConfigUpdateFromStick() { return QStringLiteral("configupdate"); }
 
 } // namespace Requests
 } // namespace Communication

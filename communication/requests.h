@@ -13,6 +13,8 @@ QString GuiState(int page);             // "guistate==N": the page the user now 
 QString Start(const QString &programName, unsigned int preDryMinutes); // "hpstart==NAME,PRE"
 // A delayed start: the popup's "timer==YYYYMMDD,HHMM" with the program and pre-dry behind it.
 QString DelayedStart(const QString &timer, const QString &programName, unsigned int preDryMinutes);
+// The time the timer popup asks for, "timer==YYYYMMDD,HHMM"; the start adds the program.
+QString DelayedStartTime(const QString &yyyymmdd, const QString &hhmm);
 QString CancelDelayedStart();           // "timer==" with nothing behind it
 QString Stop();                         // "hpstop"
 QString MoveDoor();                     // "movedoor"
@@ -31,6 +33,8 @@ QString Language(const QString &keyword); // "lang==KEYWORD"
 QString Time(const QString &time);      // "time==HHMM"
 QString Date(const QString &date);      // "date==YYYYMMDD"
 QString FactoryReset();                 // "defaultsettings"
+QString FirmwareUpdateFromStick();      // "fwupdate": the controller updates from the stick
+QString ConfigUpdateFromStick();        // "configupdate"
 
 } // namespace Requests
 } // namespace Communication

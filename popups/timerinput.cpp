@@ -1,5 +1,6 @@
 #include "popups/timerinput.h"
 
+#include "communication/requests.h"
 #include "popups/datetimeentry.h"
 
 #include <QDate>
@@ -65,9 +66,9 @@ QString TwoDigits(int value)
 
 QString TimerRequestText(const TimerEntry &entry)
 {
-    return QStringLiteral("timer==") + QString::number(entry.year).rightJustified(4, QLatin1Char('0'))
-           + TwoDigits(entry.month) + TwoDigits(entry.day) + QLatin1Char(',') + TwoDigits(entry.hour)
-           + TwoDigits(entry.minute);
+    return Communication::Requests::DelayedStartTime(
+        QString::number(entry.year).rightJustified(4, QLatin1Char('0')) + TwoDigits(entry.month) + TwoDigits(entry.day),
+        TwoDigits(entry.hour) + TwoDigits(entry.minute));
 }
 
 } // namespace Popups

@@ -4,6 +4,7 @@
 #include "app/logutils.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
+#include "communication/requests.h"
 #include "faults/errorhandler.h"
 #include "popups/popupqrcode.h"
 #include "popups/popupusb.h"
@@ -128,8 +129,8 @@ void MainWindow::SlotUSBInProgress()
             FinishUsbAction(false, QStringLiteral("the controller reports no stick"));
             return;
         }
-        m_messageHandler->SetRequest(m_usbAction == UsbAction::Firmware ? QStringLiteral("fwupdate")
-                                                                         : QStringLiteral("configupdate"));
+        m_messageHandler->SetRequest(m_usbAction == UsbAction::Firmware ? Communication::Requests::FirmwareUpdateFromStick()
+                                                                         : Communication::Requests::ConfigUpdateFromStick());
         m_usbAnswerTimer->start();
         return;
     }
@@ -181,7 +182,7 @@ bool MainWindow::LoadProgramsFromStick(const QString &stick, QString *error)
             m_programHandler->Slot_SetProgramToFav(program);
         else
             m_programHandler->Slot_DeleteProgramFromFavoriteList(program);
-        m_messageHandler->SetRequest(QStringLiteral("heatfile==") + GlobalElements::HeatfileText::Write(*program));
+        m_messageHandler->SetRequest(Communication::Requests::NewProgram(GlobalElements::HeatfileText::Write(*program)));
     }
     qDebug() << "usb:" << loaded.size() << "programs loaded";
     return true;
