@@ -106,7 +106,7 @@ void TestService::startupScriptsGoIntoTheGivenHomeOnly()
         written << it.next();
     expected.sort();
     written.sort();
-    QVERIFY(expected.size() >= 3);
+    QCOMPARE(expected.size(), 4);
     QCOMPARE(written, expected);
     QVERIFY(QFileInfo(panel.Home() + QStringLiteral("/DispOn/dispOn.py")).isExecutable());
     for (int i = 0; i < device.size(); ++i)
