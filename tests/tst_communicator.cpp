@@ -130,6 +130,8 @@ private:
     // Writes one chunk and waits until the panel has read and handled it.
     void sendChunk(const QByteArray &chunk);
     QByteArray waitForAnswer();
+    // A good frame, its end byte alone as the controller sends it, is answered with "ack".
+    void answersAFrame();
 
     QScopedPointer<Pty> m_pty;
     QScopedPointer<MessageHandler> m_handler;
@@ -183,6 +185,14 @@ QByteArray TestCommunicator::waitForAnswer()
     const QByteArray answer = m_received.left(end + 1);
     m_received.remove(0, end + 1);
     return answer;
+}
+
+void TestCommunicator::answersAFrame()
+{
+    const QByteArray frame = Frame::Build("temp==1473");
+    sendChunk(frame.left(frame.size() - 1));
+    sendChunk(frame.right(1));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
 }
 
 void TestCommunicator::chunkAssembly_data()
@@ -239,10 +249,7 @@ void TestCommunicator::silentLineIsReset()
     QTRY_VERIFY_WITH_TIMEOUT(countLog(QStringLiteral("serial port reset successfull!!")) >= 1, 5000);
 
     // The reset line is usable at once.
-    const QByteArray frame = Frame::Build("temp==1473");
-    sendChunk(frame.left(frame.size() - 1));
-    sendChunk(frame.right(1));
-    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    answersAFrame();
 }
 
 void TestCommunicator::vanishedDeviceIsClosedAndReopened()
@@ -274,10 +281,7 @@ void TestCommunicator::vanishedDeviceIsClosedAndReopened()
     QTRY_VERIFY_WITH_TIMEOUT(m_communicator->IsPortOpen(), 5000);
     QVERIFY(countLog(QStringLiteral("serial port reset successfull!!")) >= 1);
 
-    const QByteArray frame = Frame::Build("temp==1473");
-    sendChunk(frame.left(frame.size() - 1));
-    sendChunk(frame.right(1));
-    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    answersAFrame();
 }
 
 void TestCommunicator::oversizedPartialFrameIsDropped()
@@ -292,10 +296,7 @@ void TestCommunicator::oversizedPartialFrameIsDropped()
     QVERIFY(m_pty->readAvailable().isEmpty());
     QCOMPARE(temperature.count(), 0);
 
-    const QByteArray frame = Frame::Build("temp==1473");
-    sendChunk(frame.left(frame.size() - 1));
-    sendChunk(frame.right(1));
-    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    answersAFrame();
     QCOMPARE(temperature.count(), 1);
 }
 
@@ -318,10 +319,7 @@ void TestCommunicator::noiseLeavesThePanelAnswering()
     m_received.clear();
 
     sendChunk(QByteArray(1, Frame::startByte)); // resynchronise
-    const QByteArray frame = Frame::Build("temp==1473");
-    sendChunk(frame.left(frame.size() - 1));
-    sendChunk(frame.right(1));
-    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    answersAFrame();
 }
 
 QTEST_GUILESS_MAIN(TestCommunicator)

@@ -312,8 +312,6 @@ void TestMessageHandler::heatfileEdgeCases_data()
         << Program::Matrix{{1u, 1000u, 1u}};
     QTest::newRow("temp 322 K raised to 50")
         << "[1];rate=1;temp=322;" << "default" << "user" << false << Program::Matrix{{1u, 50u, 0u}};
-    QTest::newRow("temp 323 K is 50")
-        << "[1];rate=1;temp=323;" << "default" << "user" << false << Program::Matrix{{1u, 50u, 0u}};
     QTest::newRow("temp 324 K is 51")
         << "[1];rate=1;temp=324;" << "default" << "user" << false << Program::Matrix{{1u, 51u, 0u}};
     QTest::newRow("temp below 273 K wraps")
