@@ -8,6 +8,7 @@
 #include "simframe.h"
 
 #include <QFile>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
@@ -176,7 +177,16 @@ public:
     }
 
     // Runs the event loop (the fake panel lives on it) until done() holds or time runs out.
-    static bool waitUntil(const std::function<bool()> &done) { return QTest::qWaitFor(done, 10000); }
+    // Not qWaitFor: it sleeps between its looks, long enough for a frame's body and end byte
+    // to pile up into one read, which the panel's reading rule drops.
+    static bool waitUntil(const std::function<bool()> &done)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (!done() && clock.elapsed() < 10000)
+            QTest::qWait(10);
+        return done();
+    }
 
     QStringList linesStartingWith(const QString &prefix) const
     {
