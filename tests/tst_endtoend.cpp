@@ -16,20 +16,15 @@ public:
     // Waits until a line matching `pattern` has been printed; returns it.
     QString waitFor(const QRegularExpression &pattern, int timeoutMs = 15000)
     {
-        QElapsedTimer timer;
-        timer.start();
-        for (;;) {
-            while (m_next < m_lines.size()) {
-                const QString line = m_lines.at(m_next++);
-                if (pattern.match(line).hasMatch())
-                    return line;
-            }
-            if (timer.elapsed() > timeoutMs || m_process->state() == QProcess::NotRunning)
-                return QString();
-            m_process->waitForReadyRead(100);
+        QString found;
+        (void)QTest::qWaitFor([&] {
             while (m_process->canReadLine())
                 m_lines << QString::fromUtf8(m_process->readLine()).trimmed();
-        }
+            for (; found.isEmpty() && m_next < m_lines.size(); ++m_next)
+                found = pattern.match(m_lines.at(m_next)).hasMatch() ? m_lines.at(m_next) : QString();
+            return !found.isEmpty() || m_process->state() == QProcess::NotRunning;
+        }, timeoutMs);
+        return found;
     }
 
     int count(const QRegularExpression &pattern) const

@@ -49,7 +49,6 @@ private slots:
     void writerExamples();
     void changeFlagIsUsedUpByOneWrite();
     void roundTripOverGeneratedPrograms();
-    void classesAndLookups();
     void savingATakenNameNeedsTheOverwriteQuestion();
     void receivedProgramReplacesInPlace();
     void favourites();
@@ -119,22 +118,6 @@ void TestProgramHandler::roundTripOverGeneratedPrograms()
         QCOMPARE(*back->GetMatrix(), *original.GetMatrix());
     }
     qDeleteAll(received);
-}
-
-void TestProgramHandler::classesAndLookups()
-{
-    ProgramHandler store;
-    QCOMPARE(store.GetProgramByName(QStringLiteral("none")), nullptr);
-    store.Slot_AddReceivedProgram(make(QStringLiteral("B")));
-    store.Slot_AddReceivedProgram(make(QStringLiteral("A")));
-    store.Slot_AddReceivedProgram(make(QStringLiteral("C"), QStringLiteral("DentaCeram")));
-    store.Slot_AddReceivedProgram(make(QStringLiteral("S"), QStringLiteral("service"), QStringLiteral("Argon")));
-    QCOMPARE(names(store.GetProgramListSortedByManufacturer(QStringLiteral("user"))),
-             (QStringList{QStringLiteral("B"), QStringLiteral("A")}));
-    QCOMPARE(names(store.GetFixProgramList()), QStringList{QStringLiteral("C")});
-    QCOMPARE(names(store.GetProgramListSortedByManufacturer(QStringLiteral("service"))), QStringList{QStringLiteral("S")});
-    QCOMPARE(names(store.GetProgramListSortedByMaterial(QStringLiteral("Argon"))), QStringList{QStringLiteral("S")});
-    QCOMPARE(store.GetProgramByName(QStringLiteral("C"))->GetManufacturer(), QStringLiteral("DentaCeram"));
 }
 
 void TestProgramHandler::savingATakenNameNeedsTheOverwriteQuestion()

@@ -32,11 +32,7 @@ QByteArray Answer(QTcpSocket &socket, const QByteArray &message)
 {
     socket.write(message);
     QByteArray answer;
-    QDeadlineTimer deadline(5000);
-    while (answer.size() < 3 && !deadline.hasExpired()) {
-        QTest::qWait(5);
-        answer += socket.readAll();
-    }
+    (void)QTest::qWaitFor([&] { return (answer += socket.readAll()).size() >= 3; }, 5000);
     return answer;
 }
 
