@@ -7,6 +7,7 @@
 #include "faults/failureseverity.h"
 #include "faults/popupfailure.h"
 #include "ui_mainwindow.h"
+#include "widgets/iconcache.h"
 
 namespace ovra {
 namespace Mainwindow {
@@ -109,8 +110,8 @@ void MainWindow::ErrorHandling()
         ui->widget_processErrorInfo->setEnabled(true);
         ui->widget_processErrorInfo->setVisible(true);
     }
-    ui->pushButton_info->setIcon(QIcon(icon));
-    ui->pushButton_infoMainMenu->setIcon(QIcon(icon));
+    ui->pushButton_info->setIcon(GlobalElements::IconCache::Get(icon));
+    ui->pushButton_infoMainMenu->setIcon(GlobalElements::IconCache::Get(icon));
     ui->widget_processError->setStyleSheet(icon.isEmpty() ? QString()
                                                           : QStringLiteral("background-image: url(%1);").arg(icon));
     ui->textEdit_test->setPlainText(list);

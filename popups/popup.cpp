@@ -1,6 +1,7 @@
 #include "popups/popup.h"
 
 #include "ui_popup.h"
+#include "widgets/iconcache.h"
 
 namespace ovra {
 namespace Popups {
@@ -11,6 +12,9 @@ Popup::Popup(QWidget *parent)
     , ui(new Ui::Popup)
 {
     ui->setupUi(this);
+    // Set here rather than in the form: the form would decode both photos at start-up.
+    ui->pushButton_ArgonPopup->setIcon(GlobalElements::IconCache::Get(QStringLiteral(":/Material/Argon.jpg")));
+    ui->pushButton_ZirkonPopup->setIcon(GlobalElements::IconCache::Get(QStringLiteral(":/Material/Zirkon.jpg")));
 }
 
 Popup::~Popup() = default;

@@ -7,6 +7,7 @@
 #include "programs/tablerow.h"
 #include "ui_newprogram.h"
 #include "widgets/iconbutton.h"
+#include "widgets/iconcache.h"
 #include "widgets/keyboard.h"
 
 #include <QEvent>
@@ -28,7 +29,7 @@ const QString gasMaterial = QStringLiteral("Argon");
 void SetKeyFace(QPushButton *key, const QString &iconPath, const QString &fallback)
 {
     if (QFile::exists(iconPath)) {
-        key->setIcon(QIcon(iconPath));
+        key->setIcon(GlobalElements::IconCache::Get(iconPath));
         key->setIconSize(QSize(40, 40));
         key->setText(QString());
     } else {

@@ -2,6 +2,7 @@
 
 #include "widgets/buttonkit.h"
 #include "widgets/captionfit.h"
+#include "widgets/iconcache.h"
 #include "widgets/widgetstyle.h"
 
 #include <QEvent>
@@ -40,7 +41,7 @@ QString Button::GetText() const
 void Button::SetIcon(const QString &resourcePath)
 {
     m_iconPath = resourcePath;
-    m_button->setIcon(resourcePath.isEmpty() ? QIcon() : QIcon(resourcePath));
+    m_button->setIcon(IconCache::Get(resourcePath));
     RefitCaption();
 }
 

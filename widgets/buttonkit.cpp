@@ -1,5 +1,7 @@
 #include "widgets/buttonkit.h"
 
+#include "widgets/iconcache.h"
+
 #include <QEvent>
 #include <QFile>
 #include <QIcon>
@@ -47,7 +49,7 @@ QRect ButtonKit::CaptionRoom(QPushButton *button)
 void ButtonKit::SetKeyFace(QAbstractButton *key, const QString &iconPath, const QString &fallback, int iconSide)
 {
     if (QFile::exists(iconPath)) {
-        key->setIcon(QIcon(iconPath));
+        key->setIcon(IconCache::Get(iconPath));
         key->setIconSize(QSize(iconSide, iconSide));
         key->setText(QString());
     } else {

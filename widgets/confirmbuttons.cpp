@@ -1,5 +1,7 @@
 #include "widgets/confirmbuttons.h"
 
+#include "widgets/iconcache.h"
+
 #include <QIcon>
 #include <QPushButton>
 #include <QVariant>
@@ -20,7 +22,7 @@ void ConfirmButtons::Setup(QPushButton *ok, QPushButton *cancel)
 
 void ConfirmButtons::SetupOne(QPushButton *button, const QString &iconPath, const char *role)
 {
-    const QIcon icon(iconPath);
+    const QIcon icon = IconCache::Get(iconPath);
     button->setText(QString());
     button->setIcon(icon);
     button->setIconSize(QSize(iconSide, iconSide));

@@ -1,6 +1,7 @@
 #include "widgets/displayelementicon.h"
 
 #include "widgets/elidedlabel.h"
+#include "widgets/iconcache.h"
 #include "widgets/widgetstyle.h"
 
 #include <QHBoxLayout>
@@ -78,7 +79,7 @@ void DisplayElementIcon::UpdatePixmap()
     }
     const int side = IconSideFor(height());
     m_icon->setFixedSize(side, side);
-    m_icon->setPixmap(QIcon(m_iconPath).pixmap(side, side));
+    m_icon->setPixmap(IconCache::Get(m_iconPath).pixmap(side, side));
 }
 
 } // namespace GlobalElements

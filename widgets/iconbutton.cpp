@@ -1,6 +1,7 @@
 #include "widgets/iconbutton.h"
 
 #include "widgets/buttonkit.h"
+#include "widgets/iconcache.h"
 
 #include <QIcon>
 #include <QToolButton>
@@ -23,7 +24,7 @@ Iconbutton::Iconbutton(QWidget *parent)
 void Iconbutton::SetIcon(const QString &resourcePath)
 {
     m_iconPath = resourcePath;
-    m_button->setIcon(resourcePath.isEmpty() ? QIcon() : QIcon(resourcePath));
+    m_button->setIcon(IconCache::Get(resourcePath));
 }
 
 void Iconbutton::SetText(const QString &text)

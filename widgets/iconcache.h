@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+namespace ovra::GlobalElements {
+
+// Every button of the kit asks here for its picture, so each resource file is decoded once
+// for the whole panel and its pixmaps are shared by all the buttons that show it: the
+// same few icons sit on dozens of pages, and decoding them per button cost start-up time
+// and memory on the board.
+class IconCache
+{
+public:
+    static QIcon Get(const QString &resourcePath);
+};
+
+} // namespace ovra::GlobalElements
