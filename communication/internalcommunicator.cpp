@@ -7,6 +7,15 @@
 namespace ovra {
 namespace Communication {
 
+KeyMessage InterpretKeyMessage(const QByteArray &message)
+{
+    if (message == "aus")
+        return {false, QByteArrayLiteral("ack")};
+    // Anything but "aus" switches on; only "ein" is acknowledged. The key script sends "an"
+    // and does not read the answer, so "nak" for it is expected.
+    return {true, message == "ein" ? QByteArrayLiteral("ack") : QByteArrayLiteral("nak")};
+}
+
 InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
     : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this))
 {
@@ -65,16 +74,13 @@ void InternalCommunicator::SlotHandleMessage()
         socket = m_socket;
     if (socket == nullptr)
         return;
-    const QByteArray message = socket->readAll();
-    if (message == "aus") {
-        socket->write("ack");
-        emit SignalReceivedTouchEvent(false);
-        return;
-    }
-    // Anything but "aus" switches on; only "ein" is acknowledged. The key script sends "an"
-    // and does not read the answer, so "nak" for it is expected.
-    emit SignalReceivedTouchEvent(true);
-    socket->write(message == "ein" ? "ack" : "nak");
+    const KeyMessage key = InterpretKeyMessage(socket->readAll());
+    // "aus" is acknowledged before the touch goes off, the others after it came on.
+    if (!key.enable)
+        socket->write(key.answer);
+    emit SignalReceivedTouchEvent(key.enable);
+    if (key.enable)
+        socket->write(key.answer);
 }
 
 void InternalCommunicator::SlotDestroyConnection()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 
 class QTcpServer;
@@ -7,6 +8,15 @@ class QTcpSocket;
 
 namespace ovra {
 namespace Communication {
+
+// What one message of the display-key script does: touch input on or off, and the answer
+// written back. Any bytes are a message.
+struct KeyMessage
+{
+    bool enable;
+    QByteArray answer;
+};
+KeyMessage InterpretKeyMessage(const QByteArray &message);
 
 // Local server for the display-key script: "aus" switches touch input off, anything else
 // switches it on. One client at a time. It listens on the loopback interface only (IPv4 and,
