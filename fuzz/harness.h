@@ -1,0 +1,28 @@
+#pragma once
+// What every fuzz target shares: no log output (the panel logs every rejected input, and a
+// run would spend its time writing those lines) and a frame handler that keeps the programs
+// it hands out, as the program store does, until the input is done.
+#include "communication/messagehandler.h"
+#include "programs/program.h"
+
+#include <QList>
+
+namespace fuzz {
+
+inline QByteArray Handle(const QString &text)
+{
+    static QList<ovra::GlobalElements::Program *> received;
+    static ovra::Communication::MessageHandler *handler = [] {
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        auto *h = new ovra::Communication::MessageHandler;
+        QObject::connect(h, &ovra::Communication::MessageHandler::SignalHeatfileReceived, h,
+                         [](ovra::GlobalElements::Program *p) { received << p; });
+        return h;
+    }();
+    const QByteArray answer = handler->HandleMessage(text);
+    qDeleteAll(received);
+    received.clear();
+    return answer;
+}
+
+} // namespace fuzz
