@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace ovra {
 namespace Communication {
@@ -17,8 +18,20 @@ KeyMessage InterpretKeyMessage(const QByteArray &message)
 }
 
 InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
-    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this))
+    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this)),
+      m_idleTimer(new QTimer(this))
 {
+    m_idleTimer->setSingleShot(true);
+    m_idleTimer->setInterval(defaultIdleTimeoutMs);
+    connect(m_idleTimer, &QTimer::timeout, this, [this] {
+        if (m_socket == nullptr)
+            return;
+        qDebug() << "display-key client silent for" << m_idleTimer->interval() << "ms: dropped";
+        m_socket->abort();
+        // Whatever state the dropped client left, the key must get through again.
+        m_server->resumeAccepting();
+        m_server6->resumeAccepting();
+    });
     connect(m_server, &QTcpServer::newConnection, this, &InternalCommunicator::SlotNewConnection);
     connect(m_server6, &QTcpServer::newConnection, this, &InternalCommunicator::SlotNewConnection);
     if (m_server->listen(QHostAddress::LocalHost, port))
@@ -30,6 +43,11 @@ InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
     const quint16 port6 = m_server->isListening() ? m_server->serverPort() : port;
     if (!m_server6->listen(QHostAddress::LocalHostIPv6, port6))
         qDebug() << "display-key server: no IPv6 loopback:" << m_server6->errorString();
+}
+
+void InternalCommunicator::SetIdleTimeoutMs(int ms)
+{
+    m_idleTimer->setInterval(ms);
 }
 
 bool InternalCommunicator::IsListeningIPv6() const
@@ -65,6 +83,10 @@ void InternalCommunicator::SlotNewConnection()
     m_server6->pauseAccepting();
     connect(m_socket, &QTcpSocket::readyRead, this, &InternalCommunicator::SlotHandleMessage);
     connect(m_socket, &QTcpSocket::disconnected, this, &InternalCommunicator::SlotDestroyConnection);
+    m_idleTimer->start();
+    // What a client sent before it was taken from the pending list raised no readyRead here.
+    if (m_socket->bytesAvailable() > 0)
+        QTimer::singleShot(0, this, &InternalCommunicator::SlotHandleMessage);
 }
 
 void InternalCommunicator::SlotHandleMessage()
@@ -74,6 +96,7 @@ void InternalCommunicator::SlotHandleMessage()
         socket = m_socket;
     if (socket == nullptr)
         return;
+    m_idleTimer->start();
     const KeyMessage key = InterpretKeyMessage(socket->readAll());
     // "aus" is acknowledged before the touch goes off, the others after it came on.
     if (!key.enable)
@@ -85,6 +108,7 @@ void InternalCommunicator::SlotHandleMessage()
 
 void InternalCommunicator::SlotDestroyConnection()
 {
+    m_idleTimer->stop();
     m_server->resumeAccepting();
     m_server6->resumeAccepting();
     qDebug() << "connection terminated";

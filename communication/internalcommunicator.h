@@ -5,6 +5,7 @@
 
 class QTcpServer;
 class QTcpSocket;
+class QTimer;
 
 namespace ovra {
 namespace Communication {
@@ -27,6 +28,9 @@ class InternalCommunicator : public QObject
 
 public:
     static constexpr quint16 defaultPort = 6666;
+    // The key script sends within about a second of connecting. A client silent for this long
+    // would hold the one place and lock the key out, so it is dropped.
+    static constexpr int defaultIdleTimeoutMs = 10000;
 
     explicit InternalCommunicator(QObject *parent = nullptr, quint16 port = defaultPort);
 
@@ -34,6 +38,7 @@ public:
     bool IsListening() const;
     bool IsListeningIPv6() const;
     quint16 Port() const;
+    void SetIdleTimeoutMs(int ms);
 
 signals:
     void SignalReceivedTouchEvent(bool enable);
@@ -47,6 +52,7 @@ private:
     QTcpServer *m_server;
     QTcpServer *m_server6;
     QTcpSocket *m_socket = nullptr;
+    QTimer *m_idleTimer;
 };
 
 } // namespace Communication
