@@ -48,12 +48,16 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
                                                                 "(default 7000)."),
                                                  QStringLiteral("ms"),
                                                  QString::number(options.selftestDelayMs));
+    const QCommandLineOption lineWatchdogOption(QStringLiteral("line-watchdog-ms"),
+                                                QStringLiteral("Silence after which the serial line is "
+                                                               "closed and reopened (default 20000)."),
+                                                QStringLiteral("ms"), QString::number(options.lineWatchdogMs));
     const QCommandLineOption usbDirOption(QStringLiteral("usb-dir"),
                                           QStringLiteral("Folder that stands for the USB stick "
                                                          "(default: the mounted stick)."),
                                           QStringLiteral("dir"));
     parser.addOptions({helpOption, versionOption, portOption, homeOption, keyPortOption, quitOption,
-                       selftestDelayOption, usbDirOption});
+                       selftestDelayOption, usbDirOption, lineWatchdogOption});
 
     if (!parser.parse(arguments)) {
         output = parser.errorText() + QStringLiteral("\nTry --help.\n");
@@ -89,6 +93,13 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
                      .arg(delayText);
         return Outcome::ExitUsageError;
     }
+    const QString watchdogText = parser.value(lineWatchdogOption);
+    const int lineWatchdog = watchdogText.toInt(&ok);
+    if (!ok || lineWatchdog <= 0) {
+        output = QStringLiteral("Invalid --line-watchdog-ms '%1': expected milliseconds.\n")
+                     .arg(watchdogText);
+        return Outcome::ExitUsageError;
+    }
     const QString port = parser.value(portOption);
     const QString home = parser.value(homeOption);
     if (port.isEmpty() || home.isEmpty()) {
@@ -101,6 +112,7 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     options.keyPort = static_cast<quint16>(keyPort);
     options.quitAfterStart = parser.isSet(quitOption);
     options.selftestDelayMs = selftestDelay;
+    options.lineWatchdogMs = lineWatchdog;
     options.usbDir = parser.value(usbDirOption);
     return Outcome::Run;
 }

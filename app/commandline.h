@@ -17,6 +17,8 @@ struct PanelOptions
     bool quitAfterStart = false;
     // Development aid: wait before the automatic self-test (the furnace waits 7000 ms).
     int selftestDelayMs = 7000;
+    // Development aid: the serial line's silence watchdog (the furnace: 20000 ms).
+    int lineWatchdogMs = 20000;
     // How long the start and door buttons stay locked after a press (the furnace: 1000 ms).
     int playLockMs = 1000;
     // Development aid: a folder that stands for the USB stick (empty: the mounted stick).

@@ -1,6 +1,7 @@
 #include "app/commandline.h"
 #include "app/logutils.h"
 #include "app/mainwindow.h"
+#include "app/servicewatchdog.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -57,6 +58,7 @@ int main(int argc, char *argv[])
 
     auto *window = new ovra::Mainwindow::MainWindow(options);
     window->show();
+    ServiceWatchdog watchdog;
     if (options.quitAfterStart)
         QTimer::singleShot(0, &app, &QCoreApplication::quit);
     const int result = app.exec();

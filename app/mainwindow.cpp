@@ -127,7 +127,8 @@ void MainWindow::CreateComponents()
     m_popupArgonFailure = new Popups::PopupArgonFailure(this);
     m_programHandler = new ProgramHandler::ProgramHandler();
     m_messageHandler = new MessageHandler(m_paths);
-    m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port);
+    m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port,
+                                                      m_options.lineWatchdogMs);
     m_internalCommunicator = new Communication::InternalCommunicator(nullptr, m_options.keyPort);
     m_popupDeleteProgram = new Popups::PopupDeleteProgram(this);
     m_popupTempWarning = new Popups::PopupTempWarning(this);

@@ -1,6 +1,5 @@
 #include "communication/communicator.h"
 
-#include "communication/frame.h"
 #include "communication/messagehandler.h"
 
 #include <QDebug>
@@ -47,61 +46,22 @@ void Communicator::SlotHandleMessage()
         m_watchdog->start();
     }
 
-    const QByteArray chunk = m_port->readAll();
-    const int start = chunk.indexOf(Frame::startByte);
-    if (start >= 0) {
-        // A start byte only restarts the buffer, even when the end byte came along: the
-        // controller always sends the end byte on its own, and a frame is dispatched by
-        // that later chunk alone.
-        m_buffer.clear();
-        m_discarding = false;
-        AppendToBuffer(chunk.mid(start));
-        return;
-    }
-
-    const int end = chunk.indexOf(Frame::endByte);
-    if (m_discarding) {
-        // The tail of a dropped oversized frame is not a frame: wait for the next start.
-        if (end >= 0) {
-            m_discarding = false;
-            qDebug() << "end of dropped oversized frame";
-        }
-        return;
-    }
-    if (end < 0) {
-        AppendToBuffer(chunk);
-        return;
-    }
-    if (AppendToBuffer(chunk.left(end)))
-        DispatchBuffer();
+    QByteArray frame;
+    if (m_assembler.Feed(m_port->readAll(), &frame))
+        Dispatch(frame);
 }
 
-bool Communicator::AppendToBuffer(const QByteArray &bytes)
+void Communicator::Dispatch(const QByteArray &frame)
 {
-    if (m_buffer.size() + bytes.size() > maxBufferBytes) {
-        qDebug() << "receive buffer overflow: partial frame of" << m_buffer.size() + bytes.size()
-                 << "bytes dropped";
-        m_buffer.clear();
-        m_discarding = true;
-        return false;
-    }
-    m_buffer.append(bytes);
-    return true;
-}
+    qDebug() << "received data: " << frame;
 
-void Communicator::DispatchBuffer()
-{
-    qDebug() << "received data: " << m_buffer;
-
-    const int zero = m_buffer.indexOf('\0');
-    const QString text = QString::fromLatin1(m_buffer.constData(),
-                                             zero >= 0 ? zero : m_buffer.size());
+    const int zero = frame.indexOf('\0');
+    const QString text = QString::fromLatin1(frame.constData(), zero >= 0 ? zero : frame.size());
     const QByteArray answer = m_handler->HandleMessage(text);
     if (!answer.isEmpty()) {
         m_port->write(answer);
         qDebug() << "Pis Answer: " << answer;
     }
-    m_buffer.clear();
 }
 
 void Communicator::SlotHandleError(QSerialPort::SerialPortError error)

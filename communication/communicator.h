@@ -1,5 +1,7 @@
 #pragma once
 
+#include "communication/frameassembler.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QSerialPort>
@@ -19,8 +21,7 @@ class Communicator : public QObject
 
 public:
     static constexpr int defaultWatchdogIntervalMs = 20000;
-    // A partial frame that grows past this is noise, not a frame.
-    static constexpr int maxBufferBytes = 1024 * 1024;
+    static constexpr int maxBufferBytes = FrameAssembler::maxBufferBytes;
 
     Communicator(MessageHandler *handler, QObject *parent = nullptr,
                  const QString &portName = QStringLiteral("/dev/ttyAMA0"),
@@ -36,14 +37,11 @@ public slots:
     void SlotDestroyConnection();
 
 private:
-    // False when the bytes would overflow the buffer; the partial frame is then dropped.
-    bool AppendToBuffer(const QByteArray &bytes);
-    void DispatchBuffer();
+    void Dispatch(const QByteArray &frame);
 
     QSerialPort *m_port;
     MessageHandler *m_handler;
-    QByteArray m_buffer;
-    bool m_discarding = false; // after an overflow, until the next start byte
+    FrameAssembler m_assembler;
     QTimer *m_watchdog;
     int m_watchdogIntervalMs;
 };

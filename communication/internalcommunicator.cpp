@@ -3,13 +3,35 @@
 #include <QDebug>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace ovra {
 namespace Communication {
 
-InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
-    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this))
+KeyMessage InterpretKeyMessage(const QByteArray &message)
 {
+    if (message == "aus")
+        return {false, QByteArrayLiteral("ack")};
+    // Anything but "aus" switches on; only "ein" is acknowledged. The key script sends "an"
+    // and does not read the answer, so "nak" for it is expected.
+    return {true, message == "ein" ? QByteArrayLiteral("ack") : QByteArrayLiteral("nak")};
+}
+
+InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
+    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this)),
+      m_idleTimer(new QTimer(this))
+{
+    m_idleTimer->setSingleShot(true);
+    m_idleTimer->setInterval(defaultIdleTimeoutMs);
+    connect(m_idleTimer, &QTimer::timeout, this, [this] {
+        if (m_socket == nullptr)
+            return;
+        qDebug() << "display-key client silent for" << m_idleTimer->interval() << "ms: dropped";
+        m_socket->abort();
+        // Whatever state the dropped client left, the key must get through again.
+        m_server->resumeAccepting();
+        m_server6->resumeAccepting();
+    });
     connect(m_server, &QTcpServer::newConnection, this, &InternalCommunicator::SlotNewConnection);
     connect(m_server6, &QTcpServer::newConnection, this, &InternalCommunicator::SlotNewConnection);
     if (m_server->listen(QHostAddress::LocalHost, port))
@@ -21,6 +43,11 @@ InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
     const quint16 port6 = m_server->isListening() ? m_server->serverPort() : port;
     if (!m_server6->listen(QHostAddress::LocalHostIPv6, port6))
         qDebug() << "display-key server: no IPv6 loopback:" << m_server6->errorString();
+}
+
+void InternalCommunicator::SetIdleTimeoutMs(int ms)
+{
+    m_idleTimer->setInterval(ms);
 }
 
 bool InternalCommunicator::IsListeningIPv6() const
@@ -56,6 +83,10 @@ void InternalCommunicator::SlotNewConnection()
     m_server6->pauseAccepting();
     connect(m_socket, &QTcpSocket::readyRead, this, &InternalCommunicator::SlotHandleMessage);
     connect(m_socket, &QTcpSocket::disconnected, this, &InternalCommunicator::SlotDestroyConnection);
+    m_idleTimer->start();
+    // What a client sent before it was taken from the pending list raised no readyRead here.
+    if (m_socket->bytesAvailable() > 0)
+        QTimer::singleShot(0, this, &InternalCommunicator::SlotHandleMessage);
 }
 
 void InternalCommunicator::SlotHandleMessage()
@@ -65,20 +96,19 @@ void InternalCommunicator::SlotHandleMessage()
         socket = m_socket;
     if (socket == nullptr)
         return;
-    const QByteArray message = socket->readAll();
-    if (message == "aus") {
-        socket->write("ack");
-        emit SignalReceivedTouchEvent(false);
-        return;
-    }
-    // Anything but "aus" switches on; only "ein" is acknowledged. The key script sends "an"
-    // and does not read the answer, so "nak" for it is expected.
-    emit SignalReceivedTouchEvent(true);
-    socket->write(message == "ein" ? "ack" : "nak");
+    m_idleTimer->start();
+    const KeyMessage key = InterpretKeyMessage(socket->readAll());
+    // "aus" is acknowledged before the touch goes off, the others after it came on.
+    if (!key.enable)
+        socket->write(key.answer);
+    emit SignalReceivedTouchEvent(key.enable);
+    if (key.enable)
+        socket->write(key.answer);
 }
 
 void InternalCommunicator::SlotDestroyConnection()
 {
+    m_idleTimer->stop();
     m_server->resumeAccepting();
     m_server6->resumeAccepting();
     qDebug() << "connection terminated";

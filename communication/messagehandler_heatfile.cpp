@@ -57,7 +57,9 @@ void MessageHandler::HeatfileLineParser(const QString &entry, int section, Progr
     }
 
     QList<QList<unsigned int>> matrix = *prog->GetMatrix();
-    const int capacity = qMax(section, m_segmentCapacity);
+    // Rows past the last segment section are all zero and trimmed below: a header such as
+    // "[9999999]" before a name must not make millions of them first.
+    const int capacity = qMax(qMin(section, maxSection), m_segmentCapacity);
     if (capacity > matrix.size()) {
         for (int i = 0; i < capacity; ++i)
             matrix.append({0u, 0u, 0u});

@@ -22,7 +22,7 @@ fi
 "$PYTHON" "$HOME_DIR/DispOn/dispOn.py" >/dev/null 2>&1 &
 
 # Full-screen on the display without a window system; logs go to ../logs from the panel's folder.
-export QT_QPA_PLATFORM=eglfs
+export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-eglfs}
 export QT_QPA_EGLFS_HIDECURSOR=1
 cd "$PANEL_DIR" || exit 1
 exec ./ovra-panel

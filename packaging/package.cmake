@@ -1,0 +1,31 @@
+# The board package: everything lands where the panel expects it under the furnace user's home.
+# Destinations are relative to the package root ("/"), so `cmake --install` on a development
+# machine goes under CMAKE_INSTALL_PREFIX and never into a real /home/pi.
+set(OVRA_PI_HOME home/pi)
+install(TARGETS ovra-panel RUNTIME DESTINATION ${OVRA_PI_HOME}/Downloads/build)
+install(DIRECTORY ${OVRA_TRANSLATIONS_DIR}/ DESTINATION ${OVRA_PI_HOME}/Downloads/translations
+        FILES_MATCHING PATTERN "*.qm" PATTERN CMakeFiles EXCLUDE)
+install(PROGRAMS ${CMAKE_SOURCE_DIR}/resources/scripts/autostartUserinterface.sh DESTINATION ${OVRA_PI_HOME})
+install(PROGRAMS ${CMAKE_SOURCE_DIR}/resources/scripts/makeExecutable.py DESTINATION ${OVRA_PI_HOME}/Downloads)
+install(PROGRAMS ${CMAKE_SOURCE_DIR}/resources/scripts/dispOn.py DESTINATION ${OVRA_PI_HOME}/DispOn)
+install(FILES ${CMAKE_SOURCE_DIR}/packaging/ovra-panel.service DESTINATION lib/systemd/system)
+
+if(NOT OVRA_DEB_ARCHITECTURE)
+  execute_process(COMMAND dpkg --print-architecture OUTPUT_VARIABLE OVRA_DEB_ARCHITECTURE
+                  OUTPUT_STRIP_TRAILING_WHITESPACE)
+endif()
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME ovra-panel)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT "Furnace service <service@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Touch-screen operating panel of the sintering furnace")
+set(CPACK_PACKAGING_INSTALL_PREFIX /)
+set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${OVRA_DEB_ARCHITECTURE})
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+# Named, not computed: dpkg-shlibdeps cannot see the board's libraries from a cross build.
+# libqt5gui5 carries the eglfs and linuxfb platform plug-ins.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+    "libqt5core5a (>= 5.15), libqt5gui5 (>= 5.15), libqt5widgets5 (>= 5.15), libqt5network5 (>= 5.15), libqt5serialport5 (>= 5.15), libqt5charts5 (>= 5.15), libqrencode4, libstdc++6, python3")
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_SOURCE_DIR}/packaging/postinst ${CMAKE_SOURCE_DIR}/packaging/prerm)
+include(CPack)
