@@ -23,6 +23,7 @@ public:
                   const std::function<FiringStart()> &describe);
     void Failure(const QString &time, const QString &code);
     void Finished(Result result, const QString &date, const QString &time);
+    void Over() { m_ended.clear(); } // the controller's empty report: its firing is done
 
     FiringStore &Store() { return m_store; }
 
@@ -30,6 +31,8 @@ private:
     FiringStore m_store;
     FiringStart m_requested;
     bool m_hasRequest = false;
+    QString m_program;
+    QString m_ended; // a firing ended by the panel whose last reports may still come
     double m_celsius = 0.0;
     QElapsedTimer m_clock;
 };
