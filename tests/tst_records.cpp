@@ -1,0 +1,108 @@
+// The firing record store: results as they happened, a cut-off firing closed as interrupted on
+// the next start without losing earlier ones, the size bound, and ten hours of reports.
+#include "records/firingstore.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace ovra::Records;
+
+namespace {
+QVariant scalar(const QString &file, const QString &sql)
+{
+    QVariant v;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("check"));
+        db.setDatabaseName(file);
+        db.open();
+        QSqlQuery q(sql, db);
+        if (q.next())
+            v = q.value(0);
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("check"));
+    return v;
+}
+
+FiringStart start(const QString &name)
+{
+    FiringStart s;
+    s.program = name;
+    s.heatfileText = QStringLiteral("[metainfo];name=%1;").arg(name);
+    s.date = QStringLiteral("23.11.2026");
+    s.time = QStringLiteral("10:00");
+    return s;
+}
+} // namespace
+
+class TestRecords : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void resultsAndInterruption();
+    void boundAndTenHours();
+};
+
+void TestRecords::resultsAndInterruption()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    {
+        FiringStore store(file);
+        QVERIFY(store.IsOpen());
+        store.Begin(start(QStringLiteral("A")));
+        store.AddSample(0, 25.0);
+        store.AddFailure(QStringLiteral("23.11.2026 10:05"), QStringLiteral("12"));
+        store.End(Result::Failed, QStringLiteral("23.11.2026"), QStringLiteral("10:06"));
+        store.Begin(start(QStringLiteral("B")));
+        store.AddSample(1, 30.0);
+        store.End(Result::Stopped, QString(), QString());
+        // A second store on the same file, as a test or a second panel would open it.
+        FiringStore other(file);
+        QVERIFY(other.IsOpen());
+        store.Begin(start(QStringLiteral("C")));
+        store.AddSample(0, 40.0);
+        store.Flush();
+        // Left open: as if the panel were killed here.
+        FiringStore *leaked = new FiringStore(file); // reopening closes C as interrupted
+        delete leaked;
+    }
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
+             QStringLiteral("A=failed,B=stopped,C=interrupted"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
+    QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
+}
+
+void TestRecords::boundAndTenHours()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    {
+        FiringStore store(file, 3);
+        for (const char *name : {"1", "2", "3", "4"}) {
+            store.Begin(start(QLatin1String(name)));
+            store.End(Result::Success, QString(), QString());
+        }
+        // Ten hours at one report a second.
+        store.Begin(start(QStringLiteral("long")));
+        QElapsedTimer clock;
+        clock.start();
+        for (int s = 0; s < 36000; ++s)
+            store.AddSample(s, 20.0 + s % 1500);
+        const double perReportMs = clock.nsecsElapsed() / 1e6 / 36000;
+        store.End(Result::Success, QString(), QString());
+        qDebug() << "per report" << perReportMs << "ms";
+        QVERIFY(perReportMs < 0.2);
+    }
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program, ',') FROM firings")).toString(),
+             QStringLiteral("3,4,long"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT COUNT(*) FROM samples")).toInt(), 36000);
+    QVERIFY(QFileInfo(file).size() < 2 * 1024 * 1024);
+}
+
+QTEST_GUILESS_MAIN(TestRecords)
+#include "tst_records.moc"
