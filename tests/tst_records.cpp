@@ -1,5 +1,6 @@
 // The firing record store: results as they happened, a cut-off firing closed as interrupted on
 // the next start without losing earlier ones, the size bound, and ten hours of reports.
+#include "records/firingexport.h"
 #include "records/firingstore.h"
 
 #include <QElapsedTimer>
@@ -75,6 +76,20 @@ void TestRecords::resultsAndInterruption()
              QStringLiteral("A=failed,B=stopped,C=interrupted"));
     QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
     QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
+
+    // Export: one line per firing, quoted where the text needs it, samples beside it.
+    QString error;
+    QVERIFY(ExportFirings(home.path(), home.path() + QStringLiteral("/out"), &error));
+    QFile csv(home.path() + QStringLiteral("/out/firings.csv"));
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = csv.readAll().split('\n');
+    QCOMPARE(lines.size(), 5); // header, three firings, the last line break
+    QVERIFY(lines[1].contains(",failed,23.11.2026 10:05 12"));
+    QVERIFY(lines[3].contains(",interrupted,"));
+    QVERIFY(QFile::exists(home.path() + QStringLiteral("/out/firing-1-samples.csv")));
+    QCOMPARE(CsvField(QStringLiteral("a \"b\", c")), QStringLiteral("\"a \"\"b\"\", c\""));
+    QVERIFY(!ExportFirings(home.path(), QStringLiteral("/proc/version/out"), &error));
+    QVERIFY(error.contains(QStringLiteral("/proc/version/out")));
 }
 
 void TestRecords::boundAndTenHours()
