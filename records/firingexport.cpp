@@ -42,14 +42,14 @@ QString line(const QStringList &fields)
 }
 } // namespace
 
-bool ExportFirings(const QString &home, const QString &dir, QString *error)
+bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished)
 {
     if (dir.isEmpty() || !QDir().mkpath(dir)) {
         *error = QStringLiteral("cannot create %1").arg(dir);
         return false;
     }
-    FiringStore store(FiringStore::FileIn(home)); // opened as the panel would: cut-off firings read as interrupted
-    store.Flush();
+    if (closeUnfinished)
+        FiringStore(FiringStore::FileIn(home)).Flush();
     const QString connection = QStringLiteral("ovra-records-export");
     bool ok = true;
     {
