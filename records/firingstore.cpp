@@ -3,6 +3,7 @@
 #include <QAtomicInt>
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -28,15 +29,23 @@ QString FiringStore::FileIn(const QString &home)
     return home + QStringLiteral("/records/firings.sqlite");
 }
 
-FiringStore::FiringStore(const QString &file, int keepFirings) : m_keep(keepFirings)
+FiringStore::FiringStore(const QString &file, int keepFirings) : m_file(file), m_keep(keepFirings)
 {
     static QAtomicInt serial;
     m_connection = QStringLiteral("ovra-records-%1").arg(serial.fetchAndAddRelaxed(1));
-    QDir().mkpath(QFileInfo(file).absolutePath());
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
-    db.setDatabaseName(file);
+    QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection).setDatabaseName(file);
+    // A panel that never fired leaves no file behind.
+    if (QFile::exists(file))
+        Open();
+}
+
+void FiringStore::Open()
+{
+    m_triedOpen = true;
+    QDir().mkpath(QFileInfo(m_file).absolutePath());
+    QSqlDatabase db = QSqlDatabase::database(m_connection, false);
     if (!db.open()) {
-        qDebug() << "firing records: cannot open" << file << db.lastError().text();
+        qDebug() << "firing records: cannot open" << m_file << db.lastError().text();
         return;
     }
     m_open = Exec(QStringLiteral("PRAGMA journal_mode=WAL")) && Exec(QStringLiteral("PRAGMA synchronous=NORMAL"))
@@ -92,6 +101,8 @@ void FiringStore::CloseOpen(Result result, const QString &date, const QString &t
 
 qint64 FiringStore::Begin(const FiringStart &start)
 {
+    if (!m_open && !m_triedOpen)
+        Open();
     if (!m_open)
         return 0;
     CommitIfDue(true);

@@ -43,7 +43,7 @@ public:
 
     static QString FileIn(const QString &home); // "<home>/records/firings.sqlite"
 
-    bool IsOpen() const { return m_open; }
+    bool IsOpen() const { return m_open; } // opened at once if the file exists, else at the first firing
     bool IsRecording() const { return m_current > 0; }
     qint64 Current() const { return m_current; }
 
@@ -55,12 +55,15 @@ public:
     void Flush();
 
 private:
+    void Open();
     bool Exec(const QString &sql);
     void CommitIfDue(bool force);
     void CloseOpen(Result result, const QString &date, const QString &time);
 
+    QString m_file;
     QString m_connection;
     bool m_open = false;
+    bool m_triedOpen = false;
     int m_keep;
     qint64 m_current = 0;
     int m_sampleIndex = 0;

@@ -54,8 +54,9 @@ void TestRecords::resultsAndInterruption()
     const QString file = FiringStore::FileIn(home.path());
     {
         FiringStore store(file);
-        QVERIFY(store.IsOpen());
+        QVERIFY(!store.IsOpen() && !QFile::exists(file)); // no firing, no file
         store.Begin(start(QStringLiteral("A")));
+        QVERIFY(store.IsOpen());
         store.AddSample(0, 25.0);
         store.AddFailure(QStringLiteral("23.11.2026 10:05"), QStringLiteral("12"));
         store.End(Result::Failed, QStringLiteral("23.11.2026"), QStringLiteral("10:06"));
