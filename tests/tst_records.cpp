@@ -4,6 +4,10 @@
 #include "records/firingstore.h"
 
 #include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
+#include <csignal>
+#include <cstdio>
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -46,7 +50,34 @@ class TestRecords : public QObject
 private slots:
     void resultsAndInterruption();
     void boundAndTenHours();
+    void killedMidFiring();
 };
+
+void TestRecords::killedMidFiring()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    {
+        FiringStore store(file);
+        store.Begin(start(QStringLiteral("earlier")));
+        store.End(Result::Success, QString(), QString());
+    }
+    // A child process records a firing and is killed hard in the middle of it.
+    QProcess child;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("OVRA_RECORDS_CHILD"), file);
+    child.setProcessEnvironment(env);
+    child.start(QCoreApplication::applicationFilePath(), QStringList());
+    QByteArray said;
+    QTRY_VERIFY_WITH_TIMEOUT((said += child.readAllStandardOutput()).contains("recording"), 10000);
+    ::kill(static_cast<pid_t>(child.processId()), SIGKILL);
+    QVERIFY(child.waitForFinished(5000));
+    { FiringStore reopened(file); }
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
+             QStringLiteral("earlier=success,killed=interrupted"));
+    QVERIFY(scalar(file, QStringLiteral("SELECT COUNT(*) FROM samples")).toInt() >= FiringStore::batchSamples);
+    QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
+}
 
 void TestRecords::resultsAndInterruption()
 {
@@ -121,5 +152,23 @@ void TestRecords::boundAndTenHours()
     QVERIFY(QFileInfo(file).size() < 2 * 1024 * 1024);
 }
 
-QTEST_GUILESS_MAIN(TestRecords)
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    const QString childFile = qEnvironmentVariable("OVRA_RECORDS_CHILD");
+    if (!childFile.isEmpty()) {
+        FiringStore store(childFile);
+        store.Begin(start(QStringLiteral("killed")));
+        for (int s = 0;; ++s) {
+            store.AddSample(s, 20.0 + s);
+            if (s == FiringStore::batchSamples + 5) {
+                std::fputs("recording\n", stdout);
+                std::fflush(stdout);
+            }
+            QThread::msleep(1);
+        }
+    }
+    TestRecords test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_records.moc"
