@@ -56,8 +56,11 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
                                           QStringLiteral("Folder that stands for the USB stick "
                                                          "(default: the mounted stick)."),
                                           QStringLiteral("dir"));
+    const QCommandLineOption exportOption(QStringLiteral("export-records"),
+                                          QStringLiteral("Write the firing records to a folder and exit."),
+                                          QStringLiteral("dir"));
     parser.addOptions({helpOption, versionOption, portOption, homeOption, keyPortOption, quitOption,
-                       selftestDelayOption, usbDirOption, lineWatchdogOption});
+                       selftestDelayOption, usbDirOption, lineWatchdogOption, exportOption});
 
     if (!parser.parse(arguments)) {
         output = parser.errorText() + QStringLiteral("\nTry --help.\n");
@@ -114,6 +117,7 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     options.selftestDelayMs = selftestDelay;
     options.lineWatchdogMs = lineWatchdog;
     options.usbDir = parser.value(usbDirOption);
+    options.exportRecordsDir = parser.value(exportOption);
     return Outcome::Run;
 }
 

@@ -23,6 +23,8 @@ struct PanelOptions
     int playLockMs = 1000;
     // Development aid: a folder that stands for the USB stick (empty: the mounted stick).
     QString usbDir;
+    // Set: the firing records are written to this folder and the panel exits.
+    QString exportRecordsDir;
     // How long the USB menu waits for the controller's next word on a firmware or
     // configuration update before it reports failure.
     int usbAnswerTimeoutMs = 120000;

@@ -2,6 +2,7 @@
 #include "app/logutils.h"
 #include "app/mainwindow.h"
 #include "app/servicewatchdog.h"
+#include "records/firingexport.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -14,7 +15,7 @@ bool asksForInformationOnly(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
         const QByteArray arg(argv[i]);
-        if (arg == "-h" || arg == "--help" || arg == "-v" || arg == "--version")
+        if (arg == "-h" || arg == "--help" || arg == "-v" || arg == "--version" || arg.startsWith("--export-records"))
             return true;
     }
     return false;
@@ -43,7 +44,14 @@ int main(int argc, char *argv[])
         PanelOptions options;
         QString text;
         const CommandLine::Outcome outcome = CommandLine::Parse(app.arguments(), options, text);
-        return outcome == CommandLine::Outcome::Run ? 0 : printAndExit(outcome, text);
+        if (outcome != CommandLine::Outcome::Run)
+            return printAndExit(outcome, text);
+        QString error;
+        if (!ovra::Records::ExportFirings(options.home, options.exportRecordsDir, &error)) {
+            std::fputs(qPrintable(error + QLatin1Char('\n')), stderr);
+            return 1;
+        }
+        return 0;
     }
 
     QApplication app(argc, argv);

@@ -6,6 +6,7 @@
 #include "app/paths.h"
 #include "faults/selftestprogress.h"
 #include "process/firingrules.h"
+#include "records/firingrecorder.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -236,6 +237,9 @@ private:
     Ui::MainWindow *ui;
     GlobalElements::PanelOptions m_options;
     const GlobalElements::Paths m_paths;
+    // Firing records: fed from the firing slots, never seen by the controller.
+    Records::FiringRecorder m_firingRecorder{m_paths.Home()};
+    Records::FiringStart DescribeFiring(const QString &program) const;
 
     // Owned components, created in this order. The parentless ones live until the
     // process ends; the popups belong to the window.

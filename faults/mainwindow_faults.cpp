@@ -81,6 +81,7 @@ void MainWindow::SlotErrorHandling(const QString &codes)
 {
     for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts)) {
         m_errorHandler->AddError(code);
+        m_firingRecorder.Failure(ui->label_Date->text() + QLatin1Char(' ') + ui->widget_time->GetText(), code);
         const QString line = ui->label_Date->text() + QStringLiteral(", ") + ui->widget_time->GetText()
                              + QStringLiteral(": ") + code + QLatin1Char('\n');
         ui->textEdit_FailureList->setPlainText(line + ui->textEdit_FailureList->toPlainText());

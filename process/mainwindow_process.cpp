@@ -14,6 +14,7 @@
 #include "popups/popupstop.h"
 #include "popups/timerpopup.h"
 #include "process/processtime.h"
+#include "programs/heatfiletext.h"
 #include "ui_mainwindow.h"
 
 #include <QPlainTextEdit>
@@ -136,6 +137,11 @@ void MainWindow::SlotGenerateProgRequest()
         const QString request = ui->widget_timerPlayProg->IsChecked()
                                     ? Requests::DelayedStart(m_timerPopup->GetRequestedTimer(), name, m_preDryMinutes)
                                     : Requests::Start(name, m_preDryMinutes);
+        Records::FiringStart record = DescribeFiring(name);
+        record.preDryMinutes = static_cast<int>(m_preDryMinutes);
+        if (ui->widget_timerPlayProg->IsChecked())
+            record.delayedStart = m_timerPopup->GetRequestedTimer();
+        m_firingRecorder.Requested(record);
         m_preDryMinutes = 0;
         m_messageHandler->SetRequest(request);
         ui->widget_timerPlayProg->setVisible(false);
@@ -153,6 +159,7 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
 {
     if (info.isEmpty()) {
         // The firing is over.
+        m_firingRecorder.Over();
         ui->widget_timerPlayProg->setEnabled(true);
         ui->widget_playNewProg->setEnabled(true);
         ui->widget_exitProcessProg->setEnabled(true);
@@ -166,6 +173,8 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
     const Process::HeatInfo report = Process::ParseHeatInfo(info);
     if (report.kind != Process::HeatInfo::Kind::Progress)
         return;
+    m_firingRecorder.Progress(report.program, ui->label_Date->text(), ui->label_Time->text(),
+                              [this, &report] { return DescribeFiring(report.program); });
     m_heatProgramInProgress = true;
     if (m_currentPage != Page::ProcessProg && !m_changeInProcess) {
         // A firing started elsewhere, or before the panel, brings the panel to it.
@@ -191,6 +200,9 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
 
 void MainWindow::SlotSetHeatProcessResult(const QString &result)
 {
+    m_firingRecorder.Finished(result == QLatin1String("hpsuccess") ? Records::Result::Success
+                                                                    : Records::Result::Failed,
+                              ui->label_Date->text(), ui->label_Time->text());
     if (result == QLatin1String("hpsuccess")) {
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/success.png);"));
         ui->widget_chart_process->UpdateChart(99, QStringLiteral("done"), m_currentTemp);
@@ -208,6 +220,7 @@ void MainWindow::SlotReqStopHeatfile(bool confirmed)
 {
     if (!confirmed)
         return;
+    m_firingRecorder.Finished(Records::Result::Stopped, ui->label_Date->text(), ui->label_Time->text());
     // A failure shown before the stop stays visible.
     if (!ui->label_processResult->styleSheet().contains(QLatin1String("Failure")))
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
@@ -371,6 +384,7 @@ void MainWindow::SlotTempReceived(const QString &temperature)
     ui->widget_tempProcess->SetText(shown.text);
     ui->widget_temp->SetText(shown.text);
     m_lastTemp = static_cast<float>(shown.value);
+    m_firingRecorder.Temperature(Process::TemperatureText::FromCelsiusText(temperature, false).value);
     m_currentTemp = shown.value;
     CheckTempDoor();
 }
@@ -411,6 +425,17 @@ void MainWindow::SlotMoveDoor()
 void MainWindow::SlotRequestDoorClose()
 {
     m_messageHandler->SetRequest(Requests::CloseDoor());
+}
+
+Records::FiringStart MainWindow::DescribeFiring(const QString &name) const
+{
+    Records::FiringStart start;
+    start.program = name;
+    if (const GlobalElements::Program *program = m_programHandler->GetProgramByName(name)) {
+        start.heatfileText = GlobalElements::HeatfileText::Write(*program);
+        start.material = program->GetMaterial();
+    }
+    return start;
 }
 
 } // namespace Mainwindow

@@ -14,6 +14,7 @@
 #include "settings/qrcode.h"
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
+#include "records/firingexport.h"
 #include "ui_mainwindow.h"
 
 #include <QDebug>
@@ -157,8 +158,11 @@ void MainWindow::RunUsbFileAction()
                                             ui->widget_Data2->GetText(), GlobalElements::logFolderName,
                                             QDateTime::currentDateTime(), &error);
         success = !folder.isEmpty();
-        if (success)
+        if (success) {
+            m_firingRecorder.Store().Flush();
+            success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false);
             qDebug() << "usb: backup written to" << folder;
+        }
     }
     FinishUsbAction(success, error);
 }

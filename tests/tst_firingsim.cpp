@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QLineSeries>
 #include <QPushButton>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -34,6 +36,24 @@ double frontX(ovra::GlobalElements::Chart *chart)
 {
     const auto *progress = chart->GetProgressSeries();
     return progress->count() > 1 ? progress->at(1).x() : 0.0;
+}
+
+// The recorded firings as "result:samples", oldest first, read beside the running panel.
+QStringList recordedFirings(const QString &home)
+{
+    QStringList out;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("reader"));
+        db.setDatabaseName(home + QStringLiteral("/records/firings.sqlite"));
+        db.open();
+        QSqlQuery q(QStringLiteral("SELECT f.result, (SELECT COUNT(*) FROM samples s WHERE s.firing = f.id),"
+                                   " f.program FROM firings f ORDER BY f.id"), db);
+        while (q.next())
+            out << q.value(0).toString() + QLatin1Char(':') + q.value(1).toString() + QLatin1Char(':')
+                       + q.value(2).toString();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("reader"));
+    return out;
 }
 } // namespace
 
@@ -116,6 +136,12 @@ void TestFiringWithSimulator::firings()
     press(stop->findChild<QPushButton *>(QStringLiteral("pushButton_OK")));
     QCOMPARE(view.Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("firing stopped")), 5000);
+    // Both firings are on record: the first with a sample for every report of its run.
+    const QStringList records = recordedFirings(home.path());
+    QCOMPARE(records.size(), 2);
+    QVERIFY(records[0].startsWith(QStringLiteral("success:")) && records[0].endsWith(QStringLiteral(":Kurz")));
+    QVERIFY(records[0].section(QLatin1Char(':'), 1, 1).toInt() > 20);
+    QVERIFY(records[1].startsWith(QStringLiteral("stopped:")));
 
     // Hot chamber: a closed door draws no warning, an opening one does, closing is not closed.
     auto *warning = window.findChild<ovra::Popups::PopupTempWarning *>();

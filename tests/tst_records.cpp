@@ -1,0 +1,165 @@
+// The firing record store: results as they happened and their export, the size bound, ten hours
+// of reports, and a process killed mid-firing: closed as interrupted on the next start, earlier
+// firings and the file intact.
+#include "records/firingexport.h"
+#include "records/firingstore.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
+#include <csignal>
+#include <cstdio>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace ovra::Records;
+
+namespace {
+QVariant scalar(const QString &file, const QString &sql)
+{
+    QVariant v;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("check"));
+        db.setDatabaseName(file);
+        db.open();
+        QSqlQuery q(sql, db);
+        if (q.next())
+            v = q.value(0);
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("check"));
+    return v;
+}
+
+FiringStart start(const QString &name)
+{
+    FiringStart s;
+    s.program = name;
+    s.heatfileText = QStringLiteral("[metainfo];name=%1;").arg(name);
+    s.date = QStringLiteral("23.11.2026");
+    s.time = QStringLiteral("10:00");
+    return s;
+}
+} // namespace
+
+class TestRecords : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void resultsAndInterruption();
+    void boundAndTenHours();
+    void killedMidFiring();
+};
+
+void TestRecords::killedMidFiring()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    {
+        FiringStore store(file);
+        store.Begin(start(QStringLiteral("earlier")));
+        store.End(Result::Success, QString(), QString());
+    }
+    // A child process records a firing and is killed hard in the middle of it.
+    QProcess child;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("OVRA_RECORDS_CHILD"), file);
+    child.setProcessEnvironment(env);
+    child.start(QCoreApplication::applicationFilePath(), QStringList());
+    QByteArray said;
+    QTRY_VERIFY_WITH_TIMEOUT((said += child.readAllStandardOutput()).contains("recording"), 10000);
+    ::kill(static_cast<pid_t>(child.processId()), SIGKILL);
+    QVERIFY(child.waitForFinished(5000));
+    { FiringStore reopened(file); }
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
+             QStringLiteral("earlier=success,killed=interrupted"));
+    QVERIFY(scalar(file, QStringLiteral("SELECT COUNT(*) FROM samples")).toInt() >= FiringStore::batchSamples);
+    QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
+}
+
+void TestRecords::resultsAndInterruption()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    {
+        FiringStore store(file);
+        QVERIFY(!store.IsOpen() && !QFile::exists(file)); // no firing, no file
+        store.Begin(start(QStringLiteral("A")));
+        QVERIFY(store.IsOpen());
+        store.AddSample(0, 25.0);
+        store.AddFailure(QStringLiteral("23.11.2026 10:05"), QStringLiteral("12"));
+        store.End(Result::Failed, QStringLiteral("23.11.2026"), QStringLiteral("10:06"));
+        store.Begin(start(QStringLiteral("B")));
+        store.AddSample(1, 30.0);
+        store.End(Result::Stopped, QString(), QString());
+    }
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
+             QStringLiteral("A=failed,B=stopped"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
+    QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
+
+    // Export: one line per firing, quoted where the text needs it, samples beside it.
+    QString error;
+    QVERIFY(ExportFirings(home.path(), home.path() + QStringLiteral("/out"), &error));
+    QFile csv(home.path() + QStringLiteral("/out/firings.csv"));
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = csv.readAll().split('\n');
+    QCOMPARE(lines.size(), 4); // header, two firings, the last line break
+    QVERIFY(lines[1].contains(",failed,23.11.2026 10:05 12"));
+    QVERIFY(QFile::exists(home.path() + QStringLiteral("/out/firing-1-samples.csv")));
+    QCOMPARE(CsvField(QStringLiteral("a \"b\", c")), QStringLiteral("\"a \"\"b\"\", c\""));
+    QVERIFY(!ExportFirings(home.path(), QStringLiteral("/proc/version/out"), &error));
+    QVERIFY(error.contains(QStringLiteral("/proc/version/out")));
+}
+
+void TestRecords::boundAndTenHours()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    {
+        FiringStore store(file, 3);
+        for (const char *name : {"1", "2", "3", "4"}) {
+            store.Begin(start(QLatin1String(name)));
+            store.End(Result::Success, QString(), QString());
+        }
+        // Ten hours at one report a second.
+        store.Begin(start(QStringLiteral("long")));
+        QElapsedTimer clock;
+        clock.start();
+        for (int s = 0; s < 36000; ++s)
+            store.AddSample(s, 20.0 + s % 1500);
+        const double perReportMs = clock.nsecsElapsed() / 1e6 / 36000;
+        store.End(Result::Success, QString(), QString());
+        qDebug() << "per report" << perReportMs << "ms";
+        QVERIFY(perReportMs < 0.2);
+    }
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program, ',') FROM firings")).toString(),
+             QStringLiteral("3,4,long"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT COUNT(*) FROM samples")).toInt(), 36000);
+    qDebug() << "file" << QFileInfo(file).size() << "bytes";
+    QVERIFY(QFileInfo(file).size() < 2 * 1024 * 1024);
+}
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    const QString childFile = qEnvironmentVariable("OVRA_RECORDS_CHILD");
+    if (!childFile.isEmpty()) {
+        FiringStore store(childFile);
+        store.Begin(start(QStringLiteral("killed")));
+        for (int s = 0;; ++s) {
+            store.AddSample(s, 20.0 + s);
+            if (s == FiringStore::batchSamples + 5) {
+                std::fputs("recording\n", stdout);
+                std::fflush(stdout);
+            }
+            QThread::msleep(1);
+        }
+    }
+    TestRecords test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_records.moc"
