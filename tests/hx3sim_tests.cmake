@@ -1,7 +1,7 @@
 # Tests of the controller simulator; included by tests/CMakeLists.txt.
 add_executable(tst_simframe ${CMAKE_CURRENT_LIST_DIR}/tst_simframe.cpp)
 target_link_libraries(tst_simframe PRIVATE hx3simcore Qt5::Test)
-# The end-to-end case runs the real program against a fake panel.
+# The link case runs the real program.
 target_compile_definitions(tst_simframe PRIVATE HX3SIM_BINARY="$<TARGET_FILE:hx3sim>")
 add_dependencies(tst_simframe hx3sim)
 set_target_properties(tst_simframe PROPERTIES AUTOMOC ON)

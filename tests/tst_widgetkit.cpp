@@ -48,8 +48,6 @@ private slots:
     void captionText_data();
     void captionText();
 
-    void buttonReportsItsTargetPageAndToggles();
-    void iconbuttonClickAndCheckedState();
 
     void selftestIconTable_data();
     void selftestIconTable();
@@ -100,54 +98,6 @@ void TestWidgetKit::captionText()
     entry.show();
     entry.SetText(caption);
     QCOMPARE(CaptionFit::DisplayText(entry.GetPushButtonObject()->text()), caption);
-}
-
-void TestWidgetKit::buttonReportsItsTargetPageAndToggles()
-{
-    Button button;
-    button.resize(300, 80);
-    button.show();
-    QSignalSpy clicked(&button, &Button::SignalButtonClicked);
-    QSignalSpy toggled(&button, &Button::SignalToggled);
-
-    click(button.GetPushButtonObject());
-    button.SetNextPageIndex(Pageinterface::Settings);
-    click(button.GetPushButtonObject());
-    QCOMPARE(clicked.count(), 2);
-    QCOMPARE(clicked.at(0).at(0).value<Page>(), Pageinterface::StartUp);
-    QCOMPARE(clicked.at(1).at(0).value<Page>(), Pageinterface::Settings);
-    QCOMPARE(toggled.count(), 0);
-    QVERIFY(!button.IsChecked());
-
-    button.SetCheckable(true);
-    click(button.GetPushButtonObject());
-    QVERIFY(button.IsChecked());
-    click(button.GetPushButtonObject());
-    QVERIFY(!button.IsChecked());
-    QCOMPARE(toggled.count(), 2);
-    QCOMPARE(toggled.at(0).at(0).toBool(), true);
-    QCOMPARE(toggled.at(1).at(0).toBool(), false);
-}
-
-void TestWidgetKit::iconbuttonClickAndCheckedState()
-{
-    Iconbutton button;
-    button.resize(72, 72);
-    button.show();
-    QSignalSpy clicked(&button, &Iconbutton::Signal_ButtonClicked);
-    QSignalSpy toggled(&button, &Iconbutton::SignalToggled);
-
-    click(button.GetButtonObject());
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(toggled.count(), 0);
-
-    button.SetCheckable(true);
-    click(button.GetButtonObject());
-    QVERIFY(button.IsChecked());
-    QCOMPARE(toggled.count(), 1);
-    QCOMPARE(toggled.at(0).at(0).toBool(), true);
-    button.SetChecked(false);
-    QVERIFY(!button.IsChecked());
 }
 
 void TestWidgetKit::selftestIconTable_data()
