@@ -102,8 +102,8 @@ void MainWindow::PreparePageLanguageSelect()
         for (int i = 0; i < buttons.size(); ++i) {
             if (languages.at(i).offered != offered)
                 continue;
-            buttons.at(i)->SetText(languages.at(i).label);
             buttons.at(i)->setVisible(offered);
+            buttons.at(i)->SetText(languages.at(i).label);
             buttons.at(i)->SetCheckable(true);
             buttons.at(i)->SetChecked(i == shown);
             ui->gridLayout_lang->addWidget(buttons.at(i), cell / 3, cell % 3);

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QIcon>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QVariant>
 
 namespace ovra {
@@ -89,10 +90,22 @@ void Button::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+void Button::showEvent(QShowEvent *event)
+{
+    if (m_refitWhenShown)
+        RefitCaption();
+    QWidget::showEvent(event);
+}
+
 void Button::RefitCaption()
 {
     // Re-polishing for a new caption size sends a font change back through the filter.
     if (m_refitting)
+        return;
+    // A button hidden on purpose (a language the furnace does not offer) is not measured:
+    // its caption may be in a script whose fallback font alone costs megabytes to load.
+    m_refitWhenShown = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (m_refitWhenShown)
         return;
     m_refitting = true;
 

@@ -54,6 +54,7 @@ signals:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     // Room between icon and caption, as the style draws it, with a little to spare.
@@ -65,6 +66,7 @@ private:
     QString m_caption;
     QString m_iconPath;
     bool m_refitting = false;
+    bool m_refitWhenShown = false;
     Pageinterface::en_pages m_nextPage = Pageinterface::StartUp;
 };
 
