@@ -158,8 +158,9 @@ void TestSimFrame::linkOverAStaleOneAndGoneAfterTheRun()
     while (slave.isEmpty() && sim.waitForReadyRead(10000)) {
         while (sim.canReadLine()) {
             const QString line = QString::fromUtf8(sim.readLine()).trimmed();
-            if (line.startsWith(QLatin1String("slave: ")))
-                slave = line.mid(7);
+            // Printed once the simulator runs, its stop signal handled.
+            if (line.startsWith(QLatin1String("waiting for panel on ")))
+                slave = line.mid(21);
         }
     }
     QVERIFY(!slave.isEmpty());

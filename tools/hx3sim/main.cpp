@@ -236,10 +236,6 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "hx3sim: cannot create the pseudo-terminal: %s\n", qPrintable(error));
         return 1;
     }
-    printLine(QStringLiteral("slave: %1").arg(line.slavePath()));
-    for (const QString &note : qAsConst(programNotes))
-        printLine(note);
-
     if (parser.isSet(linkOption)) {
         switch (line.createLink(parser.value(linkOption), &error)) {
         case PtyLine::LinkResult::Created:
@@ -251,6 +247,10 @@ int main(int argc, char *argv[])
             return 1;
         }
     }
+    // Announced once the link is in place: whoever reads this line may open the link at once.
+    printLine(QStringLiteral("slave: %1").arg(line.slavePath()));
+    for (const QString &note : qAsConst(programNotes))
+        printLine(note);
 
     Hx3Controller controller(&line, options);
     QObject::connect(&controller, &Hx3Controller::message, &printLine);
