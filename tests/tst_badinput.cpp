@@ -31,22 +31,17 @@ private slots:
 void TestBadInput::keySocketAnyBytes_data()
 {
     QTest::addColumn<QByteArray>("message");
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<QByteArray>("answer");
     QByteArray everyByte;
     for (int b = 0; b < 256; ++b)
         everyByte.append(char(b));
-    QTest::newRow("every byte value") << everyByte << true << QByteArray("nak");
-    QTest::newRow("64 KiB") << QByteArray(65536, 'a') << true << QByteArray("nak");
-    QTest::newRow("aus with a newline") << QByteArray("aus\n") << true << QByteArray("nak");
-    QTest::newRow("aus") << QByteArray("aus") << false << QByteArray("ack");
+    QTest::newRow("every byte value") << everyByte;
+    QTest::newRow("64 KiB") << QByteArray(65536, 'a');
+    QTest::newRow("aus with a newline") << QByteArray("aus\n");
 }
 
 void TestBadInput::keySocketAnyBytes()
 {
     QFETCH(QByteArray, message);
-    QFETCH(bool, enable);
-    QFETCH(QByteArray, answer);
     InternalCommunicator server(nullptr, 0);
     QSignalSpy touch(&server, &InternalCommunicator::SignalReceivedTouchEvent);
     QTcpSocket client;
@@ -55,8 +50,8 @@ void TestBadInput::keySocketAnyBytes()
     client.write(message);
     // A big message may come in several reads: each is one message, and the last one decides.
     QTRY_VERIFY(touch.count() >= 1 && client.bytesAvailable() >= 3);
-    QCOMPARE(touch.last().first().toBool(), enable);
-    QVERIFY(client.readAll().endsWith(answer));
+    QCOMPARE(touch.last().first().toBool(), true); // not a word: the touch stays on
+    QVERIFY(client.readAll().endsWith("nak"));
 }
 
 void TestBadInput::keySocketManyClientsAndASilentOne()

@@ -11,6 +11,7 @@
 #include <QtTest>
 
 #include <cerrno>
+#include <utility>
 #include <fcntl.h>
 #include <pty.h>
 #include <sys/ioctl.h>
@@ -53,19 +54,16 @@ public:
         }
     }
     ~Pty() { close(); }
-    Pty(const Pty &) = delete;
-    Pty &operator=(const Pty &) = delete;
+    Q_DISABLE_COPY(Pty)
 
     bool isValid() const { return m_master >= 0; }
     QString slavePath() const { return m_slavePath; }
 
     void close()
     {
-        if (m_master >= 0)
-            ::close(m_master);
-        if (m_slave >= 0)
-            ::close(m_slave);
-        m_master = m_slave = -1;
+        for (int *fd : {&m_master, &m_slave})
+            if (*fd >= 0)
+                ::close(std::exchange(*fd, -1));
     }
 
     // Bytes written by us that the panel has not read yet.

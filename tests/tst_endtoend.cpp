@@ -27,15 +27,7 @@ public:
         return found;
     }
 
-    int count(const QRegularExpression &pattern) const
-    {
-        int n = 0;
-        for (const QString &line : m_lines)
-            n += pattern.match(line).hasMatch() ? 1 : 0;
-        return n;
-    }
-
-    QStringList lines() const { return m_lines; }
+    QString all() const { return m_lines.join(QLatin1Char('\n')); }
 
 private:
     QProcess *m_process;
@@ -83,7 +75,7 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
     QVERIFY(panel.waitForStarted());
 
     QVERIFY2(!simOut.waitFor(re(QStringLiteral("^panel connected"))).isEmpty(),
-             qPrintable(simOut.lines().join(QLatin1Char('\n'))));
+             qPrintable(simOut.all()));
     // Device data, language, unit, every sample program and its count, then status frames.
     QVERIFY(!simOut.waitFor(re(QStringLiteral("^tx: .*hfcount==\\d+"))).isEmpty());
     for (int i = 0; i < 5; ++i)
@@ -109,7 +101,7 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
     QVERIFY2(answers >= frames - 2 - timeouts, qPrintable(summary));
     QCOMPARE(m.captured(3).toInt(), 0);
     QCOMPARE(m.captured(4).toInt(), 0);
-    QCOMPARE(simOut.count(re(QStringLiteral("^BAD ANSWER \\(checksum\\)"))), 0);
+    QVERIFY2(!simOut.all().contains(QLatin1String("BAD ANSWER (checksum)")), qPrintable(simOut.all()));
 
     // The panel logged to its own folder beside the working directory, not to the console.
     const QStringList logs = QDir(root.path() + QStringLiteral("/logs")).entryList(QDir::Files);

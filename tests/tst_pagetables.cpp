@@ -14,7 +14,6 @@ class TestPageTables : public QObject
 private slots:
     void unknownPagesFallBack();
     void backFollowsOrigins();
-    void remembersOrigins();
 };
 
 // Pages the tables do not know fall back to the main menu instead of indexing past a table.
@@ -68,18 +67,6 @@ void TestPageTables::backFollowsOrigins()
     QCOMPARE(PageTables::BackTarget(P::DisplayOptions, o), P::Progs);
     o.filterOrigin = P::Lists;
     QCOMPARE(PageTables::BackTarget(P::DisplayOptions, o), P::MainMenu);
-}
-
-void TestPageTables::remembersOrigins()
-{
-    for (int from : {4, 10, 11, 16, 19})
-        QVERIFY(PageTables::RemembersPlayOrigin(from));
-    for (int from : {3, 17, 18, 9})
-        QVERIFY(!PageTables::RemembersPlayOrigin(from));
-    QVERIFY(PageTables::RemembersEditorOrigin(P::NewProg, P::MyProgs));
-    QVERIFY(!PageTables::RemembersEditorOrigin(P::NewProg, P::PlayProg));
-    QVERIFY(PageTables::RemembersEditorOrigin(P::ChangeProg, P::ProcessProg));
-    QVERIFY(!PageTables::RemembersEditorOrigin(P::ChangeProg, P::MainMenu));
 }
 
 QTEST_GUILESS_MAIN(TestPageTables)

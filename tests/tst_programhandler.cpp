@@ -241,20 +241,16 @@ void TestProgramHandler::filterRules()
     Program b(QStringLiteral("b"), QStringLiteral("Argon"), {}, QStringLiteral("A"), false);
     Program c(QStringLiteral("c"), QStringLiteral("Zirkon"), {}, QStringLiteral("Maker B"), false);
     const QList<Program *> all = {&a, &b, &c};
-
-    QList<Program *> list = all;
-    ProgramFilter::Apply(list, {}, {});
-    QCOMPARE(list, all);
-    list = all;
-    ProgramFilter::Apply(list, {QStringLiteral("A")}, {QStringLiteral("Zirkon")});
-    QCOMPARE(list, QList<Program *>{&a});
-    list = all;
-    ProgramFilter::Apply(list, {}, {QStringLiteral("Zirkon")});
-    QCOMPARE(list, (QList<Program *>{&a, &c}));
+    const auto filtered = [&all](const QStringList &makers, const QStringList &materials) {
+        QList<Program *> list = all;
+        ProgramFilter::Apply(list, makers, materials);
+        return list;
+    };
+    QCOMPARE(filtered({}, {}), all);
+    QCOMPARE(filtered({QStringLiteral("A")}, {QStringLiteral("Zirkon")}), QList<Program *>{&a});
+    QCOMPARE(filtered({}, {QStringLiteral("Zirkon")}), (QList<Program *>{&a, &c}));
     // A maker with a space: its button's text loses the space and so matches nothing.
-    list = all;
-    ProgramFilter::Apply(list, {QStringLiteral("MakerB")}, {});
-    QCOMPARE(list, QList<Program *>());
+    QCOMPARE(filtered({QStringLiteral("MakerB")}, {}), QList<Program *>());
     QVERIFY(!ProgramFilter::ButtonMatches(QStringLiteral("Maker B"), QStringLiteral("Maker B")));
     QVERIFY(ProgramFilter::ButtonMatches(QStringLiteral("A"), QStringLiteral("A")));
 }

@@ -10,7 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -21,11 +20,6 @@ using Fields = QList<QByteArray>;
 QByteArray withChecksum(const QByteArray &body)
 {
     return body + "$$" + simframe::checksumField(simframe::splitFields(body));
-}
-
-bool matches(const QString &pattern, const QByteArray &text)
-{
-    return QRegularExpression(pattern).match(QString::fromUtf8(text)).hasMatch();
 }
 
 }  // namespace
@@ -100,7 +94,7 @@ void TestSimFrame::framesAndAnswers()
 void TestSimFrame::heatfileTexts_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("expected");  // the first segment as rate/°C/minutes, or why it is refused
+    QTest::addColumn<QString>("expected");  // the first segment as rate/°C/minutes, or why it is refused (no "/")
 
     // Kelvin and seconds on the line, argon after every hold of an argon program.
     QTest::newRow("argon") << QByteArray("[metainfo];name=Ti Sinter 2;manufacturer=Metallix;material=Argon;favorite=true;"
@@ -133,7 +127,7 @@ void TestSimFrame::heatfileTexts()
     heatfile::Program program = untouched;
     QString error;
     const bool read = heatfile::parse(text, &program, &error);
-    if (!matches(QStringLiteral("^\\d+/\\d+/\\d+$"), expected.toUtf8())) {
+    if (!expected.contains(QLatin1Char('/'))) { // a reason, not a segment
         QVERIFY(!read);
         QVERIFY2(error.contains(expected), qPrintable(error));
         QVERIFY(program == untouched);

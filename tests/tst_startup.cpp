@@ -5,16 +5,12 @@
 #include "simulatorprocess.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
-#include "widgets/iconbutton.h"
-#include "widgets/keyboard.h"
 #include "widgets/programbutton.h"
 
 #include <QLineEdit>
-#include <QPushButton>
-
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
@@ -31,9 +27,8 @@ class TestStartUp : public QObject
 
 private slots:
     void initTestCase();
-    void automaticSelftestLeadsToTheMainMenu();
+    void selftestThenAProgramTypedOnThePanelReachesTheController();
     void commissioningWalksTheSettingsPages();
-    void programCreatedOnThePanelReachesTheController();
 
 private:
     MainWindow *makeWindow(const QString &port, QTemporaryDir &home);
@@ -47,19 +42,17 @@ void TestStartUp::initTestCase()
 
 MainWindow *TestStartUp::makeWindow(const QString &port, QTemporaryDir &home)
 {
-    ovra::GlobalElements::PanelOptions options;
+    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
     options.port = port;
-    options.home = home.path();
-    options.keyPort = 0;
     options.selftestDelayMs = 300; // stands for the furnace's 7000 ms
     auto *window = new MainWindow(options);
     window->show();
     return window;
 }
 
-void TestStartUp::automaticSelftestLeadsToTheMainMenu()
+void TestStartUp::selftestThenAProgramTypedOnThePanelReachesTheController()
 {
-    Simulator sim({});
+    Simulator sim({QStringLiteral("--verbose")});
     const QString slave = sim.SlavePath();
     QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
@@ -78,6 +71,49 @@ void TestStartUp::automaticSelftestLeadsToTheMainMenu()
     QCOMPARE(view.Text("label_Name"), QStringLiteral("HAUPTMENÜ"));
     QVERIFY(view.Shown("widget_temp"));
     QTRY_VERIFY_WITH_TIMEOUT(!view.Text("label_Time").isEmpty(), 5000);
+    // The controller's own "main menu" after the self-test, before the user starts typing.
+    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 5000);
+
+    // The controller's user programs are listed.
+    window->Statemachine(Page::MyProgs);
+    QTRY_VERIFY_WITH_TIMEOUT(window->GetProgramButtons().size() >= 3, 5000);
+
+    // A new program, typed on the panel's own pads.
+    view.Tap("widget_myProgsNew");
+    QCOMPARE(window->CurrentPage(), Page::NewProg);
+    auto *editor = view.Find<ovra::GlobalElements::NewProgram>("widget_newProg");
+    const auto key = [editor](const QString &name) { PanelView::Click(editor->findChild<QWidget *>(name)); };
+    const auto type = [&](QLineEdit *field, const QString &digits) {
+        QTest::mouseClick(field, Qt::LeftButton);
+        for (const QChar d : digits)
+            key(QStringLiteral("pushButton_pad") + d);
+    };
+    ovra::GlobalElements::TableRow *row = editor->GetRows().first();
+    type(row->GetRateField(), QStringLiteral("25"));
+    type(row->GetTempField(), QStringLiteral("1450"));
+    type(row->GetTimeField(), QStringLiteral("40"));
+    key(QStringLiteral("pushButton_padEnter"));
+    ovra::GlobalElements::TableRow *second = editor->GetRows().at(1);
+    type(second->GetRateField(), QStringLiteral("10"));
+    type(second->GetTempField(), QStringLiteral("1530"));
+    type(second->GetTimeField(), QStringLiteral("120"));
+    key(QStringLiteral("widget_fwd"));
+    key(QStringLiteral("widget_fwdChart"));
+    for (const char *letter : {"shift", "k", "r", "o", "n", "e"})
+        key(QStringLiteral("pushButton_") + QLatin1String(letter));
+    QCOMPARE(editor->GetNameField()->text(), QStringLiteral("Krone"));
+    key(QStringLiteral("widget_save"));
+
+    // The controller stores exactly what the panel wrote; the panel shows the new program.
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("heatfile text: [metainfo];name=Krone;manufacturer=user;"
+                                                        "material=Zirkon;favorite=false;[1];rate=25;temp=1723;"
+                                                        "hold=2400;[2];rate=10;temp=1803;hold=7200;")),
+                             5000);
+    QVERIFY(sim.Printed(QStringLiteral("stored: Krone")));
+    QCOMPARE(window->CurrentPage(), Page::PlayProg);
+    QCOMPARE(view.Text("label_Name"), QStringLiteral("Krone"));
+    window->Statemachine(Page::MyProgs);
+    QVERIFY(window->GetProgramButtons().last()->GetText() == QStringLiteral("Krone"));
 }
 
 void TestStartUp::commissioningWalksTheSettingsPages()
@@ -106,66 +142,6 @@ void TestStartUp::commissioningWalksTheSettingsPages()
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("unit: f")), 5000);
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("commissioning done")), 5000);
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 5000);
-}
-
-void TestStartUp::programCreatedOnThePanelReachesTheController()
-{
-    Simulator sim({QStringLiteral("--verbose")});
-    const QString slave = sim.SlavePath();
-    QVERIFY(!slave.isEmpty());
-    QTemporaryDir home;
-    QScopedPointer<MainWindow> window(makeWindow(slave, home));
-    PanelView view(window.data());
-    QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::MainMenu, 15000);
-    // The controller's own "main menu" after the self-test, before the user starts typing.
-    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 5000);
-
-    // The controller's user programs are listed.
-    auto press = [](QWidget *w) {
-        auto *button = qobject_cast<QAbstractButton *>(w) ? qobject_cast<QAbstractButton *>(w)
-                                                           : w->findChild<QAbstractButton *>();
-        QTest::mouseClick(button, Qt::LeftButton);
-    };
-    window->Statemachine(Page::MyProgs);
-    QTRY_VERIFY_WITH_TIMEOUT(window->GetProgramButtons().size() >= 3, 5000);
-
-    // A new program, typed on the panel's own pads.
-    view.Tap("widget_myProgsNew");
-    QCOMPARE(window->CurrentPage(), Page::NewProg);
-    ovra::GlobalElements::NewProgram *editor = view.Find<ovra::GlobalElements::NewProgram>("widget_newProg");
-    auto type = [&](QLineEdit *field, const QString &digits) {
-        QTest::mouseClick(field, Qt::LeftButton);
-        for (const QChar d : digits)
-            press(editor->findChild<QPushButton *>(QStringLiteral("pushButton_pad") + d));
-    };
-    ovra::GlobalElements::TableRow *row = editor->GetRows().first();
-    type(row->GetRateField(), QStringLiteral("25"));
-    type(row->GetTempField(), QStringLiteral("1450"));
-    type(row->GetTimeField(), QStringLiteral("40"));
-    press(editor->findChild<QPushButton *>(QStringLiteral("pushButton_padEnter")));
-    ovra::GlobalElements::TableRow *second = editor->GetRows().at(1);
-    type(second->GetRateField(), QStringLiteral("10"));
-    type(second->GetTempField(), QStringLiteral("1530"));
-    type(second->GetTimeField(), QStringLiteral("120"));
-    press(editor->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_fwd")));
-    press(editor->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_fwdChart")));
-    ovra::GlobalElements::Keyboard *keyboard = editor->findChild<ovra::GlobalElements::Keyboard *>();
-    press(keyboard->findChild<QPushButton *>(QStringLiteral("pushButton_shift")));
-    for (const char *key : {"k", "r", "o", "n", "e"})
-        press(keyboard->findChild<QPushButton *>(QStringLiteral("pushButton_") + QLatin1String(key)));
-    QCOMPARE(editor->GetNameField()->text(), QStringLiteral("Krone"));
-    press(editor->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_save")));
-
-    // The controller stores exactly what the panel wrote; the panel shows the new program.
-    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("heatfile text: [metainfo];name=Krone;manufacturer=user;"
-                                                        "material=Zirkon;favorite=false;[1];rate=25;temp=1723;"
-                                                        "hold=2400;[2];rate=10;temp=1803;hold=7200;")),
-                             5000);
-    QVERIFY(sim.Printed(QStringLiteral("stored: Krone")));
-    QCOMPARE(window->CurrentPage(), Page::PlayProg);
-    QCOMPARE(view.Text("label_Name"), QStringLiteral("Krone"));
-    window->Statemachine(Page::MyProgs);
-    QVERIFY(window->GetProgramButtons().last()->GetText() == QStringLiteral("Krone"));
 }
 
 QTEST_MAIN(TestStartUp)

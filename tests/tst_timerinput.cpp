@@ -1,8 +1,7 @@
-// The popups' arithmetic without a widget: the delayed-start correction, the clock entry
-// check and the licence notice.
+// The popups' arithmetic without a widget: the delayed-start correction and the clock entry
+// check.
 
 #include "popups/datetimeentry.h"
-#include "popups/licensetext.h"
 #include "popups/timerinput.h"
 
 #include <QDate>
@@ -23,8 +22,6 @@ private slots:
     void splitDateTime();
     void invalidFields_data();
     void invalidFields();
-    void adjustTextsAndMonthLengths();
-    void licenseNotice();
 };
 
 void TstTimerInput::correctTimerEntry_data()
@@ -75,6 +72,9 @@ void TstTimerInput::splitDateTime()
     QVERIFY(SplitDateTime(QStringLiteral("03.04.2027"), QStringLiteral("09:05"), &e));
     QCOMPARE(QStringList({e.day, e.month, e.year, e.hour, e.minute}),
              QStringList({"03", "04", "2027", "09", "05"}));
+    QVERIFY(SplitDateTime(QStringLiteral("5.3.2027"), QStringLiteral("9:5"), &e));
+    QCOMPARE(DateAdjustText(e), QStringLiteral("20270305"));
+    QCOMPARE(TimeAdjustText(e), QStringLiteral("0905"));
 
     // A failed split must not leave half-filled fields behind.
     DateTimeEntry untouched;
@@ -115,29 +115,6 @@ void TstTimerInput::invalidFields()
     DateTimeEntry e;
     QVERIFY(SplitDateTime(date, time, &e));
     QCOMPARE(int(InvalidDateTimeFields(e)), int(invalid));
-}
-
-void TstTimerInput::adjustTextsAndMonthLengths()
-{
-    DateTimeEntry e;
-    QVERIFY(SplitDateTime(QStringLiteral("5.3.2027"), QStringLiteral("9:5"), &e));
-    QCOMPARE(DateAdjustText(e), QStringLiteral("20270305"));
-    QCOMPARE(TimeAdjustText(e), QStringLiteral("0905"));
-
-    QCOMPARE(DaysInMonth(2028, 2), 29);
-    QCOMPARE(DaysInMonth(2000, 2), 29);
-    QCOMPARE(DaysInMonth(2100, 2), 28);
-    QCOMPARE(DaysInMonth(2027, 4), 30);
-    QCOMPARE(DaysInMonth(2027, 13), 31);
-}
-
-void TstTimerInput::licenseNotice()
-{
-    const QString text = LicenseNoticeText(QStringLiteral("5.99.1"));
-    QVERIFY(text.contains(QStringLiteral("5.99.1")));
-    // The notice must say where the licence and the source are.
-    QVERIFY(text.contains(QStringLiteral("https://www.gnu.org/licenses/lgpl-3.0")));
-    QVERIFY(text.contains(QStringLiteral("https://download.qt.io/")));
 }
 
 QTEST_GUILESS_MAIN(TstTimerInput)

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -19,11 +20,8 @@ namespace {
 
 QByteArray noise(int size, quint32 seed)
 {
-    QByteArray data(size, Qt::Uninitialized);
-    for (int i = 0; i < size; ++i) {
-        seed = seed * 1664525u + 1013904223u;
-        data[i] = char(seed >> 24);
-    }
+    QByteArray data(size, Qt::Uninitialized); // size: a multiple of 4
+    QRandomGenerator(seed).fillRange(reinterpret_cast<quint32 *>(data.data()), qsizetype(size / 4));
     return data;
 }
 
