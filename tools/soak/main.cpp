@@ -79,7 +79,8 @@ public:
     }
 
     // One frame as the controller sends it: start and content, then the end byte alone.
-    Reply Send(const QByteArray &frame, int pieces = 1)
+    // `patienceMs`: how long a frame may wait for its answer once its end byte went again.
+    Reply Send(const QByteArray &frame, int pieces = 1, int patienceMs = 5000)
     {
         m_received.clear();
         m_line.Read(m_received, 0);
@@ -104,9 +105,11 @@ public:
         Reply reply = Await(200);
         if (reply == Reply::None) {
             // Head and end byte were read in one go: a lone end byte dispatches what is held.
+            // The wait is long because a loaded machine can hold the panel back for a second
+            // or more; a late answer is still an answer, only none at all counts against it.
             ++figures.endByteResent;
             m_line.WriteAndDrain(QByteArray(1, simframe::kEtx), 1000);
-            reply = Await(1000);
+            reply = Await(patienceMs);
         }
         return reply;
     }
@@ -146,7 +149,8 @@ public:
         QElapsedTimer timer;
         timer.start();
         while (timer.elapsed() < limitMs) {
-            if (Send(simframe::buildFrame(Body())) == Reply::Ack) {
+            // Short patience: while the line is still being reset, frames are lost by design.
+            if (Send(simframe::buildFrame(Body()), 1, 1000) == Reply::Ack) {
                 ++figures.answered;
                 figures.maxRecoveryMs = qMax(figures.maxRecoveryMs, timer.elapsed());
                 return timer.elapsed();
