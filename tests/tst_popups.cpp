@@ -327,7 +327,7 @@ void TstPopups::timeAdjustRefusesInvalidDateAndPads()
     QLineEdit *day = field(&popup, "lineEdit_day");
     auto *error = popup.findChild<QLabel *>(QStringLiteral("label_Error"));
 
-    clickAll(&popup, {"pushButton_Next", "pushButton_OK"}); // the day field must become current again
+    clickAll(&popup, {"pushButton_enter", "pushButton_ok"}); // the day field must become current again
     QCOMPARE(dates.count() + times.count(), 0);
     QVERIFY(popup.isVisible());
     QVERIFY(day->property("invalid").toBool());
@@ -336,16 +336,16 @@ void TstPopups::timeAdjustRefusesInvalidDateAndPads()
     QVERIFY(isCurrent(day));
 
     // Editing the marked field takes the mark away; the 3rd is accepted and sent padded.
-    click(&popup, "pushButton_Clear");
+    click(&popup, "pushButton_clr");
     QVERIFY(!day->property("invalid").toBool());
-    clickAll(&popup, {"pushButton_Clear", "pushButton_3", "pushButton_OK"});
+    clickAll(&popup, {"pushButton_clr", "pushButton_3", "pushButton_ok"});
     QCOMPARE(dates.count(), 1);
     QCOMPARE(dates.at(0).at(0).toString(), QStringLiteral("20270403"));
     QCOMPARE(times.at(0).at(0).toString(), QStringLiteral("0905"));
     QVERIFY(!popup.isVisible());
 
     QVERIFY(showPopup(&popup));
-    click(&popup, "pushButton_Cancel");
+    click(&popup, "pushButton_cancel");
     QCOMPARE(dates.count() + times.count(), 2);
     QVERIFY(!popup.isVisible());
 }
