@@ -38,9 +38,18 @@ void PopupBase::setVisible(bool visible)
     QDialog::setVisible(visible);
     if (visible && !isWindow()) {
         raise();
-        // Keys must not reach a field of the page behind.
-        if (!isAncestorOf(QApplication::focusWidget()))
-            setFocus(Qt::PopupFocusReason);
+        // Keys must not reach a field of the page behind: the popup's first field takes
+        // them, or the popup itself.
+        if (!isAncestorOf(QApplication::focusWidget())) {
+            QWidget *first = this;
+            for (QWidget *w = nextInFocusChain(); w != this && isAncestorOf(w); w = w->nextInFocusChain()) {
+                if ((w->focusPolicy() & Qt::TabFocus) && w->isVisibleTo(this) && w->isEnabled()) {
+                    first = w;
+                    break;
+                }
+            }
+            first->setFocus(Qt::PopupFocusReason);
+        }
     }
 }
 
