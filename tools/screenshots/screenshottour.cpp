@@ -3,7 +3,6 @@
 #include "app/mainwindow.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
-#include "popups/popuptempwarning.h"
 #include "popups/popupusb.h"
 #include "popups/timerpopup.h"
 #include "programs/newprogram.h"
@@ -197,13 +196,6 @@ QStringList ScreenshotTour::Run()
         }
         const QString name = QString::fromLatin1(popup->metaObject()->className()).section(QStringLiteral("::"), -1).toLower();
         SavePopup(numbered(QStringLiteral("popup_") + name), popup);
-    }
-    // The hot-door warning in the dark half of its blink.
-    if (auto *warning = m_window->findChild<Popups::PopupTempWarning *>()) {
-        warning->Show();
-        warning->SlotToggleGraphic();
-        Save(numbered(QStringLiteral("popup_popuptempwarning_blink")));
-        warning->Hide();
     }
     SaveLanguages(numbered);
     return m_written;
