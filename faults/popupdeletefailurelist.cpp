@@ -1,32 +1,23 @@
 #include "faults/popupdeletefailurelist.h"
 
-#include "ui_popupdeletefailurelist.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
 PopupDeleteFailureList::PopupDeleteFailureList(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupDeleteFailureList)
+    : PopupConfirm(Role::Danger, parent, "pushButton_OKDel", "pushButton_XDel")
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OKDel, ui->pushButton_XDel);
-    connect(ui->pushButton_OKDel, &QPushButton::clicked, this, &PopupDeleteFailureList::SlotOk);
-    connect(ui->pushButton_XDel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
+        if (confirmed)
+            emit SignalPopupDeleteFailureListButton();
+    });
+    Translate();
 }
-
-PopupDeleteFailureList::~PopupDeleteFailureList() = default;
 
 void PopupDeleteFailureList::Translate()
 {
-    ui->retranslateUi(this);
-}
-
-void PopupDeleteFailureList::SlotOk()
-{
-    emit SignalPopupDeleteFailureListButton();
-    accept();
+    SetTexts(QCoreApplication::translate("PopupDeleteFailureList", "Fehlerliste wird endgültig gelöscht!"));
 }
 
 } // namespace Popups

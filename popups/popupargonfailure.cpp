@@ -1,25 +1,23 @@
 #include "popups/popupargonfailure.h"
 
-#include "ui_popupargonfailure.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
-// The OK button reaches its slot through setupUi's connect-by-name.
 PopupArgonFailure::PopupArgonFailure(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupArgonFailure)
+    : PopupConfirm(Role::Danger, parent, "pushButton_ArgonFailureOK", nullptr)
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_ArgonFailureOK, nullptr);
+    resize(640, 360);
+    connect(this, &PopupConfirm::SignalAnswered, this, &PopupArgonFailure::on_pushButton_ArgonFailureOK_clicked);
+    Translate();
 }
-
-PopupArgonFailure::~PopupArgonFailure() = default;
 
 void PopupArgonFailure::Translate()
 {
-    ui->retranslateUi(this);
+    SetTexts(QCoreApplication::translate("PopupArgonFailure",
+                                         "Überprüfung der Argon Versorgung\nfehlgeschlagen.\n\nBitte die Anschlüsse und "
+                                         "Eingangsdruck\nüberprüfen und den Prozess neu starten."));
 }
 
 void PopupArgonFailure::on_pushButton_ArgonFailureOK_clicked()

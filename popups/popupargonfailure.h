@@ -1,24 +1,17 @@
 #pragma once
 
-#include "popups/popupbase.h"
-
-#include <memory>
-
-namespace Ui {
-class PopupArgonFailure;
-}
+#include "popups/popupconfirm.h"
 
 namespace ovra {
 namespace Popups {
 
 // Reports that the argon supply check failed and what to do about it.
-class PopupArgonFailure : public PopupBase
+class PopupArgonFailure : public PopupConfirm
 {
     Q_OBJECT
 
 public:
     explicit PopupArgonFailure(QWidget *parent = nullptr);
-    ~PopupArgonFailure() override;
 
     void Translate() override;
 
@@ -27,9 +20,6 @@ signals:
 
 public slots:
     void on_pushButton_ArgonFailureOK_clicked();
-
-private:
-    std::unique_ptr<Ui::PopupArgonFailure> ui;
 };
 
 } // namespace Popups

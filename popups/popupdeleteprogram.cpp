@@ -1,32 +1,23 @@
 #include "popups/popupdeleteprogram.h"
 
-#include "ui_popupdeleteprogram.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
 PopupDeleteProgram::PopupDeleteProgram(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupDeleteProgram)
+    : PopupConfirm(Role::Danger, parent)
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, ui->pushButton_Cancel);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &PopupDeleteProgram::SlotOk);
-    connect(ui->pushButton_Cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
+        if (confirmed)
+            emit SignalDeleteProgram();
+    });
+    Translate();
 }
-
-PopupDeleteProgram::~PopupDeleteProgram() = default;
 
 void PopupDeleteProgram::Translate()
 {
-    ui->retranslateUi(this);
-}
-
-void PopupDeleteProgram::SlotOk()
-{
-    emit SignalDeleteProgram();
-    accept();
+    SetTexts(QCoreApplication::translate("PopupDeleteProgram", "Programm wird endgültig gelöscht!"));
 }
 
 } // namespace Popups

@@ -1,36 +1,23 @@
 #pragma once
 
-#include "popups/popupbase.h"
-
-#include <memory>
-
-namespace Ui {
-class PopupDeleteProgram;
-}
+#include "popups/popupconfirm.h"
 
 namespace ovra {
 namespace Popups {
 
 // Asks before a program is deleted.
-class PopupDeleteProgram : public PopupBase
+class PopupDeleteProgram : public PopupConfirm
 {
     Q_OBJECT
 
 public:
     explicit PopupDeleteProgram(QWidget *parent = nullptr);
-    ~PopupDeleteProgram() override;
 
     void Translate() override;
 
 signals:
     // Sent only when the deletion is confirmed.
     void SignalDeleteProgram();
-
-private slots:
-    void SlotOk();
-
-private:
-    std::unique_ptr<Ui::PopupDeleteProgram> ui;
 };
 
 } // namespace Popups

@@ -1,38 +1,20 @@
 #include "popups/popupoverrideprog.h"
 
-#include "ui_popupoverrideprog.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
 PopupOverrideProg::PopupOverrideProg(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupOverrideProg)
+    : PopupConfirm(Role::Caution, parent)
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, ui->pushButton_Cancel);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &PopupOverrideProg::SlotOk);
-    connect(ui->pushButton_Cancel, &QPushButton::clicked, this, &PopupOverrideProg::SlotCancel);
+    connect(this, &PopupConfirm::SignalAnswered, this, &PopupOverrideProg::SignalOverrideProg);
+    Translate();
 }
-
-PopupOverrideProg::~PopupOverrideProg() = default;
 
 void PopupOverrideProg::Translate()
 {
-    ui->retranslateUi(this);
-}
-
-void PopupOverrideProg::SlotOk()
-{
-    emit SignalOverrideProg(true);
-    accept();
-}
-
-void PopupOverrideProg::SlotCancel()
-{
-    emit SignalOverrideProg(false);
-    reject();
+    SetTexts(QCoreApplication::translate("PopupOverrideProg", "Programm wird überschrieben!"));
 }
 
 } // namespace Popups

@@ -1,32 +1,23 @@
 #include "popups/popupquitprogram.h"
 
-#include "ui_popupquitprogram.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
 PopupQuitProgram::PopupQuitProgram(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupQuitProgram)
+    : PopupConfirm(Role::Danger, parent, "pushButton_okQuit", "pushButton_nokQuit")
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_okQuit, ui->pushButton_nokQuit);
-    connect(ui->pushButton_okQuit, &QPushButton::clicked, this, &PopupQuitProgram::SlotOk);
-    connect(ui->pushButton_nokQuit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
+        if (confirmed)
+            emit SignalQuitProgram();
+    });
+    Translate();
 }
-
-PopupQuitProgram::~PopupQuitProgram() = default;
 
 void PopupQuitProgram::Translate()
 {
-    ui->retranslateUi(this);
-}
-
-void PopupQuitProgram::SlotOk()
-{
-    emit SignalQuitProgram();
-    accept();
+    SetTexts(QCoreApplication::translate("PopupQuitProgram", "Programm wird endgültig gelöscht!"));
 }
 
 } // namespace Popups

@@ -1,38 +1,24 @@
 #include "popups/popupsettings.h"
 
-#include "ui_popupsettings.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
 PopupSettings::PopupSettings(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupSettings)
+    : PopupConfirm(Role::Danger, parent)
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, ui->pushButton_Cancel);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &PopupSettings::SlotOk);
-    connect(ui->pushButton_Cancel, &QPushButton::clicked, this, &PopupSettings::SlotCancel);
+    resize(560, 320);
+    connect(this, &PopupConfirm::SignalAnswered, this, &PopupSettings::SignalPopupSettingsButton);
+    Translate();
 }
-
-PopupSettings::~PopupSettings() = default;
 
 void PopupSettings::Translate()
 {
-    ui->retranslateUi(this);
-}
-
-void PopupSettings::SlotOk()
-{
-    emit SignalPopupSettingsButton(true);
-    accept();
-}
-
-void PopupSettings::SlotCancel()
-{
-    emit SignalPopupSettingsButton(false);
-    reject();
+    const QString title = QCoreApplication::translate("PopupSettings", "Werkseinstellungen");
+    SetTexts(QCoreApplication::translate(
+                 "PopupSettings", "Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!"),
+             title);
 }
 
 } // namespace Popups

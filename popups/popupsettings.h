@@ -1,37 +1,23 @@
 #pragma once
 
-#include "popups/popupbase.h"
-
-#include <memory>
-
-namespace Ui {
-class PopupSettings;
-}
+#include "popups/popupconfirm.h"
 
 namespace ovra {
 namespace Popups {
 
 // Asks before the factory settings are restored, which deletes every own program.
-class PopupSettings : public PopupBase
+class PopupSettings : public PopupConfirm
 {
     Q_OBJECT
 
 public:
     explicit PopupSettings(QWidget *parent = nullptr);
-    ~PopupSettings() override;
 
     void Translate() override;
 
 signals:
     // true: restore the factory settings; false: leave everything as it is.
     void SignalPopupSettingsButton(bool confirmed);
-
-private slots:
-    void SlotOk();
-    void SlotCancel();
-
-private:
-    std::unique_ptr<Ui::PopupSettings> ui;
 };
 
 } // namespace Popups

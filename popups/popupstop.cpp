@@ -1,38 +1,20 @@
 #include "popups/popupstop.h"
 
-#include "ui_popupstop.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
 
 namespace ovra {
 namespace Popups {
 
 PopupStop::PopupStop(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupStop)
+    : PopupConfirm(Role::Caution, parent)
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, ui->pushButton_Cancel);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &PopupStop::SlotOk);
-    connect(ui->pushButton_Cancel, &QPushButton::clicked, this, &PopupStop::SlotCancel);
+    connect(this, &PopupConfirm::SignalAnswered, this, &PopupStop::SignalPopupStopButton);
+    Translate();
 }
-
-PopupStop::~PopupStop() = default;
 
 void PopupStop::Translate()
 {
-    ui->retranslateUi(this);
-}
-
-void PopupStop::SlotOk()
-{
-    emit SignalPopupStopButton(true);
-    accept();
-}
-
-void PopupStop::SlotCancel()
-{
-    emit SignalPopupStopButton(false);
-    reject();
+    SetTexts(QCoreApplication::translate("PopupStop", "Prozess wird abgebrochen!"));
 }
 
 } // namespace Popups

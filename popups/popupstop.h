@@ -1,37 +1,23 @@
 #pragma once
 
-#include "popups/popupbase.h"
-
-#include <memory>
-
-namespace Ui {
-class PopupStop;
-}
+#include "popups/popupconfirm.h"
 
 namespace ovra {
 namespace Popups {
 
 // Asks before a running process is aborted.
-class PopupStop : public PopupBase
+class PopupStop : public PopupConfirm
 {
     Q_OBJECT
 
 public:
     explicit PopupStop(QWidget *parent = nullptr);
-    ~PopupStop() override;
 
     void Translate() override;
 
 signals:
     // true: abort the process; false: keep it running.
     void SignalPopupStopButton(bool confirmed);
-
-private slots:
-    void SlotOk();
-    void SlotCancel();
-
-private:
-    std::unique_ptr<Ui::PopupStop> ui;
 };
 
 } // namespace Popups

@@ -11,10 +11,13 @@ PopupTempWarning::PopupTempWarning(QWidget *parent)
 {
     ui->setupUi(this);
 
-    // A hidden band must keep its room, or the text and button would jump with every blink.
-    QSizePolicy policy = ui->frame_Graphic->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    ui->frame_Graphic->setSizePolicy(policy);
+    // Only the band blinks: it pales and drops its symbols, keeping its place, so the card
+    // never turns into an empty white box and nothing on it jumps.
+    for (QWidget *symbol : {ui->label_Temp, ui->label_Door}) {
+        QSizePolicy policy = symbol->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        symbol->setSizePolicy(policy);
+    }
 
     m_blinkTimer.setInterval(defaultBlinkInterval);
     connect(&m_blinkTimer, &QTimer::timeout, this, &PopupTempWarning::SlotToggleGraphic);
@@ -71,7 +74,10 @@ void PopupTempWarning::SlotRequestDoorClose()
 void PopupTempWarning::SetGraphicVisible(bool visible)
 {
     m_graphicVisible = visible;
-    ui->frame_Graphic->setVisible(visible);
+    ui->label_Temp->setVisible(visible);
+    ui->label_Door->setVisible(visible);
+    ui->frame_Graphic->setProperty("lit", visible);
+    Repolish(ui->frame_Graphic);
 }
 
 } // namespace Popups

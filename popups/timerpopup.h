@@ -1,36 +1,22 @@
 #pragma once
 
-#include "popups/popupbase.h"
+#include "popups/datetimepopup.h"
 
 #include <QDateTime>
-#include <QVector>
 
 #include <functional>
-#include <memory>
-
-class QLineEdit;
-
-namespace Ui {
-class TimerPopup;
-}
 
 namespace ovra {
 namespace Popups {
 
-class DigitEntry;
-
-// Entry of a delayed start: date and time of day on a digit pad. OK turns the entry into
-// the request the controller takes ("timer==YYYYMMDD,HHMM"), moved onto a start that is not
-// in the past.
-class TimerPopup : public PopupBase
+// Entry of a delayed start. OK turns the entry into the request the controller takes
+// ("timer==YYYYMMDD,HHMM"), moved onto a start that is not in the past.
+class TimerPopup : public DateTimePopup
 {
     Q_OBJECT
 
 public:
     explicit TimerPopup(QWidget *parent = nullptr);
-    ~TimerPopup() override;
-
-    void Translate() override;
 
     // date "DD.MM.YYYY", time "HH:MM": with exactly three and two parts the fields are filled,
     // unmarked and the day field becomes current; otherwise nothing changes and false.
@@ -50,13 +36,11 @@ public slots:
     // Corrects the fields in place against the present date and time.
     void CheckInput();
 
-private slots:
-    void SlotOk();
+protected:
+    QString Title() const override;
+    void Confirm() override;
 
 private:
-    std::unique_ptr<Ui::TimerPopup> ui;
-    DigitEntry *m_entry;
-    QVector<QLineEdit *> m_fields;
     QString m_requestedTimer;
     std::function<QDateTime()> m_clock;
 };

@@ -1,5 +1,6 @@
 // The popups as the user and the main window meet them: what each button sends, that the
-// popup then goes away, the blinking door warning, and the two date/time entries.
+// popup then goes away, that it holds the page behind it, the blinking door warning, and the
+// two date/time entries.
 
 #include "faults/popupdeletefailurelist.h"
 #include "popups/popup.h"
@@ -75,6 +76,7 @@ private slots:
 
     void confirmButtons_data();
     void confirmButtons();
+    void overlayDimsAndHoldsThePage();
     void materialChoice();
     void tempWarningBlinksUntilHidden();
 
@@ -151,7 +153,8 @@ void TstPopups::confirmButtons()
     for (const bool ok : {true, false}) {
         if (!ok && cancelName.isEmpty())
             break;
-        auto popup = makePopup(name, m_host.get());
+        // Without a window to live in, a popup is a window of its own and answers the same.
+        auto popup = makePopup(name, ok ? m_host.get() : nullptr);
         QSignalSpy spy(popup.get(), signal.constData());
         QVERIFY(showPopup(popup.get()));
         click(popup.get(), (ok ? okName : cancelName).constData());
@@ -162,6 +165,32 @@ void TstPopups::confirmButtons()
         if (!spy.isEmpty())
             QCOMPARE(spy.at(0), ok ? okArgs : QVariantList{cancelArg});
     }
+}
+
+void TstPopups::overlayDimsAndHoldsThePage()
+{
+    // A popup made for a page still covers the whole window, which keeps every touch.
+    auto *page = new QWidget(m_host.get());
+    page->resize(800, 480);
+    auto *pageButton = new QPushButton(page);
+    pageButton->setGeometry(10, 420, 60, 50); // where the back button sits, beside the card
+    page->show();
+    const QColor before = m_host->grab().toImage().pixelColor(400, 5);
+    QSignalSpy pageTaps(pageButton, &QPushButton::clicked);
+    PopupStop popup(page);
+    popup.open();
+    QVERIFY(QTest::qWaitForWindowExposed(m_host.get()));
+    QCOMPARE(popup.parentWidget(), m_host.get());
+    QVERIFY(!popup.isWindow());
+    QCOMPARE(popup.geometry(), m_host->rect());
+    QVERIFY(m_host->grab().toImage().pixelColor(400, 5).lightness() < before.lightness());
+    QTest::mouseClick(m_host->windowHandle(), Qt::LeftButton, {}, QPoint(40, 445));
+    QCOMPARE(pageTaps.count(), 0);
+
+    click(&popup, "pushButton_OK");
+    QVERIFY(!popup.isVisible());
+    QTest::mouseClick(m_host->windowHandle(), Qt::LeftButton, {}, QPoint(40, 445));
+    QCOMPARE(pageTaps.count(), 1);
 }
 
 void TstPopups::materialChoice()
@@ -327,7 +356,7 @@ void TstPopups::timeAdjustRefusesInvalidDateAndPads()
     QLineEdit *day = field(&popup, "lineEdit_day");
     auto *error = popup.findChild<QLabel *>(QStringLiteral("label_Error"));
 
-    clickAll(&popup, {"pushButton_Next", "pushButton_OK"}); // the day field must become current again
+    clickAll(&popup, {"pushButton_enter", "pushButton_ok"}); // the day field must become current again
     QCOMPARE(dates.count() + times.count(), 0);
     QVERIFY(popup.isVisible());
     QVERIFY(day->property("invalid").toBool());
@@ -336,16 +365,16 @@ void TstPopups::timeAdjustRefusesInvalidDateAndPads()
     QVERIFY(isCurrent(day));
 
     // Editing the marked field takes the mark away; the 3rd is accepted and sent padded.
-    click(&popup, "pushButton_Clear");
+    click(&popup, "pushButton_clr");
     QVERIFY(!day->property("invalid").toBool());
-    clickAll(&popup, {"pushButton_Clear", "pushButton_3", "pushButton_OK"});
+    clickAll(&popup, {"pushButton_clr", "pushButton_3", "pushButton_ok"});
     QCOMPARE(dates.count(), 1);
     QCOMPARE(dates.at(0).at(0).toString(), QStringLiteral("20270403"));
     QCOMPARE(times.at(0).at(0).toString(), QStringLiteral("0905"));
     QVERIFY(!popup.isVisible());
 
     QVERIFY(showPopup(&popup));
-    click(&popup, "pushButton_Cancel");
+    click(&popup, "pushButton_cancel");
     QCOMPARE(dates.count() + times.count(), 2);
     QVERIFY(!popup.isVisible());
 }

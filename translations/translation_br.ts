@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>DD</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Verifique os campos marcados em vermelho.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ e reinicie o processo.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Data e hora</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>Data</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>DD</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>AAAA</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>Verifique os campos marcados em vermelho.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Definir horário de início</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>Data</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>DD</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>AAAA</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>TT</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>JJJJ</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Bitte die rot markierten Felder prüfen.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>Datum und Uhrzeit</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>TT</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>JJJJ</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Uhrzeit</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>Bitte die rot markierten Felder prüfen.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Startzeit festlegen</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>TT</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>JJJJ</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Uhrzeit</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 <context>

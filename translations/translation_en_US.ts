@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>DD</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>YYYY</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Please check the fields marked in red.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ and restart the process.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Date and time</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>Date</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>DD</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>YYYY</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Time</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>Please check the fields marked in red.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Set start time</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>Date</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>DD</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>YYYY</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Time</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 <context>

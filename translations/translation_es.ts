@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>DD</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Revise los campos marcados en rojo.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ y reinicie el proceso.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Fecha y hora</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>Fecha</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>DD</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>AAAA</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>Revise los campos marcados en rojo.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Fijar hora de inicio</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>Fecha</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>DD</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>AAAA</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>JJ</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>MM</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>AAAA</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>hh</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Vérifiez les champs marqués en rouge.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ puis relancez le processus.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Date et heure</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>Date</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>JJ</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>AAAA</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Heure</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>Vérifiez les champs marqués en rouge.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Définir l&apos;heure de départ</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>Date</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>JJ</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>MM</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>AAAA</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Heure</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>hh</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>mm</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>時</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>赤く表示された項目を確認してください。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>日付と時刻</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>日付</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>日</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>月</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>年</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>時刻</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>時</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>分</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>赤く表示された項目を確認してください。</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>開始時刻の設定</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>日付</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>日</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>月</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>年</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>時刻</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>時</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>分</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>날짜</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>일</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>월</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>년</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>시</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>분</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>빨간색으로 표시된 항목을 확인하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>날짜 및 시간</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>날짜</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>일</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>월</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>년</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>시간</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>시</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>분</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>빨간색으로 표시된 항목을 확인하십시오.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>시작 시간 설정</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>날짜</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>일</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>월</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>년</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>시간</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>시</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>분</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>ДД</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>ММ</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>ГГГГ</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>чч</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>мм</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>Проверьте поля, отмеченные красным.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>Дата и время</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>Дата</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>ДД</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>ММ</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>ГГГГ</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Время</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>чч</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>мм</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>Проверьте поля, отмеченные красным.</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Задать время старта</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>Дата</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>ДД</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>ММ</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>ГГГГ</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>Время</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>чч</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>мм</translation>
     </message>
 </context>
 <context>

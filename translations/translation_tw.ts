@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW">
 <context>
+    <name>DateTimePopup</name>
+    <message>
+        <source>Datum</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>TT</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>MM</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>JJJJ</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>hh</source>
+        <translation>時</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>Bitte die rot markierten Felder prüfen.</source>
+        <translation>請檢查標示為紅色的欄位。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ofen</source>
@@ -142,72 +177,12 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>日期與時間</translation>
     </message>
-    <message>
-        <source>Datum</source>
-        <translation>日期</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>日</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>月</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>年</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>時間</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>時</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>分</translation>
-    </message>
-    <message>
-        <source>Bitte die rot markierten Felder prüfen.</source>
-        <translation>請檢查標示為紅色的欄位。</translation>
-    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>設定啟動時間</translation>
-    </message>
-    <message>
-        <source>Datum</source>
-        <translation>日期</translation>
-    </message>
-    <message>
-        <source>TT</source>
-        <translation>日</translation>
-    </message>
-    <message>
-        <source>MM</source>
-        <translation>月</translation>
-    </message>
-    <message>
-        <source>JJJJ</source>
-        <translation>年</translation>
-    </message>
-    <message>
-        <source>Uhrzeit</source>
-        <translation>時間</translation>
-    </message>
-    <message>
-        <source>hh</source>
-        <translation>時</translation>
-    </message>
-    <message>
-        <source>mm</source>
-        <translation>分</translation>
     </message>
 </context>
 <context>

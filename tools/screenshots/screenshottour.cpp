@@ -15,7 +15,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 
 namespace ovra {
@@ -63,23 +62,12 @@ bool ScreenshotTour::Save(const QString &name)
 
 bool ScreenshotTour::SavePopup(const QString &name, QDialog *popup)
 {
+    // The popup is drawn inside the window, over the dimmed page.
     popup->open();
-    settle();
-    // The popup is its own window: paint it over the page as the user sees it.
-    QPixmap picture = m_window->grab();
-    {
-        QPainter painter(&picture);
-        painter.fillRect(picture.rect(), QColor(0, 0, 0, 90));
-        const QPoint at = m_window->mapFromGlobal(popup->mapToGlobal(QPoint(0, 0)));
-        painter.drawPixmap(at, popup->grab());
-    }
+    const bool saved = Save(name);
     popup->close();
     settle();
-    const QString path = m_folder + QLatin1Char('/') + name + QStringLiteral(".png");
-    if (!picture.save(path))
-        return false;
-    m_written << path;
-    return true;
+    return saved;
 }
 
 QStringList ScreenshotTour::Run()
@@ -98,6 +86,7 @@ QStringList ScreenshotTour::Run()
     Feed("initialstart");
     Feed("name==Ovra S1$$serialno==S1-2304-0087$$hwver==HX3-C$$swver==3.12.0$$ophours==1234");
     Feed("time==0935$$date==20261122$$temp==295$$lang==deutsch$$unit==c");
+    Feed("doorclosed"); // the firings below are hot: an open door would bring up the warning
     Feed("code==4711");
     Feed("stdoor==pass$$stheater==pass$$stcooling==fail");
     Feed("error==E1234,E201");
@@ -197,7 +186,10 @@ QStringList ScreenshotTour::Run()
     m_window->GenerateQRCode();
 
     m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
-    for (QDialog *popup : m_window->findChildren<QDialog *>()) {
+    const QList<QDialog *> popups = m_window->findChildren<QDialog *>();
+    for (QDialog *popup : popups) // one at a time, each over the page alone
+        popup->close();
+    for (QDialog *popup : popups) {
         if (auto *usb = qobject_cast<Popups::PopupUSB *>(popup)) {
             usb->SetText(QStringLiteral("  Firmware Aktualisierung...\n  Bitte warten..."));
             usb->SlotUpdateProgress(QStringLiteral("37%"));
