@@ -24,6 +24,18 @@ namespace Frame = ovra::Communication::Frame;
 
 namespace {
 void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+// Counts how often a hold starts to be timed.
+class CountingClock : public ovra::GlobalElements::HoldClock
+{
+public:
+    explicit CountingClock(int *restarts) : m_restarts(restarts) {}
+    void Restart() override { ++*m_restarts; }
+    qint64 ElapsedMs() const override { return 0; }
+
+private:
+    int *m_restarts;
+};
 } // namespace
 
 class TestFiring : public QObject
@@ -39,6 +51,7 @@ private slots:
     void pressingStartAgainCallsItOff();
     void preDrySteps();
     void delayedStart();
+    void programPageIsRebuiltOnEntry();
     void progressReportsDriveTheProcessPage();
     void resultAndStop();
     void chartOpensTheEditorOnlyWhileFiring();
@@ -164,6 +177,34 @@ void TestFiring::delayedStart()
     QVERIFY(m_panel->Shown("widget_playProgChange"));
 }
 
+void TestFiring::programPageIsRebuiltOnEntry()
+{
+    // A delayed start's note is up when the user leaves; the program changes meanwhile.
+    openProgram(QStringLiteral("Speed"));
+    m_window->GetTimerPopup()->SetClock([] { return QDateTime(QDate(2026, 11, 22), QTime(9, 0)); });
+    m_panel->Tap("widget_timerPlayProg");
+    QTRY_VERIFY(m_window->GetTimerPopup()->isVisible());
+    QTest::mouseClick(m_window->GetTimerPopup()->findChild<QPushButton *>(QStringLiteral("pushButton_ok")), Qt::LeftButton);
+    QVERIFY(m_panel->Widget("plainTextEdit_autostart") != nullptr);
+    send("guistate==3");
+    m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("Argon"));
+
+    // The controller brings the page back: name, material and estimate from the store.
+    send("guistate==17");
+    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Speed"));
+    QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
+    QVERIFY(m_panel->Widget("plainTextEdit_autostart") == nullptr);
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("13:58"));
+
+    // Back from the process page rebuilds it too; lower-case argon is not argon.
+    m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("argon"));
+    send("guistate==18");
+    m_window->SlotBackButtonClicked();
+    QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
+    QCOMPARE(m_panel->Text("widget_materialPlay"), QStringLiteral("argon"));
+    QCOMPARE(m_panel->Icon("widget_materialPlay"), QString());
+}
+
 void TestFiring::progressReportsDriveTheProcessPage()
 {
     send("guistate==3");
@@ -178,6 +219,13 @@ void TestFiring::progressReportsDriveTheProcessPage()
     send("temp==773$$hpinfo==Speed;80;1;heat");
     QVERIFY(!m_panel->Shown("widget_processPreDryInfo"));
     QVERIFY(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetProgressSeries()->count() > 0);
+
+    // The controller repeating its page report does not start the hold over.
+    int holdStarts = 0;
+    m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")
+        ->SetHoldClock(std::make_unique<CountingClock>(&holdStarts));
+    send("hpinfo==Speed;80;1;hold$$guistate==18$$hpinfo==Speed;80;1;hold");
+    QCOMPARE(holdStarts, 1);
 
     send("hpinfo==Speed;1;2"); // fewer than four fields: dropped
     QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("11:20"));
