@@ -10,6 +10,7 @@
 #include "widgets/iconcache.h"
 #include "widgets/keyboard.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFile>
 #include <QIcon>
@@ -17,6 +18,7 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QScroller>
+#include <QStyle>
 #include <QTimer>
 
 namespace ovra {
@@ -68,6 +70,7 @@ NewProgram::NewProgram(QWidget *parent)
 
     SetupDigitPad();
     SetupScrolling();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { MarkTypingField(now); });
 
     connect(ui->widget_back, &Iconbutton::Signal_ButtonClicked, this, &NewProgram::CheckNewProgram);
     connect(ui->widget_exit, &Iconbutton::Signal_ButtonClicked, this, &NewProgram::CheckNewProgram);
@@ -406,6 +409,26 @@ void NewProgram::LeaveEditor(Leave leave)
         emit SignalExitNewProg();
     else
         emit SignalBackToProgs();
+}
+
+void NewProgram::MarkTypingField(QWidget *focused)
+{
+    auto *field = qobject_cast<QLineEdit *>(focused);
+    bool inTable = false;
+    for (const TableRow *row : qAsConst(m_rows))
+        inTable = inTable || (field != nullptr && row->OwnsField(field));
+    if (!inTable || field == m_typingField)
+        return;
+    // Without a window focus (the pad takes none, a screen may not have one) the cell keeps its
+    // mark all the same: the style reads the property, not the focus.
+    for (QLineEdit *edit : {m_typingField.data(), field}) {
+        if (edit == nullptr)
+            continue;
+        edit->setProperty("typing", edit == field);
+        edit->style()->unpolish(edit);
+        edit->style()->polish(edit);
+    }
+    m_typingField = field;
 }
 
 QLineEdit *NewProgram::FocusedTableField() const
