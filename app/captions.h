@@ -67,6 +67,12 @@ constexpr const char *ProgressFailed = QT_TRANSLATE_NOOP("ovra::MainWindow::Main
 constexpr const char *ProgrammBeendet = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Programm beendet");
 constexpr const char *ProgrammAbgebrochen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Programm abgebrochen");
 constexpr const char *FehlerCode = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Fehler %1");
+// The program page's bottom row says what each button does; the time is the firing's end.
+constexpr const char *Trocknen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Trocknen");
+constexpr const char *Startzeit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Startzeit");
+constexpr const char *Tuer = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Tür");
+constexpr const char *Start = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Start");
+constexpr const char *EndeUm = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Ende %1");
 } // namespace Captions
 
 } // namespace Mainwindow

@@ -255,10 +255,12 @@ void MainWindow::ConnectOvenLink()
     connect(h, &MessageHandler::SignalTime, ui->widget_showTime, &GlobalElements::DisplayElementIcon::SetText);
     connect(h, &MessageHandler::SignalDate, ui->label_Date, &QLabel::setText);
     connect(h, &MessageHandler::SignalDate, ui->widget_showDate, &GlobalElements::DisplayElementIcon::SetText);
-    connect(h, &MessageHandler::SignalRemainingTime, ui->widget_showPlayTime,
-            &GlobalElements::DisplayElementIcon::SetText);
-    connect(h, &MessageHandler::SignalRemainingTime, ui->widget_showProcessTime,
-            &GlobalElements::DisplayElementIcon::SetText);
+    // The controller's "esttime" is the clock time the firing ends at, and says so.
+    connect(h, &MessageHandler::SignalRemainingTime, this, [this](const QString &end) {
+        const QString text = Caption(Captions::EndeUm).arg(end);
+        ui->widget_showPlayTime->SetText(text);
+        ui->widget_showProcessTime->SetText(text);
+    });
     connect(h, &MessageHandler::SignalOvenConnected, this, &MainWindow::Statemachine);
     connect(h, &MessageHandler::SignalSelftestDoor, ui->widget_testDoor,
             &GlobalElements::TestDisplayElement::SetIconResult);

@@ -217,6 +217,7 @@ private:
     void PreparePageProcess(int from);
     // The caption under the result symbol, in the language now shown; none without a result.
     void ShowResultCaption(const char *source);
+    void SetPlayButtonCaptions();
     void SetDeviceDataCaptions();
     void SetSelftestCaptions();
     void ApplyLanguage(const Settings::LanguageChoice &choice);

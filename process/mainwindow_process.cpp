@@ -118,6 +118,7 @@ void MainWindow::PreparePagePlay(int from)
     ui->horizontalLayout_playButtons->setSpacing(6);
     ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
     ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
+    SetPlayButtonCaptions();
     ui->widget_backPlayNewProg->setVisible(true);
     ui->widget_doorPlayNewProg->setVisible(true);
     ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
@@ -273,6 +274,14 @@ void MainWindow::ShowResultCaption(const char *source)
     ui->label_processResultText->setText(text);
 }
 
+void MainWindow::SetPlayButtonCaptions()
+{
+    ui->widget_timerPreDry->SetText(Caption(Captions::Trocknen));
+    ui->widget_timerPlayProg->SetText(Caption(Captions::Startzeit));
+    ui->widget_doorPlayNewProg->SetText(Caption(Captions::Tuer));
+    ui->widget_playNewProg->SetText(Caption(Captions::Start));
+}
+
 void MainWindow::SlotChartClicked()
 {
     // Only a running firing's program can be changed from its chart.
@@ -292,12 +301,14 @@ void MainWindow::CalculateProcessTime(GlobalElements::Program *program, unsigned
     using namespace Process::ProcessTime;
     const int oven = OvenCelsiusFromDisplay(ui->widget_tempPlay->GetText(), m_fahrenheit);
     const qint64 minutes = Minutes(*program->GetMatrix(), oven, preDry, m_fahrenheit);
-    ui->widget_showPlayTime->SetText(EndOfDay(StartClock(ui->label_Time->text(), timer), minutes));
+    ui->widget_showPlayTime->SetText(
+        Caption(Captions::EndeUm).arg(EndOfDay(StartClock(ui->label_Time->text(), timer), minutes)));
 }
 
 void MainWindow::DisplayRemainingTime(const QString &minutes)
 {
-    const QString end = Process::ProcessTime::EndOfDay(ui->label_Time->text(), minutes.toLongLong());
+    const QString end =
+        Caption(Captions::EndeUm).arg(Process::ProcessTime::EndOfDay(ui->label_Time->text(), minutes.toLongLong()));
     ui->widget_showPlayTime->SetText(end);
     ui->widget_showProcessTime->SetText(end);
 }

@@ -87,6 +87,7 @@ void MainWindow::RetranslateWindow()
     ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
     ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
     ShowResultCaption(m_resultSource);
+    SetPlayButtonCaptions();
 }
 
 void MainWindow::PreparePageLanguageSelect()

@@ -194,7 +194,7 @@ void TestFiring::programPageIsRebuiltOnEntry()
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Speed"));
     QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
     QVERIFY(m_panel->Widget("plainTextEdit_autostart") == nullptr);
-    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("13:58"));
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 13:58"));
 
     // Back from the process page rebuilds it too; lower-case argon is not argon.
     m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("argon"));
@@ -214,7 +214,7 @@ void TestFiring::progressReportsDriveTheProcessPage()
     QVERIFY(m_window->IsHeatProgramInProgress());
     QVERIFY(m_panel->Shown("widget_processPreDryInfo"));
     QVERIFY(!m_panel->Enabled("widget_exitProcessProg"));
-    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("11:35"));
+    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("Ende 11:35"));
 
     send("temp==773$$hpinfo==Speed;80;1;heat");
     QVERIFY(!m_panel->Shown("widget_processPreDryInfo"));
@@ -228,7 +228,7 @@ void TestFiring::progressReportsDriveTheProcessPage()
     QCOMPARE(holdStarts, 1);
 
     send("hpinfo==Speed;1;2"); // fewer than four fields: dropped
-    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("11:20"));
+    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("Ende 11:20"));
     send("hpinfo==Unknown;5;1;heat"); // a name not in the store switches nothing
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
 
@@ -377,9 +377,9 @@ void TestFiring::endTimeEstimate()
 {
     // Oven 20 °C, clock 10:00: ramps of 98 and 100 minutes, holds of 30 and 10.
     openProgram(QStringLiteral("Speed"));
-    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("13:58"));
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 13:58"));
     m_panel->Tap("widget_timerPreDry"); // +15 and (130 - 20) / 10 = 11
-    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("14:24"));
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 14:24"));
     // A maker's program with spaces around Argon still shows the gas symbol.
     openProgram(QStringLiteral("Glanz"));
     QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
