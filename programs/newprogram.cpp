@@ -10,7 +10,6 @@
 #include "widgets/iconcache.h"
 #include "widgets/keyboard.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QFile>
 #include <QIcon>
@@ -70,7 +69,6 @@ NewProgram::NewProgram(QWidget *parent)
 
     SetupDigitPad();
     SetupScrolling();
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { MarkTypingField(now); });
 
     connect(ui->widget_back, &Iconbutton::Signal_ButtonClicked, this, &NewProgram::CheckNewProgram);
     connect(ui->widget_exit, &Iconbutton::Signal_ButtonClicked, this, &NewProgram::CheckNewProgram);
@@ -143,6 +141,8 @@ bool NewProgram::eventFilter(QObject *watched, QEvent *event)
     QScrollBar *bar = ui->scrollArea_rows->verticalScrollBar();
     if (watched == bar && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
         ui->widget_head->SetRightInset(event->type() == QEvent::Show ? bar->width() : 0);
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress)
+        MarkTypingField(qobject_cast<QWidget *>(watched));
     return QWidget::eventFilter(watched, event);
 }
 
@@ -219,6 +219,8 @@ void NewProgram::AddRow(unsigned int rate, unsigned int temp, unsigned int time)
     row->SetTime(time);
     row->SetBackgroundVisible(true);
     m_rows.append(row);
+    for (QLineEdit *field : {row->GetRateField(), row->GetTempField(), row->GetTimeField()})
+        field->installEventFilter(this);
 }
 
 void NewProgram::ReadTableContent()
@@ -419,8 +421,8 @@ void NewProgram::MarkTypingField(QWidget *focused)
         inTable = inTable || (field != nullptr && row->OwnsField(field));
     if (!inTable || field == m_typingField)
         return;
-    // Without a window focus (the pad takes none, a screen may not have one) the cell keeps its
-    // mark all the same: the style reads the property, not the focus.
+    // Set on a tap as well as on the focus, which an inactive window never reports: the mark
+    // follows the cell the pad types into (the pad itself takes no focus).
     for (QLineEdit *edit : {m_typingField.data(), field}) {
         if (edit == nullptr)
             continue;
@@ -462,6 +464,7 @@ void NewProgram::OnPadEnter()
     // The new segment is typed next: give it the focus and bring it into view once laid out.
     TableRow *row = m_rows.last();
     row->GetRateField()->setFocus();
+    MarkTypingField(row->GetRateField());
     QPointer<TableRow> guard(row);
     QTimer::singleShot(0, this, [this, guard] {
         if (guard)
