@@ -498,7 +498,7 @@ e reinicie o processo.</translation>
     </message>
     <message>
         <source>Startzeit</source>
-        <translation>Hora início</translation>
+        <translation>Agendar</translation>
     </message>
     <message>
         <source>Tür</source>

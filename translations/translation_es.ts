@@ -498,7 +498,7 @@ y reinicie el proceso.</translation>
     </message>
     <message>
         <source>Startzeit</source>
-        <translation>Hora inicio</translation>
+        <translation>Programar</translation>
     </message>
     <message>
         <source>Tür</source>

@@ -498,7 +498,7 @@ puis relancez le processus.</translation>
     </message>
     <message>
         <source>Startzeit</source>
-        <translation>Heure départ</translation>
+        <translation>Différé</translation>
     </message>
     <message>
         <source>Tür</source>

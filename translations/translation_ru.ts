@@ -498,7 +498,7 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
     <message>
         <source>Startzeit</source>
-        <translation>Время старта</translation>
+        <translation>Таймер</translation>
     </message>
     <message>
         <source>Tür</source>
