@@ -163,8 +163,13 @@ void MainWindow::SetUpIcons()
 {
     for (Iconbutton *button : PageButtons()) {
         const QString name = button->objectName();
-        if (name.startsWith(QLatin1String("widget_back")))
+        if (name.startsWith(QLatin1String("widget_back"))) {
             button->SetIcon(QStringLiteral(":/Icons/back.png"));
+            // A page without a way back keeps its home button where every page has it.
+            QSizePolicy policy = button->sizePolicy();
+            policy.setRetainSizeWhenHidden(true);
+            button->setSizePolicy(policy);
+        }
         else if (name.startsWith(QLatin1String("widget_exit")))
             button->SetIcon(QStringLiteral(":/Icons/home.png"));
         else if (name.startsWith(QLatin1String("widget_fwd")))
