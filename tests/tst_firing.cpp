@@ -251,8 +251,11 @@ void TestFiring::resultAndStop()
     QVERIFY(!m_panel->Shown("widget_stopProcessProg"));
     QVERIFY(m_panel->Shown("widget_exitProcessProg"));
 
-    send("hpfailed");
+    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm beendet"));
+
+    send("error==E201$$hpfailed"); // the failure that ended the firing is named under the symbol
     QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen\nFehler E201"));
 
     // A stop keeps a failure symbol that was shown before it.
     m_panel->Widget("label_processResult")->setStyleSheet(QStringLiteral("background-image: url(:/Failure/schwer.png);"));
