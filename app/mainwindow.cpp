@@ -163,8 +163,13 @@ void MainWindow::SetUpIcons()
 {
     for (Iconbutton *button : PageButtons()) {
         const QString name = button->objectName();
-        if (name.startsWith(QLatin1String("widget_back")))
+        if (name.startsWith(QLatin1String("widget_back"))) {
             button->SetIcon(QStringLiteral(":/Icons/back.png"));
+            // A page without a way back keeps its home button where every page has it.
+            QSizePolicy policy = button->sizePolicy();
+            policy.setRetainSizeWhenHidden(true);
+            button->setSizePolicy(policy);
+        }
         else if (name.startsWith(QLatin1String("widget_exit")))
             button->SetIcon(QStringLiteral(":/Icons/home.png"));
         else if (name.startsWith(QLatin1String("widget_fwd")))
@@ -255,10 +260,12 @@ void MainWindow::ConnectOvenLink()
     connect(h, &MessageHandler::SignalTime, ui->widget_showTime, &GlobalElements::DisplayElementIcon::SetText);
     connect(h, &MessageHandler::SignalDate, ui->label_Date, &QLabel::setText);
     connect(h, &MessageHandler::SignalDate, ui->widget_showDate, &GlobalElements::DisplayElementIcon::SetText);
-    connect(h, &MessageHandler::SignalRemainingTime, ui->widget_showPlayTime,
-            &GlobalElements::DisplayElementIcon::SetText);
-    connect(h, &MessageHandler::SignalRemainingTime, ui->widget_showProcessTime,
-            &GlobalElements::DisplayElementIcon::SetText);
+    // The controller's "esttime" is the clock time the firing ends at, and says so.
+    connect(h, &MessageHandler::SignalRemainingTime, this, [this](const QString &end) {
+        const QString text = Caption(Captions::EndeUm).arg(end);
+        ui->widget_showPlayTime->SetText(text);
+        ui->widget_showProcessTime->SetText(text);
+    });
     connect(h, &MessageHandler::SignalOvenConnected, this, &MainWindow::Statemachine);
     connect(h, &MessageHandler::SignalSelftestDoor, ui->widget_testDoor,
             &GlobalElements::TestDisplayElement::SetIconResult);

@@ -212,7 +212,12 @@ private:
     void PreparePageUSBMenu();
     void PreparePageChangeProgram(const QString &name);
     void PreparePagePlay(int from);
-    void PreparePageProcess();
+    // Fills the program or process page from a program without switching to it.
+    void FillProgramPage(GlobalElements::Program *program, bool play);
+    void PreparePageProcess(int from);
+    // The caption under the result symbol, in the language now shown; none without a result.
+    void ShowResultCaption(const char *source);
+    void SetPlayButtonCaptions();
     void SetDeviceDataCaptions();
     void SetSelftestCaptions();
     void ApplyLanguage(const Settings::LanguageChoice &choice);
@@ -306,6 +311,12 @@ private:
     unsigned int m_currentTemp = 0;
     bool m_argonOven = false;
     QPlainTextEdit *m_autostartNote = nullptr;
+    // The program last shown on the program or process page: the program page is rebuilt from
+    // it whenever it is entered, by back or by the controller, when the title holds another page's.
+    QString m_shownProgramName;
+    // Set while Slot_ShowChoosenProgram switches to the page it has just filled.
+    bool m_programPageFilled = false;
+    const char *m_resultSource = nullptr;
 
     // Navigation memory.
     Page m_currentPage = Page::StartUp;

@@ -37,7 +37,7 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
         title = ui->label_Name->text();
         upperCase = false;
     } else if (page == Page::ProcessProg) {
-        PreparePageProcess();
+        PreparePageProcess(from);
         ui->stackedWidget_main->setCurrentIndex(0);
         title = ui->label_Name->text();
         upperCase = false;

@@ -1,5 +1,6 @@
 #include "communication/communicator.h"
 
+#include "communication/frame.h"
 #include "communication/messagehandler.h"
 
 #include <QDebug>
@@ -55,9 +56,7 @@ void Communicator::Dispatch(const QByteArray &frame)
 {
     qDebug() << "received data: " << frame;
 
-    const int zero = frame.indexOf('\0');
-    const QString text = QString::fromLatin1(frame.constData(), zero >= 0 ? zero : frame.size());
-    const QByteArray answer = m_handler->HandleMessage(text);
+    const QByteArray answer = m_handler->HandleMessage(Frame::ReceivedText(frame));
     if (!answer.isEmpty()) {
         m_port->write(answer);
         qDebug() << "Pis Answer: " << answer;

@@ -17,6 +17,7 @@
 #include "programs/heatfiletext.h"
 #include "ui_mainwindow.h"
 
+#include <QDebug>
 #include <QPlainTextEdit>
 #include <QTimer>
 
@@ -60,9 +61,18 @@ void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pagei
 {
     if (program == nullptr)
         return;
-    const bool play = page == Page::PlayProg;
+    FillProgramPage(program, page == Page::PlayProg);
+    ui->label_Name->setText(program->GetName());
+    m_programPageFilled = true;
+    Statemachine(page);
+    m_programPageFilled = false;
+}
+
+void MainWindow::FillProgramPage(GlobalElements::Program *program, bool play)
+{
     GlobalElements::Chart *chart = play ? ui->widget_chart_play : ui->widget_chart_process;
     GlobalElements::DisplayElementIcon *material = play ? ui->widget_materialPlay : ui->widget_materialProcess;
+    m_shownProgramName = program->GetName();
 
     // A maker's program is shown only in outline.
     const bool userProgram = ProgramHandler::ProgramHandler::IsUserProgram(program);
@@ -70,25 +80,23 @@ void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pagei
 
     material->SetText(program->GetMaterial());
     material->SetIcon(Process::IsArgon(program->GetMaterial()) ? QStringLiteral(":/Play/Gas.png") : QString());
-    if (play) {
-        if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
-            ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
-            delete m_autostartNote;
-            m_autostartNote = nullptr;
-            ui->horizontalLayout_playButtons->setSpacing(6);
-        }
-        // A program is shown without pre-dry and without a delayed start.
-        ui->widget_timerPreDry->SetChecked(false);
-        ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
-        ui->widget_timerPlayProg->SetChecked(false);
-        m_timerPopup->ResetRequest();
-        m_preDryMinutes = 0;
-        CalculateProcessTime(program, 0, m_timerPopup->GetRequestedTimer());
-        ui->widget_playProgChange->setVisible(userProgram);
-        ui->widget_playProgDelete->setVisible(userProgram);
+    if (!play)
+        return;
+    if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
+        ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
+        delete m_autostartNote;
+        m_autostartNote = nullptr;
+        ui->horizontalLayout_playButtons->setSpacing(6);
     }
-    ui->label_Name->setText(program->GetName());
-    Statemachine(page);
+    // A program is shown without pre-dry and without a delayed start.
+    ui->widget_timerPreDry->SetChecked(false);
+    ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
+    ui->widget_timerPlayProg->SetChecked(false);
+    m_timerPopup->ResetRequest();
+    m_preDryMinutes = 0;
+    CalculateProcessTime(program, 0, m_timerPopup->GetRequestedTimer());
+    ui->widget_playProgChange->setVisible(userProgram);
+    ui->widget_playProgDelete->setVisible(userProgram);
 }
 
 void MainWindow::PreparePagePlay(int from)
@@ -98,9 +106,19 @@ void MainWindow::PreparePagePlay(int from)
     ui->widget_playNewProg->SetChecked(false);
     ui->widget_timerPlayProg->SetChecked(false);
     ui->widget_timerPreDry->SetChecked(false);
+    // Entered by back or by the controller, the page is rebuilt from the store: the program
+    // may have been changed since, and a delayed start's note must not outlive its request.
+    if (!m_programPageFilled && !m_shownProgramName.isEmpty()) {
+        if (GlobalElements::Program *program = m_programHandler->GetProgramByName(m_shownProgramName))
+            FillProgramPage(program, true);
+        else
+            qDebug() << "program page: program no longer stored:" << m_shownProgramName;
+        ui->label_Name->setText(m_shownProgramName);
+    }
     ui->horizontalLayout_playButtons->setSpacing(6);
     ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
     ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
+    SetPlayButtonCaptions();
     ui->widget_backPlayNewProg->setVisible(true);
     ui->widget_doorPlayNewProg->setVisible(true);
     ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
@@ -108,9 +126,17 @@ void MainWindow::PreparePagePlay(int from)
         m_origins.playOrigin = static_cast<Page>(from);
 }
 
-void MainWindow::PreparePageProcess()
+void MainWindow::PreparePageProcess(int from)
 {
-    ui->widget_chart_process->ClearProgress();
+    // The controller repeats its page report during a firing: the fill and the hold clock
+    // carry on, and only a new firing starts them afresh (see SlotHeatfileInProgress).
+    if (!m_heatProgramInProgress)
+        ui->widget_chart_process->ClearProgress();
+    // Entered anew, the page shows no result of an earlier firing; repeated, it keeps its own.
+    if (from != Page::ProcessProg) {
+        ui->label_processResult->setStyleSheet(QString());
+        ShowResultCaption(nullptr);
+    }
     ui->widget_temp->setVisible(false);
     ui->widget_processErrorInfo->setEnabled(false);
     ui->widget_processErrorInfo->setVisible(false);
@@ -175,6 +201,8 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
         return;
     m_firingRecorder.Progress(report.program, ui->label_Date->text(), ui->label_Time->text(),
                               [this, &report] { return DescribeFiring(report.program); });
+    if (!m_heatProgramInProgress)
+        ui->widget_chart_process->ClearProgress();
     m_heatProgramInProgress = true;
     if (m_currentPage != Page::ProcessProg && !m_changeInProcess) {
         // A firing started elsewhere, or before the panel, brings the panel to it.
@@ -206,8 +234,10 @@ void MainWindow::SlotSetHeatProcessResult(const QString &result)
     if (result == QLatin1String("hpsuccess")) {
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/success.png);"));
         ui->widget_chart_process->UpdateChart(99, QStringLiteral("done"), m_currentTemp);
+        ShowResultCaption(Captions::ProgrammBeendet);
     } else {
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+        ShowResultCaption(Captions::ProgrammAbgebrochen);
     }
     m_heatProgramInProgress = false;
     ui->widget_exitProcessProg->setVisible(true);
@@ -224,12 +254,32 @@ void MainWindow::SlotReqStopHeatfile(bool confirmed)
     // A failure shown before the stop stays visible.
     if (!ui->label_processResult->styleSheet().contains(QLatin1String("Failure")))
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    ShowResultCaption(Captions::ProgrammAbgebrochen);
     m_messageHandler->SetRequest(Requests::Stop());
     m_heatProgramInProgress = false;
     ui->widget_exitProcessProg->setVisible(true);
     ui->widget_backProcessProg->setVisible(true);
     ui->widget_stopProcessProg->setVisible(false);
     ui->widget_doorProcessProg->setVisible(true);
+}
+
+void MainWindow::ShowResultCaption(const char *source)
+{
+    m_resultSource = source;
+    QString text = source != nullptr ? Caption(source) : QString();
+    // The newest failure of the firing is the one that ended it.
+    const QString failure = m_errorHandler->GetProcessErrorList().section(QLatin1Char('\n'), 0, 0);
+    if (source == Captions::ProgrammAbgebrochen && !failure.isEmpty())
+        text += QLatin1Char('\n') + Caption(Captions::FehlerCode).arg(failure);
+    ui->label_processResultText->setText(text);
+}
+
+void MainWindow::SetPlayButtonCaptions()
+{
+    ui->widget_timerPreDry->SetText(Caption(Captions::Trocknen));
+    ui->widget_timerPlayProg->SetText(Caption(Captions::Startzeit));
+    ui->widget_doorPlayNewProg->SetText(Caption(Captions::Tuer));
+    ui->widget_playNewProg->SetText(Caption(Captions::Start));
 }
 
 void MainWindow::SlotChartClicked()
@@ -251,12 +301,14 @@ void MainWindow::CalculateProcessTime(GlobalElements::Program *program, unsigned
     using namespace Process::ProcessTime;
     const int oven = OvenCelsiusFromDisplay(ui->widget_tempPlay->GetText(), m_fahrenheit);
     const qint64 minutes = Minutes(*program->GetMatrix(), oven, preDry, m_fahrenheit);
-    ui->widget_showPlayTime->SetText(EndOfDay(StartClock(ui->label_Time->text(), timer), minutes));
+    ui->widget_showPlayTime->SetText(
+        Caption(Captions::EndeUm).arg(EndOfDay(StartClock(ui->label_Time->text(), timer), minutes)));
 }
 
 void MainWindow::DisplayRemainingTime(const QString &minutes)
 {
-    const QString end = Process::ProcessTime::EndOfDay(ui->label_Time->text(), minutes.toLongLong());
+    const QString end =
+        Caption(Captions::EndeUm).arg(Process::ProcessTime::EndOfDay(ui->label_Time->text(), minutes.toLongLong()));
     ui->widget_showPlayTime->SetText(end);
     ui->widget_showProcessTime->SetText(end);
 }

@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QScroller>
+#include <QStyle>
 #include <QTimer>
 
 namespace ovra {
@@ -140,6 +141,8 @@ bool NewProgram::eventFilter(QObject *watched, QEvent *event)
     QScrollBar *bar = ui->scrollArea_rows->verticalScrollBar();
     if (watched == bar && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
         ui->widget_head->SetRightInset(event->type() == QEvent::Show ? bar->width() : 0);
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::MouseButtonPress)
+        MarkTypingField(qobject_cast<QWidget *>(watched));
     return QWidget::eventFilter(watched, event);
 }
 
@@ -216,6 +219,8 @@ void NewProgram::AddRow(unsigned int rate, unsigned int temp, unsigned int time)
     row->SetTime(time);
     row->SetBackgroundVisible(true);
     m_rows.append(row);
+    for (QLineEdit *field : {row->GetRateField(), row->GetTempField(), row->GetTimeField()})
+        field->installEventFilter(this);
 }
 
 void NewProgram::ReadTableContent()
@@ -408,6 +413,26 @@ void NewProgram::LeaveEditor(Leave leave)
         emit SignalBackToProgs();
 }
 
+void NewProgram::MarkTypingField(QWidget *focused)
+{
+    auto *field = qobject_cast<QLineEdit *>(focused);
+    bool inTable = false;
+    for (const TableRow *row : qAsConst(m_rows))
+        inTable = inTable || (field != nullptr && row->OwnsField(field));
+    if (!inTable || field == m_typingField)
+        return;
+    // Set on a tap as well as on the focus, which an inactive window never reports: the mark
+    // follows the cell the pad types into (the pad itself takes no focus).
+    for (QLineEdit *edit : {m_typingField.data(), field}) {
+        if (edit == nullptr)
+            continue;
+        edit->setProperty("typing", edit == field);
+        edit->style()->unpolish(edit);
+        edit->style()->polish(edit);
+    }
+    m_typingField = field;
+}
+
 QLineEdit *NewProgram::FocusedTableField() const
 {
     QWidget *focused = window()->focusWidget();
@@ -439,6 +464,7 @@ void NewProgram::OnPadEnter()
     // The new segment is typed next: give it the focus and bring it into view once laid out.
     TableRow *row = m_rows.last();
     row->GetRateField()->setFocus();
+    MarkTypingField(row->GetRateField());
     QPointer<TableRow> guard(row);
     QTimer::singleShot(0, this, [this, guard] {
         if (guard)

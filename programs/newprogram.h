@@ -5,6 +5,7 @@
 #include "programs/programtable.h"
 
 #include <QList>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -108,6 +109,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    // Marks the table cell the number pad types into; the mark stays while the pad is used.
+    void MarkTypingField(QWidget *focused);
+    QPointer<QLineEdit> m_typingField;
     enum class Leave { ToMainMenu, Back };
 
     void SetupDigitPad();

@@ -86,6 +86,8 @@ void MainWindow::RetranslateWindow()
     ui->widget_myProgsNew->SetText(Caption(Captions::NeuesProgramm));
     ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
     ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
+    ShowResultCaption(m_resultSource);
+    SetPlayButtonCaptions();
 }
 
 void MainWindow::PreparePageLanguageSelect()

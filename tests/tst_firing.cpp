@@ -24,6 +24,18 @@ namespace Frame = ovra::Communication::Frame;
 
 namespace {
 void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+// Counts how often a hold starts to be timed.
+class CountingClock : public ovra::GlobalElements::HoldClock
+{
+public:
+    explicit CountingClock(int *restarts) : m_restarts(restarts) {}
+    void Restart() override { ++*m_restarts; }
+    qint64 ElapsedMs() const override { return 0; }
+
+private:
+    int *m_restarts;
+};
 } // namespace
 
 class TestFiring : public QObject
@@ -39,6 +51,7 @@ private slots:
     void pressingStartAgainCallsItOff();
     void preDrySteps();
     void delayedStart();
+    void programPageIsRebuiltOnEntry();
     void progressReportsDriveTheProcessPage();
     void resultAndStop();
     void chartOpensTheEditorOnlyWhileFiring();
@@ -164,6 +177,34 @@ void TestFiring::delayedStart()
     QVERIFY(m_panel->Shown("widget_playProgChange"));
 }
 
+void TestFiring::programPageIsRebuiltOnEntry()
+{
+    // A delayed start's note is up when the user leaves; the program changes meanwhile.
+    openProgram(QStringLiteral("Speed"));
+    m_window->GetTimerPopup()->SetClock([] { return QDateTime(QDate(2026, 11, 22), QTime(9, 0)); });
+    m_panel->Tap("widget_timerPlayProg");
+    QTRY_VERIFY(m_window->GetTimerPopup()->isVisible());
+    QTest::mouseClick(m_window->GetTimerPopup()->findChild<QPushButton *>(QStringLiteral("pushButton_ok")), Qt::LeftButton);
+    QVERIFY(m_panel->Widget("plainTextEdit_autostart") != nullptr);
+    send("guistate==3");
+    m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("Argon"));
+
+    // The controller brings the page back: name, material and estimate from the store.
+    send("guistate==17");
+    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Speed"));
+    QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
+    QVERIFY(m_panel->Widget("plainTextEdit_autostart") == nullptr);
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 13:58"));
+
+    // Back from the process page rebuilds it too; lower-case argon is not argon.
+    m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("argon"));
+    send("guistate==18");
+    m_window->SlotBackButtonClicked();
+    QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
+    QCOMPARE(m_panel->Text("widget_materialPlay"), QStringLiteral("argon"));
+    QCOMPARE(m_panel->Icon("widget_materialPlay"), QString());
+}
+
 void TestFiring::progressReportsDriveTheProcessPage()
 {
     send("guistate==3");
@@ -173,14 +214,21 @@ void TestFiring::progressReportsDriveTheProcessPage()
     QVERIFY(m_window->IsHeatProgramInProgress());
     QVERIFY(m_panel->Shown("widget_processPreDryInfo"));
     QVERIFY(!m_panel->Enabled("widget_exitProcessProg"));
-    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("11:35"));
+    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("Ende 11:35"));
 
     send("temp==773$$hpinfo==Speed;80;1;heat");
     QVERIFY(!m_panel->Shown("widget_processPreDryInfo"));
     QVERIFY(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetProgressSeries()->count() > 0);
 
+    // The controller repeating its page report does not start the hold over.
+    int holdStarts = 0;
+    m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")
+        ->SetHoldClock(std::make_unique<CountingClock>(&holdStarts));
+    send("hpinfo==Speed;80;1;hold$$guistate==18$$hpinfo==Speed;80;1;hold");
+    QCOMPARE(holdStarts, 1);
+
     send("hpinfo==Speed;1;2"); // fewer than four fields: dropped
-    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("11:20"));
+    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("Ende 11:20"));
     send("hpinfo==Unknown;5;1;heat"); // a name not in the store switches nothing
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
 
@@ -203,8 +251,11 @@ void TestFiring::resultAndStop()
     QVERIFY(!m_panel->Shown("widget_stopProcessProg"));
     QVERIFY(m_panel->Shown("widget_exitProcessProg"));
 
-    send("hpfailed");
+    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm beendet"));
+
+    send("error==E201$$hpfailed"); // the failure that ended the firing is named under the symbol
     QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen\nFehler E201"));
 
     // A stop keeps a failure symbol that was shown before it.
     m_panel->Widget("label_processResult")->setStyleSheet(QStringLiteral("background-image: url(:/Failure/schwer.png);"));
@@ -329,12 +380,11 @@ void TestFiring::endTimeEstimate()
 {
     // Oven 20 °C, clock 10:00: ramps of 98 and 100 minutes, holds of 30 and 10.
     openProgram(QStringLiteral("Speed"));
-    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("13:58"));
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 13:58"));
     m_panel->Tap("widget_timerPreDry"); // +15 and (130 - 20) / 10 = 11
-    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("14:24"));
-    // A maker's program with spaces around Argon still shows the gas symbol.
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 14:24"));
+    // A maker's program cannot be deleted.
     openProgram(QStringLiteral("Glanz"));
-    QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
     QVERIFY(!m_panel->Shown("widget_playProgDelete"));
 }
 

@@ -1,11 +1,14 @@
 // Firings run end to end against the controller simulator, sped up: a start with pre-dry
 // through heat and hold to success, a firing stopped by the user, and the hot-door warning
-// following door and temperature reports.
+// following door and temperature reports; a program name with an umlaut stored on the
+// controller and read back after a restart of the panel.
 #include "panelview.h"
 #include "app/mainwindow.h"
 #include "popups/popupstop.h"
 #include "popups/popuptempwarning.h"
 #include "process/chart.h"
+#include "programs/program.h"
+#include "programs/programhandler.h"
 #include "simulatorprocess.h"
 #include "widgets/programbutton.h"
 
@@ -16,6 +19,8 @@
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <memory>
 
 using ovra::Mainwindow::MainWindow;
 using ovra::Mainwindow::Page;
@@ -64,6 +69,7 @@ class TestFiringWithSimulator : public QObject
 private slots:
     void initTestCase();
     void firings();
+    void umlautNameSurvivesARestart();
 
 private:
     QTemporaryDir m_dir;
@@ -154,6 +160,30 @@ void TestFiringWithSimulator::firings()
     press(warning->findChild<QPushButton *>(QStringLiteral("pushButton_DoorClose")));
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("door closed")), 5000);
     QTRY_VERIFY_WITH_TIMEOUT(!warning->isVisible(), 5000);
+}
+
+void TestFiringWithSimulator::umlautNameSurvivesARestart()
+{
+    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose"), QStringLiteral("--programs"),
+                   m_dir.path() + QStringLiteral("/programs.txt")});
+    const QString slave = sim.SlavePath();
+    QVERIFY(!slave.isEmpty());
+    QTemporaryDir home;
+    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
+    options.port = slave;
+    options.selftestDelayMs = 200;
+    const QString name = QStringLiteral("Br\u00FCcke");
+    auto panel = std::make_unique<MainWindow>(options);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
+    panel->GetProgramHandler()->Slot_AddProgramToList(new ovra::GlobalElements::Program(
+        name, QStringLiteral("Zirkon"), {{10, 1000, 5}}, QStringLiteral("user"), false));
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("stored: ") + name), 5000);
+
+    // The controller notices the silent line, waits for a panel and sends it every program.
+    panel.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("panel lost")), 10000);
+    panel = std::make_unique<MainWindow>(options);
+    QTRY_VERIFY_WITH_TIMEOUT(panel->GetProgramHandler()->GetProgramByName(name) != nullptr, 20000);
 }
 
 QTEST_MAIN(TestFiringWithSimulator)

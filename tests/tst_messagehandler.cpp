@@ -40,6 +40,7 @@ class TestMessageHandler : public QObject
 private slots:
     void checksumRules_data();
     void checksumRules();
+    void receivedText();
     void answerCarriesQueuedRequestsOnce();
     void badFramesAreNackedButOtherFieldsStillRun();
     void fieldSplitting_data();
@@ -70,8 +71,20 @@ void TestMessageHandler::checksumRules_data()
     QTest::newRow("checksum not a number") << QStringLiteral("\x02" "A$$x\x03") << false;
     QTest::newRow("separators not counted") << QStringLiteral("a$$b$$-195") << true;
     QTest::newRow("lone dollar counts") << controllerFrame("a$b") << true;
+    // A name sent as UTF-8 is read as UTF-8 and summed over the bytes it came in; bytes that
+    // are not UTF-8 are read one by one as before.
+    QTest::newRow("UTF-8 name") << Frame::ReceivedText(Frame::Build("name==Br\xC3\xBC" "cke")) << true;
+    QTest::newRow("Latin-1 name") << Frame::ReceivedText(Frame::Build("name==Br\xFC" "cke")) << true;
     QTest::newRow("wide char counts as 0")
         << (QStringLiteral("A") + QChar(0x20AC) + QStringLiteral("$$-65")) << true;
+}
+
+void TestMessageHandler::receivedText()
+{
+    QCOMPARE(Frame::ReceivedText("name==Br\xC3\xBC" "cke"), QStringLiteral("name==Br\u00FCcke"));
+    QCOMPARE(Frame::ReceivedText("name==Br\xFC" "cke"), QStringLiteral("name==Br\u00FCcke"));
+    QCOMPARE(Frame::ReceivedText("a\xC3"), QStringLiteral("a\u00C3")); // cut short: not UTF-8
+    QCOMPARE(Frame::ReceivedText(QByteArray("temp==1473\0junk", 15)), QStringLiteral("temp==1473"));
 }
 
 void TestMessageHandler::checksumRules()

@@ -455,6 +455,38 @@ e reinicie o processo.</translation>
         <source>Datum &amp; Uhrzeit</source>
         <translation>Data e hora</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Programa concluído</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Programa interrompido</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Erro %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Secagem</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Agendar</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>Fim %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

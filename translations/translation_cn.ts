@@ -455,6 +455,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum &amp; Uhrzeit</source>
         <translation>日期和时间</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>程序已完成</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>程序已中止</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>错误 %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>干燥</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>炉门</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>结束 %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

@@ -455,6 +455,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum &amp; Uhrzeit</source>
         <translation>Datum &amp; Uhrzeit</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Programm beendet</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Programm abgebrochen</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Fehler %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Trocknen</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Startzeit</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Tür</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>Ende %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

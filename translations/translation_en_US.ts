@@ -455,6 +455,38 @@ and restart the process.</translation>
         <source>Datum &amp; Uhrzeit</source>
         <translation>Date &amp; time</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Program finished</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Program aborted</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Error %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Dry</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Start time</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Door</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>End %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

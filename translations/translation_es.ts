@@ -455,6 +455,38 @@ y reinicie el proceso.</translation>
         <source>Datum &amp; Uhrzeit</source>
         <translation>Fecha y hora</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Programa terminado</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Programa cancelado</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Error %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Secar</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Programar</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Puerta</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>Fin %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

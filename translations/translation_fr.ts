@@ -455,6 +455,38 @@ puis relancez le processus.</translation>
         <source>Datum &amp; Uhrzeit</source>
         <translation>Date et heure</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Programme terminé</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Programme interrompu</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Erreur %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Séchage</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Différé</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Porte</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>Fin %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

@@ -455,6 +455,38 @@ e riavviare il processo.</translation>
         <source>Datum &amp; Uhrzeit</source>
         <translation>Data e ora</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Programma terminato</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Programma interrotto</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Errore %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Essiccare</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Ora avvio</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvio</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>Fine %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

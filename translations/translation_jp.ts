@@ -455,6 +455,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum &amp; Uhrzeit</source>
         <translation>日付と時刻</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>プログラム終了</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>プログラム中止</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>エラー %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>乾燥</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>開始時刻</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>ドア</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>終了 %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

@@ -455,6 +455,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum &amp; Uhrzeit</source>
         <translation>날짜 및 시간</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>프로그램 완료</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>프로그램 중단</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>오류 %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>건조</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>시작 시간</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>도어</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>종료 %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

@@ -455,6 +455,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum &amp; Uhrzeit</source>
         <translation>Дата и время</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>Программа завершена</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>Программа прервана</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>Ошибка %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>Сушка</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>Таймер</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>Дверь</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>Конец %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

@@ -455,6 +455,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum &amp; Uhrzeit</source>
         <translation>日期與時間</translation>
     </message>
+    <message>
+        <source>Programm beendet</source>
+        <translation>程式已完成</translation>
+    </message>
+    <message>
+        <source>Programm abgebrochen</source>
+        <translation>程式已中止</translation>
+    </message>
+    <message>
+        <source>Fehler %1</source>
+        <translation>錯誤 %1</translation>
+    </message>
+    <message>
+        <source>Trocknen</source>
+        <translation>乾燥</translation>
+    </message>
+    <message>
+        <source>Startzeit</source>
+        <translation>開始時間</translation>
+    </message>
+    <message>
+        <source>Tür</source>
+        <translation>爐門</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ende %1</source>
+        <translation>結束 %1</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>

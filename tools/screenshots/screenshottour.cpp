@@ -7,6 +7,7 @@
 #include "popups/timerpopup.h"
 #include "programs/newprogram.h"
 #include "programs/programhandler.h"
+#include "programs/tablerow.h"
 #include "widgets/button.h"
 #include "ui_mainwindow.h"
 
@@ -15,6 +16,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 
 namespace ovra {
@@ -115,8 +117,13 @@ QStringList ScreenshotTour::Run()
             Feed("stdoor==pass$$stheater==pass$$stcooling==fail$$st==fail");
         if (page == int(Page::ServicePIN))
             ui->lineEdit_servicePin->setText(QStringLiteral("12"));
-        if (page == int(Page::NewProg))
+        if (page == int(Page::NewProg)) {
             editor->AddRow(20, 900, 10);
+            // The user taps the new row's temperature: the cell the pad types into is marked.
+            QWidget *cell = editor->GetRows().last()->GetTempField();
+            QMouseEvent tap(QEvent::MouseButtonPress, QPointF(4, 4), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(cell, &tap);
+        }
         if (page == int(Page::ProcessProg))
             Feed("temp==1373$$hpinfo==Zirkon Speed;74;2;heat$$esttime==10:49");
         if (page == int(Page::DisplayManufacturer) || page == int(Page::DisplayMaterial)) {
