@@ -15,6 +15,7 @@
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
 #include "records/firingexport.h"
+#include "records/firingreport.h"
 #include "ui_mainwindow.h"
 
 #include <QDebug>
@@ -160,7 +161,8 @@ void MainWindow::RunUsbFileAction()
         success = !folder.isEmpty();
         if (success) {
             m_firingRecorder.Store().Flush();
-            success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false);
+            success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false,
+                                             Records::FiringReport::Writer(DeviceData(), m_fahrenheit));
             qDebug() << "usb: backup written to" << folder;
         }
     }
