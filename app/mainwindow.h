@@ -80,6 +80,7 @@ public:
     ProgramHandler::ProgramHandler *GetProgramHandler() const { return m_programHandler; }
     const QList<GlobalElements::ProgramButton *> &GetProgramButtons() const { return m_programButtons; }
     Ui::MainWindow *GetUi() const { return ui; }
+    const GlobalElements::Paths &GetPaths() const { return m_paths; }
     Page CurrentPage() const { return m_currentPage; }
     bool IsEditMode() const { return m_editMode; }
     bool IsInitialStartup() const { return m_initialStartup; }

@@ -145,11 +145,11 @@ void FiringPainter::Chart(QPainter *painter, const QRectF &box, const FiringChar
             mapped.append(map(p));
         painter->drawPolyline(mapped);
     };
-    QPen planned(slate, thin * 2, Qt::DashLine, Qt::FlatCap, Qt::RoundJoin);
-    painter->setPen(planned);
-    polyline(series.planned);
-    painter->setPen(QPen(orange, thin * 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    // The plan over the measurement: where the furnace followed it, both stay visible.
+    painter->setPen(QPen(orange, thin * 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     polyline(series.measured);
+    painter->setPen(QPen(slate, thin * 2, Qt::DashLine, Qt::FlatCap, Qt::RoundJoin));
+    polyline(series.planned);
     painter->restore();
 }
 

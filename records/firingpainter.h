@@ -23,8 +23,8 @@ public:
     // The result in words, translated.
     static QString ResultText(const QString &resultWord);
 
-    // Temperature over time: axes with their labels, the planned profile dashed, the measured
-    // line over it. Sizes scale with the font's pixel size, so one drawing serves screen and paper.
+    // Temperature over time: axes with their labels, the measured line, the planned profile
+    // dashed over it. Sizes scale with the font's pixel size, so one drawing serves screen and paper.
     static void Chart(QPainter *painter, const QRectF &box, const FiringChart::Series &series, bool fahrenheit,
                       int fontPixels);
 };
