@@ -44,6 +44,8 @@ int main(int argc, char *argv[])
     // reports need fonts, hence a GUI application, but never the panel's display.
     if (asksForInformationOnly(argc, argv)) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        // stderr carries the one-line reason only, not the toolkit's remarks on the session.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         QGuiApplication app(argc, argv);
         PanelOptions options;
         QString text;

@@ -155,6 +155,14 @@ bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceRepor
     FiringPainter::Chart(&painter, QRectF(margin, page.y, page.width(), chartHeight),
                          FiringChart::Build(record, fahrenheit, 2000), fahrenheit, textPixels);
     page.y += chartHeight;
+    // The legend: the measured line and the planned dashes, as drawn above.
+    const double legendY = page.y + textPixels * 0.8;
+    painter.setPen(QPen(QColor(0xE8, 0x70, 0x2A), 4));
+    painter.drawLine(QPointF(margin, legendY), QPointF(margin + 60, legendY));
+    painter.setPen(QPen(QColor(0x22, 0x31, 0x3F), 2, Qt::DashLine));
+    painter.drawLine(QPointF(margin + page.width() / 3, legendY), QPointF(margin + page.width() / 3 + 60, legendY));
+    painter.setPen(QColor(0x22, 0x31, 0x3F));
+    page.Row({QString(), tr("gemessen"), QString(), tr("geplant")}, {0.0, 0.07, 0.333, 0.403});
 
     page.Heading(tr("Fehler"));
     if (record.failures.isEmpty())
