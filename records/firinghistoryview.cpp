@@ -75,7 +75,7 @@ FiringHistoryView::FiringHistoryView(QWidget *parent)
     connect(m_ui->widget_closeFiringHistory, &GlobalElements::Iconbutton::Signal_ButtonClicked, this,
             &FiringHistoryView::SignalClose);
     connect(m_ui->listView_firings, &QListView::clicked, this, [this](const QModelIndex &index) { Open(index.row()); });
-    Retranslate();
+    // The texts are written when the list is filled: until then there is nothing to translate.
 }
 
 FiringHistoryView::~FiringHistoryView() = default;
