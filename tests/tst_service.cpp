@@ -46,6 +46,7 @@ private slots:
     void init();
     void startupScriptsGoIntoTheGivenHomeOnly();
     void factoryResetDeletesOwnProgramsFirst();
+    void backupKeepsEveryFiringOnPaper(); // before the stick is pulled for good
     void stickMenuFailsWithoutHanging();
     void qrCodeScansToTheDeviceData();
     void pinAndStickFromTheController();
@@ -167,6 +168,21 @@ void TestService::stickMenuFailsWithoutHanging()
     send("usb==out");
     QCOMPARE(m_usb->GetText(), failed);
     QCOMPARE(m_panel->Window()->CurrentPage(), Page::MainMenu);
+}
+
+void TestService::backupKeepsEveryFiringOnPaper()
+{
+    send(Heatfile("Krone", "user") + "$$name==Ovra S1$$serialno==S1-0087");
+    send("temp==573$$hpinfo==Krone;10;1;heat");
+    send("hpsuccess$$hpinfo==");
+    send("guistate==24");
+    QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuBackup")), QStringLiteral("  Erfolgreich."));
+    QStringList reports;
+    for (QDirIterator it(m_stick.path(), {QStringLiteral("*.pdf")}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
+        reports << it.next();
+    QCOMPARE(reports.size(), 1);
+    QVERIFY(reports[0].endsWith(QStringLiteral("/records/firing-1.pdf")));
+    QVERIFY(QFileInfo(reports[0]).size() > 1000);
 }
 
 void TestService::qrCodeScansToTheDeviceData()
