@@ -74,7 +74,8 @@ bool FiringHistory::Load(qint64 id, FiringRecord *record) const
         return false;
     const QSqlDatabase db = QSqlDatabase::database(m_connection, false);
     QSqlQuery q(db);
-    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed FROM firings f WHERE f.id = ?")
+    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed, f.device FROM firings f"
+                             " WHERE f.id = ?")
                   .arg(summaryColumns));
     q.addBindValue(id);
     if (!q.exec() || !q.next())
@@ -85,6 +86,7 @@ bool FiringHistory::Load(qint64 id, FiringRecord *record) const
     r.material = q.value(9).toString();
     r.preDryMinutes = q.value(10).toInt();
     r.delayedStart = q.value(11).toString();
+    r.device = q.value(12).toString();
 
     QSqlQuery samples(db);
     samples.setForwardOnly(true);

@@ -35,6 +35,7 @@ struct FiringRecord
     QString material;
     int preDryMinutes = 0;
     QString delayedStart;
+    QString device; // FiringReport::DeviceLines(); empty for firings recorded before it was kept
     QVector<Sample> samples;
     QList<QPair<QString, QString>> failures; // time, code; in the order they came
 };

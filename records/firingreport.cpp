@@ -73,11 +73,33 @@ QString Or(const QString &text)
 {
     return text.simplified().isEmpty() ? QStringLiteral("-") : text.simplified();
 }
+
+Settings::DeviceReport::Data FromLines(const QString &lines, const Settings::DeviceReport::Data &fallback)
+{
+    const QStringList values = lines.split(QLatin1Char('\n'));
+    if (lines.isEmpty() || values.size() < 5)
+        return fallback;
+    Settings::DeviceReport::Data device;
+    device.model = values.at(0);
+    device.serialNumber = values.at(1);
+    device.hardwareVersion = values.at(2);
+    device.softwareVersion = values.at(3);
+    device.operatingHours = values.at(4);
+    return device;
+}
 } // namespace
 
-bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceReport::Data &device, bool fahrenheit,
+QString FiringReport::DeviceLines(const Settings::DeviceReport::Data &device)
+{
+    return QStringList{device.model.simplified(), device.serialNumber.simplified(), device.hardwareVersion.simplified(),
+                       device.softwareVersion.simplified(), device.operatingHours.simplified()}
+        .join(QLatin1Char('\n'));
+}
+
+bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceReport::Data &fallback, bool fahrenheit,
                          const QString &path, QString *error)
 {
+    const Settings::DeviceReport::Data device = FromLines(record.device, fallback);
     QPdfWriter writer(path);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setResolution(dpi);

@@ -5,6 +5,8 @@
 #include "records/firingdetailview.h"
 #include "records/firinghistory.h"
 #include "records/firinghistoryview.h"
+#include "records/firingreport.h"
+#include "communication/messagehandler.h"
 #include "records/firingstore.h"
 #include "ui_mainwindow.h"
 
@@ -28,6 +30,13 @@ void MainWindow::ConnectRecords()
     connect(m_firingDetailView, &Records::FiringDetailView::SignalClose, m_firingDetailView, &QWidget::hide);
     connect(ui->stackedWidget, &QStackedWidget::currentChanged, this, &MainWindow::CloseFiringHistory);
     connect(ui->stackedWidget_main, &QStackedWidget::currentChanged, this, &MainWindow::CloseFiringHistory);
+    // Each firing keeps the furnace's data as it was, for its printed report. Connected after
+    // the device-data fields, so these are already filled in.
+    for (auto signal : {&Communication::MessageHandler::SignalTypeModelSeries, &Communication::MessageHandler::SignalSerialNumber,
+                        &Communication::MessageHandler::SignalHWVersion, &Communication::MessageHandler::SignalSWVersion,
+                        &Communication::MessageHandler::SignalOperatingHours})
+        connect(m_messageHandler, signal, this,
+                [this] { m_firingRecorder.Device(Records::FiringReport::DeviceLines(DeviceData())); });
 }
 
 void MainWindow::ShowFiringHistory()

@@ -94,8 +94,17 @@ void TestRecords::resultsAndInterruption()
     {
         FiringStore store(file);
         QVERIFY(!store.IsOpen() && !QFile::exists(file)); // no firing, no file
-        store.Begin(start(QStringLiteral("A")));
-        QVERIFY(store.IsOpen());
+    }
+    {
+        // A file from before the furnace data was kept with each firing.
+        QDir().mkpath(home.path() + QStringLiteral("/records"));
+        scalar(file, QStringLiteral("CREATE TABLE firings(id INTEGER PRIMARY KEY, program TEXT, heatfile TEXT, material"
+                                    " TEXT, predry INTEGER, delayed TEXT, start_date TEXT, start_time TEXT,"
+                                    " end_date TEXT, end_time TEXT, result TEXT)"));
+        FiringStore store(file);
+        FiringStart a = start(QStringLiteral("A"));
+        a.device = QStringLiteral("S1");
+        QCOMPARE(store.Begin(a), qint64(1));
         store.AddSample(0, 25.0);
         store.AddFailure(QStringLiteral("23.11.2026 10:05"), QStringLiteral("12"));
         store.End(Result::Failed, QStringLiteral("23.11.2026"), QStringLiteral("10:06"));
@@ -106,6 +115,7 @@ void TestRecords::resultsAndInterruption()
     QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
              QStringLiteral("A=failed,B=stopped"));
     QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT device FROM firings WHERE id = 1")).toString(), QStringLiteral("S1"));
     QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
 
     // Export: one line per firing, quoted where the text needs it, samples beside it.

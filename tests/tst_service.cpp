@@ -8,6 +8,8 @@
 #include "popups/popupqrcode.h"
 #include "popups/popupsettings.h"
 #include "popups/popupusb.h"
+#include "records/firinghistory.h"
+#include "records/firingstore.h"
 #include "programs/programhandler.h"
 #include "simulatorprocess.h"
 
@@ -183,6 +185,10 @@ void TestService::backupKeepsEveryFiringOnPaper()
     QCOMPARE(reports.size(), 1);
     QVERIFY(reports[0].endsWith(QStringLiteral("/records/firing-1.pdf")));
     QVERIFY(QFileInfo(reports[0]).size() > 1000);
+    // The furnace's data went with the firing, for an export without the controller.
+    ovra::Records::FiringRecord record;
+    QVERIFY(ovra::Records::FiringHistory(ovra::Records::FiringStore::FileIn(m_panel->Home())).Load(1, &record));
+    QVERIFY(record.device.startsWith(QStringLiteral("Ovra S1\nS1-0087\n")));
 }
 
 void TestService::qrCodeScansToTheDeviceData()
