@@ -118,7 +118,9 @@ void TestCommandLine::processExitCodes()
     QTemporaryDir home;
     {
         ovra::Records::FiringStore store(ovra::Records::FiringStore::FileIn(home.path()));
-        store.Begin({QStringLiteral("Krone, \"schnell\""), {}, {}, 0, {}, {}, {}});
+        ovra::Records::FiringStart cut;
+        cut.program = QStringLiteral("Krone, \"schnell\"");
+        store.Begin(cut);
         store.AddSample(0, 21.5);
     }
     const QString out = home.path() + QStringLiteral("/stick");
