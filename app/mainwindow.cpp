@@ -210,7 +210,7 @@ void MainWindow::SetUpIcons()
         {ui->widget_SettingsButtonDisplayOptions, ":/Icons/filter.png"},
         {ui->widget_SettingsButtonDeviceReset, ":/Icons/delete.png"},
         {ui->widget_LicenseButton, ":/Icons/license.png"},
-        {ui->widget_SettingsButtonFiringHistory, ":/Icons/processCheck.png"},
+        {ui->widget_SettingsButtonFiringHistory, ":/Icons/records.png"},
         {ui->widget_ServiceDeviceData, ":/Icons/devicedata.png"},
         {ui->widget_ServiceFailureMM, ":/Icons/failure.png"},
         {ui->widget_ServiceSelftest, ":/Icons/selftest.png"},
