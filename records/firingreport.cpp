@@ -172,7 +172,7 @@ bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceRepor
     }
 
     page.Heading(tr("Temperaturverlauf"));
-    const double chartHeight = 560;
+    const double chartHeight = 470;
     page.Room(chartHeight);
     FiringPainter::Chart(&painter, QRectF(margin, page.y, page.width(), chartHeight),
                          FiringChart::Build(record, fahrenheit, 2000), fahrenheit, textPixels);

@@ -285,6 +285,7 @@ qint64 ScreenshotTour::SeedFiringRecords()
             start.material = program->GetMaterial();
         }
         start.preDryMinutes = preDry;
+        start.device = QStringLiteral("Ovra S1\nS1-2304-0087\nHX3-C\n3.12.0 / R02E.1\n1210");
         start.date = date;
         start.time = time;
         return store.Begin(start);
