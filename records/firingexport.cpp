@@ -43,7 +43,7 @@ QString line(const QStringList &fields)
 } // namespace
 
 bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished,
-                   const ReportWriter &report)
+                   const ReportWriter &report, const std::function<void(int done, int total)> &progress)
 {
     if (dir.isEmpty() || !QDir().mkpath(dir)) {
         *error = QStringLiteral("cannot create %1").arg(dir);
@@ -57,7 +57,10 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
     QString csv = line({QStringLiteral("start"), QStringLiteral("end"), QStringLiteral("program"),
                         QStringLiteral("material"), QStringLiteral("pre-dry"), QStringLiteral("result"),
                         QStringLiteral("failures")});
+    int done = 0;
     for (const FiringSummary &firing : qAsConst(firings)) {
+        if (progress)
+            progress(done++, firings.size());
         FiringRecord record;
         if (!history.Load(firing.id, &record))
             continue;

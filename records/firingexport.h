@@ -19,9 +19,11 @@ using ReportWriter = std::function<bool(const FiringRecord &record, const QStrin
 // seconds, °C) from the records under home, UTF-8. False with a one-line reason when DIR
 // cannot be written. Without a running panel (closeUnfinished) a cut-off firing is closed as
 // interrupted first, as the panel's next start would; the running panel's own firing stays open.
-// With a report writer, DIR/firing-<id>.pdf beside each samples file.
+// With a report writer, DIR/firing-<id>.pdf beside each samples file. progress(done, total)
+// is called before each firing: a full store takes a minute or more.
 bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished = true,
-                   const ReportWriter &report = ReportWriter());
+                   const ReportWriter &report = ReportWriter(),
+                   const std::function<void(int done, int total)> &progress = {});
 
 } // namespace Records
 } // namespace ovra

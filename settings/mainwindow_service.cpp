@@ -18,6 +18,7 @@
 #include "records/firingreport.h"
 #include "ui_mainwindow.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QTimer>
 
@@ -161,8 +162,14 @@ void MainWindow::RunUsbFileAction()
         success = !folder.isEmpty();
         if (success) {
             m_firingRecorder.Store().Flush();
+            // Two thousand firings take minutes on the board: the controller's frames are
+            // answered meanwhile, and the popup counts up.
+            const auto progress = [this](int done, int total) {
+                m_popupUSB->SlotUpdateProgress(QString::number(done * 100 / std::max(total, 1)));
+                QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            };
             success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false,
-                                             Records::FiringReport::Writer(DeviceData(), m_fahrenheit));
+                                             Records::FiringReport::Writer(DeviceData(), m_fahrenheit), progress);
             qDebug() << "usb: backup written to" << folder;
         }
     }
