@@ -217,12 +217,7 @@ void MainWindow::FinishUsbAction(bool success, const QString &reason)
 
 QString MainWindow::DeviceReportText() const
 {
-    Settings::DeviceReport::Data device;
-    device.model = ui->widget_Data1->GetText();
-    device.serialNumber = ui->widget_Data2->GetText();
-    device.hardwareVersion = ui->widget_Data3->GetText();
-    device.softwareVersion = ui->widget_Data4->GetText();
-    device.operatingHours = ui->widget_Data5->GetText();
+    Settings::DeviceReport::Data device = DeviceData();
     device.failures = m_errorHandler->GetErrorList().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return Settings::DeviceReport::Text(device);
 }
