@@ -136,7 +136,8 @@ void TestCommandLine::processExitCodes()
                           QStringLiteral("/proc/version/records")});
     QVERIFY(process.waitForFinished(10000));
     QVERIFY(process.exitCode() != 0);
-    QCOMPARE(process.readAllStandardError().count('\n'), 1);
+    // The reason is the first line (a sanitizer build adds its own summary after it).
+    QCOMPARE(process.readAllStandardError().split('\n').first(), QByteArray("cannot create /proc/version/records"));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)
