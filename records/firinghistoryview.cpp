@@ -33,7 +33,8 @@ public:
         const QRect card = option.rect.adjusted(16, 4, -12, -4);
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(QColor(0xD5, 0xDC, 0xE3));
-        painter->setBrush((option.state & QStyle::State_Sunken) ? QColor(0xFD, 0xE9, 0xDC) : QColor(Qt::white));
+        // The row a finger is on (selected on the press) answers at once, in the pressed tint.
+        painter->setBrush((option.state & QStyle::State_Selected) ? QColor(0xFD, 0xE9, 0xDD) : QColor(Qt::white));
         painter->drawRoundedRect(QRectF(card).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
         const int side = card.height() - 16;
         FiringPainter::Symbol(painter, QRectF(card.left() + 12, card.top() + 8, side, side),
