@@ -41,6 +41,7 @@ constexpr const char *DatenSichern = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWi
 constexpr const char *QrCodeErzeugen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "QR Code erzeugen");
 constexpr const char *TuerOeffnenSchliessen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Tür öffnen/schließen");
 constexpr const char *Lizenz = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Lizenz");
+constexpr const char *Brennprotokolle = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Brennprotokolle");
 // A button shows "&&" as one ampersand; the page title has a single one.
 constexpr const char *DatumUhrzeitEinstellen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Datum && Uhrzeit einstellen");
 constexpr const char *DatumUhrzeitButton = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Datum && Uhrzeit");

@@ -3,8 +3,10 @@
 #include "app/mainwindow.h"
 #include "app/servicewatchdog.h"
 #include "records/firingexport.h"
+#include "records/firingreport.h"
 
 #include <QApplication>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include <cstdio>
@@ -38,16 +40,24 @@ int main(int argc, char *argv[])
 {
     using namespace ovra::GlobalElements;
 
-    // Help and version must work on a machine without a display.
+    // Help, version and the export must work on a machine without a display. The export's
+    // reports need fonts, hence a GUI application, but never the panel's display.
     if (asksForInformationOnly(argc, argv)) {
-        QCoreApplication app(argc, argv);
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // stderr carries the one-line reason only, not the toolkit's remarks on the session.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        QGuiApplication app(argc, argv);
         PanelOptions options;
         QString text;
         const CommandLine::Outcome outcome = CommandLine::Parse(app.arguments(), options, text);
         if (outcome != CommandLine::Outcome::Run)
             return printAndExit(outcome, text);
+        // Over a shell the furnace cannot be asked: its data stays open, the panel's is known.
+        ovra::Settings::DeviceReport::Data device;
+        device.softwareVersion = Pageinterface::versionInfo;
         QString error;
-        if (!ovra::Records::ExportFirings(options.home, options.exportRecordsDir, &error)) {
+        if (!ovra::Records::ExportFirings(options.home, options.exportRecordsDir, &error, true,
+                                          ovra::Records::FiringReport::Writer(device, false))) {
             std::fputs(qPrintable(error + QLatin1Char('\n')), stderr);
             return 1;
         }

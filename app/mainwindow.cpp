@@ -53,6 +53,7 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     ConnectNavigation();
     ConnectPageButtons();
     ConnectPrograms();
+    ConnectRecords();
 
     ui->stackedWidget_main->setCurrentIndex(1);
     ui->widget_timerPlayProg->SetCheckable(true);
@@ -214,6 +215,7 @@ void MainWindow::SetUpIcons()
         {ui->widget_SettingsButtonDisplayOptions, ":/Icons/filter.png"},
         {ui->widget_SettingsButtonDeviceReset, ":/Icons/delete.png"},
         {ui->widget_LicenseButton, ":/Icons/license.png"},
+        {ui->widget_SettingsButtonFiringHistory, ":/Icons/records.png"},
         {ui->widget_ServiceDeviceData, ":/Icons/devicedata.png"},
         {ui->widget_ServiceFailureMM, ":/Icons/failure.png"},
         {ui->widget_ServiceSelftest, ":/Icons/selftest.png"},

@@ -7,6 +7,7 @@
 #include "faults/selftestprogress.h"
 #include "process/firingrules.h"
 #include "records/firingrecorder.h"
+#include "settings/devicereport.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -55,6 +56,10 @@ class TimerPopup;
 namespace Settings {
 struct LanguageChoice;
 } // namespace Settings
+namespace Records {
+class FiringDetailView;
+class FiringHistoryView;
+} // namespace Records
 
 namespace Mainwindow {
 
@@ -75,6 +80,7 @@ public:
     ProgramHandler::ProgramHandler *GetProgramHandler() const { return m_programHandler; }
     const QList<GlobalElements::ProgramButton *> &GetProgramButtons() const { return m_programButtons; }
     Ui::MainWindow *GetUi() const { return ui; }
+    const GlobalElements::Paths &GetPaths() const { return m_paths; }
     Page CurrentPage() const { return m_currentPage; }
     bool IsEditMode() const { return m_editMode; }
     bool IsInitialStartup() const { return m_initialStartup; }
@@ -245,6 +251,14 @@ private:
     // Firing records: fed from the firing slots, never seen by the controller.
     Records::FiringRecorder m_firingRecorder{m_paths.Home()};
     Records::FiringStart DescribeFiring(const QString &program) const;
+    // The firing history, shown over the current page (records/mainwindow_records.cpp).
+    void ConnectRecords();
+    void ShowFiringHistory();
+    void OpenFiringRecord(qint64 id);
+    void CloseFiringHistory();
+    Settings::DeviceReport::Data DeviceData() const;
+    Records::FiringHistoryView *m_firingHistoryView = nullptr;
+    Records::FiringDetailView *m_firingDetailView = nullptr;
 
     // Owned components, created in this order. The parentless ones live until the
     // process ends; the popups belong to the window.

@@ -209,6 +209,7 @@ void MainWindow::PreparePageSettings()
     ui->widget_SettingsButtonDisplayOptions->setEnabled(false);
     ui->widget_SettingsButtonDeviceReset->SetText(Caption(Captions::Werkseinstellungen));
     ui->widget_LicenseButton->SetText(Caption(Captions::Lizenz));
+    ui->widget_SettingsButtonFiringHistory->SetText(Caption(Captions::Brennprotokolle));
 }
 
 void MainWindow::PreparePageService()

@@ -1,13 +1,13 @@
 #include "records/firingexport.h"
 
+#include "records/firinghistory.h"
 #include "records/firingstore.h"
+
+#include <algorithm>
+#include <limits>
 
 #include <QDir>
 #include <QFile>
-#include <QSqlDatabase>
-#include <QSqlQuery>
-#include <QTextStream>
-#include <QVariant>
 
 namespace ovra {
 namespace Records {
@@ -42,7 +42,8 @@ QString line(const QStringList &fields)
 }
 } // namespace
 
-bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished)
+bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished,
+                   const ReportWriter &report, const std::function<void(int done, int total)> &progress)
 {
     if (dir.isEmpty() || !QDir().mkpath(dir)) {
         *error = QStringLiteral("cannot create %1").arg(dir);
@@ -50,44 +51,38 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
     }
     if (closeUnfinished)
         FiringStore(FiringStore::FileIn(home)).Flush();
-    const QString connection = QStringLiteral("ovra-records-export");
-    bool ok = true;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
-        db.setDatabaseName(FiringStore::FileIn(home));
-        db.open();
-        QString csv = line({QStringLiteral("start"), QStringLiteral("end"), QStringLiteral("program"),
-                            QStringLiteral("material"), QStringLiteral("pre-dry"), QStringLiteral("result"),
-                            QStringLiteral("failures")});
-        QSqlQuery firings(QStringLiteral("SELECT id, start_date || ' ' || start_time, end_date || ' ' || end_time,"
-                                         " program, material, predry, result FROM firings ORDER BY id"),
-                          db);
-        while (ok && firings.next()) {
-            const qint64 id = firings.value(0).toLongLong();
-            QSqlQuery failures(db);
-            failures.prepare(QStringLiteral("SELECT time, text FROM failures WHERE firing = ? ORDER BY rowid"));
-            failures.addBindValue(id);
-            failures.exec();
-            QStringList failed;
-            while (failures.next())
-                failed << failures.value(0).toString() + QLatin1Char(' ') + failures.value(1).toString();
-            csv += line({firings.value(1).toString().trimmed(), firings.value(2).toString().trimmed(),
-                         firings.value(3).toString(), firings.value(4).toString(), firings.value(5).toString(),
-                         firings.value(6).toString(), failed.join(QStringLiteral("; "))});
-            QString samples = line({QStringLiteral("seconds"), QStringLiteral("celsius")});
-            QSqlQuery rows(db);
-            rows.prepare(QStringLiteral("SELECT seconds, celsius FROM samples WHERE firing = ? ORDER BY n"));
-            rows.addBindValue(id);
-            rows.exec();
-            while (rows.next())
-                samples += rows.value(0).toString() + QLatin1Char(',') + rows.value(1).toString()
-                           + QStringLiteral("\r\n");
-            ok = writeFile(QStringLiteral("%1/firing-%2-samples.csv").arg(dir).arg(id), samples, error);
-        }
-        ok = ok && writeFile(dir + QStringLiteral("/firings.csv"), csv, error);
+    const FiringHistory history(FiringStore::FileIn(home));
+    QList<FiringSummary> firings = history.List(std::numeric_limits<int>::max());
+    std::reverse(firings.begin(), firings.end());
+    QString csv = line({QStringLiteral("start"), QStringLiteral("end"), QStringLiteral("program"),
+                        QStringLiteral("material"), QStringLiteral("pre-dry"), QStringLiteral("result"),
+                        QStringLiteral("failures")});
+    int done = 0;
+    for (const FiringSummary &firing : qAsConst(firings)) {
+        if (progress)
+            progress(done++, firings.size());
+        FiringRecord record;
+        if (!history.Load(firing.id, &record))
+            continue;
+        QStringList failed;
+        for (const auto &failure : qAsConst(record.failures))
+            failed << failure.first + QLatin1Char(' ') + failure.second;
+        const auto when = [](const QString &date, const QString &time) {
+            return (date + QLatin1Char(' ') + time).trimmed();
+        };
+        csv += line({when(firing.startDate, firing.startTime), when(firing.endDate, firing.endTime), firing.program,
+                     record.material, QString::number(record.preDryMinutes), firing.result,
+                     failed.join(QStringLiteral("; "))});
+        QString samples = line({QStringLiteral("seconds"), QStringLiteral("celsius")});
+        for (const Sample &s : qAsConst(record.samples))
+            samples += QString::number(s.seconds) + QLatin1Char(',') + QString::number(s.celsius) + QStringLiteral("\r\n");
+        const QString base = QStringLiteral("%1/firing-%2").arg(dir).arg(firing.id);
+        if (!writeFile(base + QStringLiteral("-samples.csv"), samples, error))
+            return false;
+        if (report && !report(record, base + QStringLiteral(".pdf"), error))
+            return false;
     }
-    QSqlDatabase::removeDatabase(connection);
-    return ok;
+    return writeFile(dir + QStringLiteral("/firings.csv"), csv, error);
 }
 
 } // namespace Records

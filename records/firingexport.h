@@ -2,17 +2,28 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace ovra {
 namespace Records {
 
+struct FiringRecord;
+
 // RFC 4180: a field with a comma, quote or line break is quoted, quotes doubled.
 QString CsvField(const QString &text);
+
+// Writes one firing's printable report to a file; false with a reason.
+using ReportWriter = std::function<bool(const FiringRecord &record, const QString &path, QString *error)>;
 
 // Writes DIR/firings.csv (one line per firing) and DIR/firing-<id>-samples.csv (elapsed
 // seconds, °C) from the records under home, UTF-8. False with a one-line reason when DIR
 // cannot be written. Without a running panel (closeUnfinished) a cut-off firing is closed as
 // interrupted first, as the panel's next start would; the running panel's own firing stays open.
-bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished = true);
+// With a report writer, DIR/firing-<id>.pdf beside each samples file. progress(done, total)
+// is called before each firing: a full store takes a minute or more.
+bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished = true,
+                   const ReportWriter &report = ReportWriter(),
+                   const std::function<void(int done, int total)> &progress = {});
 
 } // namespace Records
 } // namespace ovra

@@ -22,6 +22,7 @@ void FiringRecorder::Progress(const QString &program, const QString &date, const
         start.program = program;
         start.date = date;
         start.time = time;
+        start.device = m_device;
         m_hasRequest = false;
         m_store.Begin(start);
         m_program = program;

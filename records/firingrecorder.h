@@ -18,6 +18,7 @@ public:
 
     void Requested(const FiringStart &start); // the panel's start, kept until the firing begins
     void Temperature(double celsius) { m_celsius = celsius; }
+    void Device(const QString &lines) { m_device = lines; } // kept with each firing from now on
     // date and time: the controller's, as last reported.
     void Progress(const QString &program, const QString &date, const QString &time,
                   const std::function<FiringStart()> &describe);
@@ -34,6 +35,7 @@ private:
     QString m_program;
     QString m_ended; // a firing ended by the panel whose last reports may still come
     double m_celsius = 0.0;
+    QString m_device;
     QElapsedTimer m_clock;
 };
 

@@ -61,6 +61,12 @@ void FiringStore::Open()
              && Exec(QStringLiteral("CREATE INDEX IF NOT EXISTS failures_firing ON failures(firing)"));
     if (!m_open)
         return;
+    // Files from before the furnace data was kept with each firing gain the column.
+    QSqlQuery columns(QStringLiteral("SELECT COUNT(*) FROM pragma_table_info('firings') WHERE name = 'device'"), db);
+    if (columns.next() && columns.value(0).toInt() == 0)
+        m_open = Exec(QStringLiteral("ALTER TABLE firings ADD COLUMN device TEXT"));
+    if (!m_open)
+        return;
     // Whatever was open when the panel last went away was cut off.
     CloseOpen(Result::Interrupted, QString(), QString());
     m_insertSample = std::make_unique<QSqlQuery>(db);
@@ -111,10 +117,10 @@ qint64 FiringStore::Begin(const FiringStart &start)
     db.transaction();
     QSqlQuery query(db);
     query.prepare(QStringLiteral("INSERT INTO firings(program, heatfile, material, predry, delayed, start_date,"
-                                 " start_time) VALUES(?, ?, ?, ?, ?, ?, ?)"));
+                                 " start_time, device) VALUES(?, ?, ?, ?, ?, ?, ?, ?)"));
     for (const QVariant &v : {QVariant(start.program), QVariant(start.heatfileText), QVariant(start.material),
                               QVariant(start.preDryMinutes), QVariant(start.delayedStart), QVariant(start.date),
-                              QVariant(start.time)})
+                              QVariant(start.time), QVariant(start.device)})
         query.addBindValue(v);
     if (!query.exec()) {
         qDebug() << "firing records: cannot begin" << query.lastError().text();

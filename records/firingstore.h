@@ -23,6 +23,7 @@ struct FiringStart
     QString delayedStart; // the requested "YYYYMMDD,HHMM" of a delayed start, else empty
     QString date;
     QString time;
+    QString device; // the furnace as the controller last described it: FiringReport::DeviceLines()
 };
 
 // One SQLite file of firings with their samples and failures. Samples go into an open

@@ -15,8 +15,10 @@
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
 #include "records/firingexport.h"
+#include "records/firingreport.h"
 #include "ui_mainwindow.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QTimer>
 
@@ -160,7 +162,14 @@ void MainWindow::RunUsbFileAction()
         success = !folder.isEmpty();
         if (success) {
             m_firingRecorder.Store().Flush();
-            success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false);
+            // Two thousand firings take minutes on the board: the controller's frames are
+            // answered meanwhile, and the popup counts up.
+            const auto progress = [this](int done, int total) {
+                m_popupUSB->SlotUpdateProgress(QString::number(done * 100 / std::max(total, 1)));
+                QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            };
+            success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false,
+                                             Records::FiringReport::Writer(DeviceData(), m_fahrenheit), progress);
             qDebug() << "usb: backup written to" << folder;
         }
     }
@@ -208,12 +217,7 @@ void MainWindow::FinishUsbAction(bool success, const QString &reason)
 
 QString MainWindow::DeviceReportText() const
 {
-    Settings::DeviceReport::Data device;
-    device.model = ui->widget_Data1->GetText();
-    device.serialNumber = ui->widget_Data2->GetText();
-    device.hardwareVersion = ui->widget_Data3->GetText();
-    device.softwareVersion = ui->widget_Data4->GetText();
-    device.operatingHours = ui->widget_Data5->GetText();
+    Settings::DeviceReport::Data device = DeviceData();
     device.failures = m_errorHandler->GetErrorList().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return Settings::DeviceReport::Text(device);
 }

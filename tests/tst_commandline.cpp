@@ -1,9 +1,12 @@
-// The panel's command line: defaults are the furnace's own, bad input exits with code 2.
+// The panel's command line: defaults are the furnace's own, bad input exits with code 2, the
+// records export over a shell.
 #include "app/commandline.h"
 #include "app/pageinterface.h"
 #include "app/paths.h"
+#include "records/firingstore.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using ovra::GlobalElements::CommandLine;
@@ -100,6 +103,32 @@ void TestCommandLine::processExitCodes()
     QCOMPARE(process.exitCode(), CommandLine::usageErrorExitCode);
     QVERIFY(process.readAllStandardError().contains("--key-port"));
     QVERIFY(process.readAllStandardOutput().isEmpty());
+
+    // The records over a shell: a firing cut off by a kill is exported as interrupted, with
+    // its samples and report; a folder that cannot be made gets one line on stderr.
+    QTemporaryDir home;
+    {
+        ovra::Records::FiringStore store(ovra::Records::FiringStore::FileIn(home.path()));
+        ovra::Records::FiringStart cut;
+        cut.program = QStringLiteral("Krone, \"schnell\"");
+        store.Begin(cut);
+        store.AddSample(0, 21.5);
+    }
+    const QString out = home.path() + QStringLiteral("/stick");
+    process.start(panel, {QStringLiteral("--home"), home.path(), QStringLiteral("--export-records"), out});
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitCode(), 0);
+    QFile csv(out + QStringLiteral("/firings.csv"));
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    QVERIFY(csv.readAll().contains(",\"Krone, \"\"schnell\"\"\",,0,interrupted,\r\n"));
+    QFile pdf(out + QStringLiteral("/firing-1.pdf"));
+    QVERIFY(pdf.open(QIODevice::ReadOnly) && pdf.read(5) == "%PDF-");
+    process.start(panel, {QStringLiteral("--home"), home.path(), QStringLiteral("--export-records"),
+                          QStringLiteral("/proc/version/records")});
+    QVERIFY(process.waitForFinished(10000));
+    QVERIFY(process.exitCode() != 0);
+    // The reason is the first line (a sanitizer build adds its own summary after it).
+    QCOMPARE(process.readAllStandardError().split('\n').first(), QByteArray("cannot create /proc/version/records"));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)

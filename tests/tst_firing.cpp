@@ -11,11 +11,14 @@
 #include "process/chart.h"
 #include "process/chartview.h"
 #include "programs/programhandler.h"
+#include "records/firingdetailview.h"
+#include "records/firinghistoryview.h"
 #include "widgets/iconbutton.h"
 #include "widgets/programbutton.h"
 
 #include <QLineSeries>
 #include <QPushButton>
+#include <QListView>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
@@ -60,6 +63,7 @@ private slots:
     void materialChangeAndInsulation();
     void argonCheckStopsTheFiring();
     void endTimeEstimate();
+    void failedFiringInTheHistory();
 
 private:
     QStringList send(const QByteArray &fields);
@@ -386,6 +390,36 @@ void TestFiring::endTimeEstimate()
     // A maker's program cannot be deleted.
     openProgram(QStringLiteral("Glanz"));
     QVERIFY(!m_panel->Shown("widget_playProgDelete"));
+}
+
+void TestFiring::failedFiringInTheHistory()
+{
+    // A firing that fails with a failure on the way is recorded with both.
+    send("hpinfo==Speed;95;1;heat");
+    send("error==E12");
+    send("hpfailed$$hpinfo==");
+    m_window->Statemachine(Page::Settings);
+    m_panel->Send("temp==293");
+    m_panel->Tap("widget_SettingsButtonFiringHistory");
+    auto *history = m_window->findChild<ovra::Records::FiringHistoryView *>();
+    auto *detail = m_window->findChild<ovra::Records::FiringDetailView *>();
+    QVERIFY(history->isVisible());
+    QCOMPARE(history->Count(), 1);
+    QCOMPARE(history->geometry(), m_window->rect()); // the whole screen, the header too
+
+    // A tap on the row opens it; the controller still sees the settings page, nothing else.
+    auto *list = history->findChild<QListView *>();
+    QVERIFY(list->visualRect(list->model()->index(0, 0)).height() >= 64);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+    QTRY_VERIFY(detail->isVisible());
+    QVERIFY(detail->Facts().join(QLatin1Char('|')).contains(QStringLiteral("E12")));
+    QVERIFY(!detail->GetSeries().planned.isEmpty());
+    for (const QString &request : m_panel->Send("temp==293"))
+        QCOMPARE(request, QStringLiteral("guistate==%1").arg(int(Page::Settings)));
+
+    // A page the controller selects closes both views.
+    m_panel->Send("guistate==3");
+    QVERIFY(!detail->isVisible() && !history->isVisible());
 }
 
 QTEST_MAIN(TestFiring)

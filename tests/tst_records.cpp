@@ -1,10 +1,16 @@
 // The firing record store: results as they happened and their export, the size bound, ten hours
 // of reports, and a process killed mid-firing: closed as interrupted on the next start, earlier
-// firings and the file intact.
+// firings and the file intact. Reading the history back, its chart and the printed report.
+#include "programs/heatfiletext.h"
+#include "programs/program.h"
+#include "records/firingchart.h"
 #include "records/firingexport.h"
+#include "records/firinghistory.h"
+#include "records/firingreport.h"
 #include "records/firingstore.h"
 
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QProcess>
 #include <QThread>
 #include <csignal>
@@ -52,6 +58,7 @@ private slots:
     void resultsAndInterruption();
     void boundAndTenHours();
     void killedMidFiring();
+    void historyChartAndReport();
 };
 
 void TestRecords::killedMidFiring()
@@ -87,8 +94,17 @@ void TestRecords::resultsAndInterruption()
     {
         FiringStore store(file);
         QVERIFY(!store.IsOpen() && !QFile::exists(file)); // no firing, no file
-        store.Begin(start(QStringLiteral("A")));
-        QVERIFY(store.IsOpen());
+    }
+    {
+        // A file from before the furnace data was kept with each firing.
+        QDir().mkpath(home.path() + QStringLiteral("/records"));
+        scalar(file, QStringLiteral("CREATE TABLE firings(id INTEGER PRIMARY KEY, program TEXT, heatfile TEXT, material"
+                                    " TEXT, predry INTEGER, delayed TEXT, start_date TEXT, start_time TEXT,"
+                                    " end_date TEXT, end_time TEXT, result TEXT)"));
+        FiringStore store(file);
+        FiringStart a = start(QStringLiteral("A"));
+        a.device = QStringLiteral("S1");
+        QCOMPARE(store.Begin(a), qint64(1));
         store.AddSample(0, 25.0);
         store.AddFailure(QStringLiteral("23.11.2026 10:05"), QStringLiteral("12"));
         store.End(Result::Failed, QStringLiteral("23.11.2026"), QStringLiteral("10:06"));
@@ -99,6 +115,7 @@ void TestRecords::resultsAndInterruption()
     QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
              QStringLiteral("A=failed,B=stopped"));
     QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT device FROM firings WHERE id = 1")).toString(), QStringLiteral("S1"));
     QCOMPARE(scalar(file, QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
 
     // Export: one line per firing, quoted where the text needs it, samples beside it.
@@ -143,9 +160,73 @@ void TestRecords::boundAndTenHours()
     QVERIFY(QFileInfo(file).size() < 2 * 1024 * 1024);
 }
 
+void TestRecords::historyChartAndReport()
+{
+    QTemporaryDir home;
+    const QString file = FiringStore::FileIn(home.path());
+    QVERIFY(FiringHistory(file).List().isEmpty()); // no file: no firings, and none made
+    QVERIFY(!QFile::exists(file));
+    const ovra::GlobalElements::Program program(QStringLiteral("Lang"), QStringLiteral("Zirkon"),
+                                                {{10, 1000, 30}, {5, 1500, 60}}, QStringLiteral("user"), false);
+    {
+        FiringStore store(file);
+        store.Begin(start(QStringLiteral("kurz")));
+        store.End(Result::Stopped, QString(), QString());
+        FiringStart ten = start(QStringLiteral("Lang"));
+        ten.heatfileText = ovra::GlobalElements::HeatfileText::Write(program);
+        store.Begin(ten);
+        // Ten hours at one report a second with one short overshoot in the middle.
+        for (int s = 0; s < 36000; ++s)
+            store.AddSample(s, s == 20000 ? 1600.0 : 20.0 + s % 1400);
+        store.AddFailure(QStringLiteral("23.11.2026 15:00"), QStringLiteral("E201"));
+        store.End(Result::Success, QStringLiteral("23.11.2026"), QStringLiteral("20:00"));
+    }
+    const FiringHistory history(file);
+    const QList<FiringSummary> list = history.List();
+    QCOMPARE(list.size(), 2);
+    QCOMPARE(list[0].program + list[0].result + FiringChart::DurationText(list[0].seconds),
+             QStringLiteral("Langsuccess9:59 h")); // newest first, last sample at 35,999 s
+    QCOMPARE(list[1].result + FiringChart::DurationText(list[1].seconds), QStringLiteral("stopped0:00 h"));
+
+    QElapsedTimer clock;
+    clock.start();
+    FiringRecord record;
+    QVERIFY(!history.Load(99, &record));
+    QVERIFY(history.Load(list[0].id, &record));
+    const FiringChart::Series series = FiringChart::Build(record, false, 1200);
+    qDebug() << "10 h record loaded and reduced in" << clock.elapsed() << "ms";
+    QCOMPARE(record.samples.size(), 36000);
+    QCOMPARE(record.failures.value(0).second, QStringLiteral("E201"));
+    QVERIFY(series.measured.size() <= 1200);
+    QVERIFY(std::any_of(series.measured.begin(), series.measured.end(), [](QPointF p) { return p.y() == 1600.0; }));
+    // Planned from the first sample (20 °C): 98 min up, 30 held, 100 min up, 60 held.
+    QCOMPARE(series.planned.last(), QPointF(288 * 60, 1500));
+    QCOMPARE(series.ticks.size(), 6); // 0:00 to 10:00 every two hours
+    QCOMPARE(series.ticks.last().text, QStringLiteral("10:00"));
+    QCOMPARE(FiringChart::TimeTicks(0).last().text, QStringLiteral("0:05"));
+
+    // Pre-dry heats to 130 °C at 10 °C/min first; a zero rate is a step, a fall takes its time.
+    const FiringChart::Points planned = FiringChart::PlannedProfile({{0, 500, 0}, {5, 400, 2}}, 30, 10);
+    QCOMPARE(planned, (FiringChart::Points{{0, 30}, {600, 130}, {1200, 130}, {1200, 500}, {2400, 400}, {2520, 400}}));
+
+    // The export with reports: one PDF page per firing beside its samples.
+    QString error;
+    const QString out = home.path() + QStringLiteral("/out");
+    QVERIFY(ExportFirings(home.path(), out, &error, true, FiringReport::Writer({}, false)));
+    for (const FiringSummary &firing : list) {
+        QFile pdf(QStringLiteral("%1/firing-%2.pdf").arg(out).arg(firing.id));
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        const QByteArray bytes = pdf.readAll();
+        qDebug() << pdf.fileName() << bytes.size() << "bytes";
+        QVERIFY(bytes.startsWith("%PDF") && bytes.endsWith("%%EOF\n"));
+        QCOMPARE(bytes.count("/Type /Page\n") + bytes.count("/Type /Page "), 1);
+    }
+    QVERIFY(!FiringReport::Write(record, {}, false, QStringLiteral("/proc/version/x.pdf"), &error));
+}
+
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
+    QGuiApplication app(argc, argv);
     const QString childFile = qEnvironmentVariable("OVRA_RECORDS_CHILD");
     if (!childFile.isEmpty()) {
         FiringStore store(childFile);

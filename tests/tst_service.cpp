@@ -8,6 +8,8 @@
 #include "popups/popupqrcode.h"
 #include "popups/popupsettings.h"
 #include "popups/popupusb.h"
+#include "records/firinghistory.h"
+#include "records/firingstore.h"
 #include "programs/programhandler.h"
 #include "simulatorprocess.h"
 
@@ -46,6 +48,7 @@ private slots:
     void init();
     void startupScriptsGoIntoTheGivenHomeOnly();
     void factoryResetDeletesOwnProgramsFirst();
+    void backupKeepsEveryFiringOnPaper(); // before the stick is pulled for good
     void stickMenuFailsWithoutHanging();
     void qrCodeScansToTheDeviceData();
     void pinAndStickFromTheController();
@@ -164,6 +167,25 @@ void TestService::stickMenuFailsWithoutHanging()
     send("usb==out");
     QCOMPARE(m_usb->GetText(), failed);
     QCOMPARE(m_panel->Window()->CurrentPage(), Page::MainMenu);
+}
+
+void TestService::backupKeepsEveryFiringOnPaper()
+{
+    send(Heatfile("Krone", "user") + "$$name==Ovra S1$$serialno==S1-0087");
+    send("temp==573$$hpinfo==Krone;10;1;heat");
+    send("hpsuccess$$hpinfo==");
+    send("guistate==24");
+    QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuBackup")), QStringLiteral("  Erfolgreich."));
+    QStringList reports;
+    for (QDirIterator it(m_stick.path(), {QStringLiteral("*.pdf")}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
+        reports << it.next();
+    QCOMPARE(reports.size(), 1);
+    QVERIFY(reports[0].endsWith(QStringLiteral("/records/firing-1.pdf")));
+    QVERIFY(QFileInfo(reports[0]).size() > 1000);
+    // The furnace's data went with the firing, for an export without the controller.
+    ovra::Records::FiringRecord record;
+    QVERIFY(ovra::Records::FiringHistory(ovra::Records::FiringStore::FileIn(m_panel->Home())).Load(1, &record));
+    QVERIFY(record.device.startsWith(QStringLiteral("Ovra S1\nS1-0087\n")));
 }
 
 void TestService::qrCodeScansToTheDeviceData()

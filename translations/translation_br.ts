@@ -487,6 +487,10 @@ e reinicie o processo.</translation>
         <source>Ende %1</source>
         <translation>Fim %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Registros de queima</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Voltar?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR indisponível</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>medida</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>planejada</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pré-secagem</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Erros</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Nenhuma</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Registros de queima</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Queimas: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>Nenhuma queima registrada</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Concluída</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Falhou</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Parada</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Interrompida</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>Em andamento</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Registro de queima</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Forno</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Tipo + série:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Número de série:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Versão de hardware:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Versão de software:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Horas de operação:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Queima</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Início:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>Fim:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Duração:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Material:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Pré-secagem:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Início programado:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Resultado:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segmento</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Taxa %1/min</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Temperatura %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Patamar min</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Texto do programa ilegível</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Curva de temperatura</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>medida</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>planejada</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Erros</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Nenhuma</translation>
     </message>
 </context>
 </TS>

@@ -487,6 +487,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Ende %1</source>
         <translation>结束 %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>烧结记录</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>二维码不可用</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>实测</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>计划</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>预干燥</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>烧结记录</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>烧结次数：%1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>尚无烧结记录</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>进行中</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>烧结记录</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>炉子</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>型号 + 系列：</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>序列号：</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>硬件版本：</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>软件版本：</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>运行小时数：</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>烧结</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>开始：</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>结束：</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>时长：</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>材料：</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>预干燥：</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>延时启动：</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>结果：</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>升温速率 %1/分钟</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>温度 %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>保温 分钟</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>程序文本无法读取</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>温度曲线</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>实测</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>计划</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>无</translation>
     </message>
 </context>
 </TS>

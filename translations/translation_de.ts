@@ -487,6 +487,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Ende %1</source>
         <translation>Ende %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Brennprotokolle</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR Code nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>gemessen</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>geplant</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Vortrocknen</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Brennprotokolle</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Brände: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>Noch kein Brand aufgezeichnet</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Erfolgreich</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Unterbrochen</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>Läuft</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Brennprotokoll</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Typ + Baureihe:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Hardwareversion:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Softwareversion:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Betriebsstunden:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Brand</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Start:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>Ende:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Dauer:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Material:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Vortrocknen:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Verzögerter Start:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Ergebnis:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Rate %1/min</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Temperatur %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Haltezeit min</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Programmtext nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Temperaturverlauf</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>gemessen</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>geplant</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Keine</translation>
     </message>
 </context>
 </TS>

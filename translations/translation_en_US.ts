@@ -487,6 +487,10 @@ and restart the process.</translation>
         <source>Ende %1</source>
         <translation>End %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Firing records</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Go back?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR code not available</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>measured</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>planned</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pre-drying</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errors</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>None</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Firing records</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Firings: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>No firing recorded yet</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Successful</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Interrupted</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>Running</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Firing record</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Furnace</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Model + series:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Serial number:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Hardware version:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Software version:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Operating hours:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Firing</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Start:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>End:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Duration:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Material:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Pre-drying:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Delayed start:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Result:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Rate %1/min</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Temperature %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Hold min</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Program text unreadable</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Temperature curve</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>measured</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>planned</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errors</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>None</translation>
     </message>
 </context>
 </TS>

@@ -487,6 +487,10 @@ y reinicie el proceso.</translation>
         <source>Ende %1</source>
         <translation>Fin %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Registros de cocción</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR no disponible</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>medido</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>previsto</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Presecado</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errores</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Ninguno</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Registros de cocción</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Cocciones: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>Aún no hay cocciones registradas</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Fallido</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Interrumpido</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>En curso</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Registro de cocción</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Horno</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Tipo + serie:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>N.º de serie:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Versión de hardware:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Versión de software:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Horas de servicio:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Cocción</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Inicio:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>Fin:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Duración:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Material:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Presecado:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Inicio diferido:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Resultado:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segmento</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Velocidad %1/min</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Temperatura %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Mantenimiento min</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Texto del programa ilegible</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Curva de temperatura</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>medido</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>previsto</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errores</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Ninguno</translation>
     </message>
 </context>
 </TS>

@@ -487,6 +487,10 @@ puis relancez le processus.</translation>
         <source>Ende %1</source>
         <translation>Fin %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Journaux de cuisson</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Revenir en arrière&#xa0;?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Code QR non disponible</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>mesuré</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>prévu</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pré-séchage</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Aucun</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Journaux de cuisson</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Cuissons : %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>Aucune cuisson enregistrée</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Réussie</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Échouée</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Interrompue</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>En cours</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Journal de cuisson</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Four</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Type + série&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>N° de série&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Version matérielle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Version logicielle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Heures de service&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Cuisson</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Début :</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>Fin :</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Durée :</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Matériau :</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Pré-séchage :</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Départ différé :</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Résultat :</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Vitesse %1/min</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Température %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Palier min</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Texte du programme illisible</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Courbe de température</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>mesuré</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>prévu</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Aucun</translation>
     </message>
 </context>
 </TS>

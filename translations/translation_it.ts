@@ -487,6 +487,10 @@ e riavviare il processo.</translation>
         <source>Ende %1</source>
         <translation>Fine %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Registri di cottura</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Tornare indietro?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Codice QR non disponibile</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>misurata</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>prevista</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Preessiccazione</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errori</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Registri di cottura</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Cotture: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>Nessuna cottura registrata</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Riuscita</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Fallita</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Interrotta dall&apos;utente</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Interrotta</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>In corso</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Registro di cottura</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Forno</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Tipo + serie:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Numero di serie:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Versione hardware:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Versione software:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Ore di esercizio:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Cottura</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Inizio:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>Fine:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Durata:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Materiale:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Preessiccazione:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Avvio ritardato:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Risultato:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segmento</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Velocità %1/min</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Temperatura %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Mantenimento min</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Testo del programma illeggibile</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Curva di temperatura</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>misurata</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>prevista</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Errori</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Nessuno</translation>
     </message>
 </context>
 </TS>

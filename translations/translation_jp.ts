@@ -487,6 +487,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Ende %1</source>
         <translation>終了 %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>焼成記録</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QRコードは利用できません</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>実測</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>計画</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>所要時間</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>予備乾燥</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>焼成記録</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>焼成数: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>焼成の記録はまだありません</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>実行中</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>焼成記録</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>炉</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>型式 + シリーズ:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>シリアル番号:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>ハードウェアバージョン:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>ソフトウェアバージョン:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>稼働時間:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>焼成</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>開始:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>終了:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>所要時間:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>材料:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>予備乾燥:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>予約開始:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>結果:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>プログラム</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>セグメント</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>昇温速度 %1/分</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>温度 %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>保持 分</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>プログラムを読み取れません</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>温度曲線</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>実測</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>計画</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>なし</translation>
     </message>
 </context>
 </TS>

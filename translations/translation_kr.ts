@@ -487,6 +487,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Ende %1</source>
         <translation>종료 %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>소성 기록</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR 코드를 사용할 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>측정</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>계획</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>소요 시간</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>예비 건조</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1분</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>없음</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>소성 기록</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>소성: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>기록된 소성이 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>성공</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>중지됨</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>진행 중</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>소성 기록</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>로</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>모델 + 시리즈:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>일련번호:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>하드웨어 버전:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>소프트웨어 버전:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>가동 시간:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>소성</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>시작:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>종료:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>소요 시간:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>재료:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>예비 건조:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1분</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>예약 시작:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>결과:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>프로그램</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>구간</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>승온 속도 %1/분</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>온도 %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>유지 분</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>프로그램 텍스트를 읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>온도 곡선</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>측정</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>계획</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>없음</translation>
     </message>
 </context>
 </TS>

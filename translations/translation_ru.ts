@@ -487,6 +487,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Ende %1</source>
         <translation>Конец %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Журнал обжигов</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR-код недоступен</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>измерено</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>план</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>Длительность</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Предсушка</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Ошибки</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>Журнал обжигов</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>Обжигов: %1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>Обжиги ещё не записаны</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>Успешно</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>Остановлен</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>Прерван</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>Выполняется</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>Протокол обжига</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>Печь</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>Тип + серия:</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>Серийный номер:</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>Версия оборудования:</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>Версия ПО:</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>Часы работы:</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>Обжиг</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>Начало:</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>Конец:</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>Длительность:</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>Материал:</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>Предсушка:</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>Отложенный старт:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Результат:</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Программа</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Сегмент</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>Скорость %1/мин</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>Температура %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>Выдержка мин</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>Текст программы не читается</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>Температурная кривая</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>измерено</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>план</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Ошибки</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>Нет</translation>
     </message>
 </context>
 </TS>

@@ -487,6 +487,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Ende %1</source>
         <translation>結束 %1</translation>
     </message>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>燒結記錄</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
@@ -523,6 +527,190 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR 碼無法使用</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringDetailView</name>
+    <message>
+        <source>gemessen</source>
+        <translation>實測</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>計畫</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Dauer</source>
+        <translation>時長</translation>
+    </message>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>預乾燥</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>無</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringHistoryView</name>
+    <message>
+        <source>Brennprotokolle</source>
+        <translation>燒結記錄</translation>
+    </message>
+    <message>
+        <source>Brände: %1</source>
+        <translation>燒結次數：%1</translation>
+    </message>
+    <message>
+        <source>Noch kein Brand aufgezeichnet</source>
+        <translation>尚無燒結記錄</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringPainter</name>
+    <message>
+        <source>Erfolgreich</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Fehlgeschlagen</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Abgebrochen</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Unterbrochen</source>
+        <translation>已中斷</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>進行中</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Records::FiringReport</name>
+    <message>
+        <source>Brennprotokoll</source>
+        <translation>燒結記錄</translation>
+    </message>
+    <message>
+        <source>Gerät</source>
+        <translation>爐子</translation>
+    </message>
+    <message>
+        <source>Typ + Baureihe:</source>
+        <translation>型號 + 系列：</translation>
+    </message>
+    <message>
+        <source>Seriennummer:</source>
+        <translation>序號：</translation>
+    </message>
+    <message>
+        <source>Hardwareversion:</source>
+        <translation>硬體版本：</translation>
+    </message>
+    <message>
+        <source>Softwareversion:</source>
+        <translation>軟體版本：</translation>
+    </message>
+    <message>
+        <source>Betriebsstunden:</source>
+        <translation>運轉時數：</translation>
+    </message>
+    <message>
+        <source>Brand</source>
+        <translation>燒結</translation>
+    </message>
+    <message>
+        <source>Start:</source>
+        <translation>開始：</translation>
+    </message>
+    <message>
+        <source>Ende:</source>
+        <translation>結束：</translation>
+    </message>
+    <message>
+        <source>Dauer:</source>
+        <translation>時長：</translation>
+    </message>
+    <message>
+        <source>Material:</source>
+        <translation>材料：</translation>
+    </message>
+    <message>
+        <source>Vortrocknen:</source>
+        <translation>預乾燥：</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>Verzögerter Start:</source>
+        <translation>延時啟動：</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>結果：</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>程式</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Rate %1/min</source>
+        <translation>升溫速率 %1/分鐘</translation>
+    </message>
+    <message>
+        <source>Temperatur %1</source>
+        <translation>溫度 %1</translation>
+    </message>
+    <message>
+        <source>Haltezeit min</source>
+        <translation>保溫 分鐘</translation>
+    </message>
+    <message>
+        <source>Programmtext nicht lesbar</source>
+        <translation>程式文字無法讀取</translation>
+    </message>
+    <message>
+        <source>Temperaturverlauf</source>
+        <translation>溫度曲線</translation>
+    </message>
+    <message>
+        <source>gemessen</source>
+        <translation>實測</translation>
+    </message>
+    <message>
+        <source>geplant</source>
+        <translation>計畫</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Keine</source>
+        <translation>無</translation>
     </message>
 </context>
 </TS>

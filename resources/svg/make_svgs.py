@@ -369,6 +369,13 @@ def menu_icons():
         f'<circle cx="66" cy="64" r="15" fill="{ORANGE}"/>'
         f'<circle cx="66" cy="64" r="8" {stroke(WHITE, 4)}/>')
 
+    # Firing records: a sheet with a firing's curve on it.
+    out["Icons/records"] = icon(
+        f'<path d="M18 14 A4 4 0 0 1 22 10 H56 L74 28 V82 A4 4 0 0 1 70 86 H22 A4 4 0 0 1 18 82 Z" '
+        f'{stroke(SLATE, 7)}/>'
+        f'<path d="M56 10 V28 H74" {stroke(SLATE, 6)}/>'
+        f'<path d="M29 72 L40 44 H50 L58 36 H64" {stroke(ORANGE, 7)}/>')
+
     # Service PIN: padlock.
     out["Icons/lock"] = icon(
         f'<path d="M30 44 V32 A18 18 0 0 1 66 32 V44" {stroke(SLATE)}/>'

@@ -23,6 +23,9 @@ int main(int argc, char *argv[])
         return 2;
     }
     QTemporaryDir home;
+    home.setAutoRemove(qEnvironmentVariableIsEmpty("OVRA_KEEP_HOME"));
+    if (!home.autoRemove())
+        std::fprintf(stderr, "%s\n", qPrintable(home.path()));
     // Without them the pages show German throughout.
     if (!ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_TRANSLATIONS_DIR), home.path()))
         std::fprintf(stderr, "no translations in %s\n", OVRA_TRANSLATIONS_DIR);

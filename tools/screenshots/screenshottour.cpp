@@ -6,8 +6,12 @@
 #include "popups/popupusb.h"
 #include "popups/timerpopup.h"
 #include "programs/newprogram.h"
+#include "programs/heatfiletext.h"
 #include "programs/programhandler.h"
 #include "programs/tablerow.h"
+#include "records/firingdetailview.h"
+#include "records/firinghistoryview.h"
+#include "records/firingstore.h"
 #include "widgets/button.h"
 #include "ui_mainwindow.h"
 
@@ -18,6 +22,8 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+
+#include <cmath>
 
 namespace ovra {
 namespace Tools {
@@ -93,6 +99,7 @@ QStringList ScreenshotTour::Run()
     Feed("stdoor==pass$$stheater==pass$$stcooling==fail");
     Feed("error==E1234,E201");
     FeedPrograms();
+    const qint64 recorded = SeedFiringRecords();
     Feed("guistate==26"); // leaves the device data page, which ends commissioning
     Feed("guistate==12");
     Feed("guistate==26");
@@ -178,6 +185,13 @@ QStringList ScreenshotTour::Run()
     Feed("hpfailed$$hpinfo==");
     Save(numbered(QStringLiteral("process_abort")));
 
+    // The firing history over the settings page, and one firing opened.
+    m_window->Statemachine(Page::Settings);
+    ui->widget_SettingsButtonFiringHistory->GetPushButtonObject()->click();
+    Save(numbered(QStringLiteral("firinghistory")));
+    emit m_window->findChild<Records::FiringHistoryView *>()->SignalOpen(recorded);
+    Save(numbered(QStringLiteral("firingdetail")));
+
     m_window->Statemachine(Page::MainMenu);
     ui->stackedWidget_main->setCurrentIndex(2);
     ui->page_MatChange->setStyleSheet(QStringLiteral("QWidget#page_MatChange { background: url(:/Material/Argon.jpg); }"));
@@ -256,6 +270,58 @@ void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)>
         ui->stackedWidget_main->setCurrentIndex(0);
     }
     Feed("lang==deutsch");
+}
+
+qint64 ScreenshotTour::SeedFiringRecords()
+{
+    // Earlier days' firings as the panel would have recorded them; the tour's own come after.
+    Records::FiringStore store(Records::FiringStore::FileIn(m_window->GetPaths().Home()));
+    const auto begin = [this, &store](const char *name, const QString &date, const QString &time, int preDry) {
+        Records::FiringStart start;
+        start.program = QString::fromUtf8(name);
+        if (const GlobalElements::Program *program = m_window->GetProgramHandler()->GetProgramByName(start.program)) {
+            start.heatfileText = GlobalElements::HeatfileText::Write(*program);
+            start.material = program->GetMaterial();
+        }
+        start.preDryMinutes = preDry;
+        start.device = QStringLiteral("Ovra S1\nS1-2304-0087\nHX3-C\n3.12.0 / R02E.1\n1210");
+        start.date = date;
+        start.time = time;
+        return store.Begin(start);
+    };
+    // A furnace that follows the profile a little late, with a small overshoot at each hold.
+    const auto fire = [&store](const QList<QList<unsigned int>> &rows, int seconds, int from) {
+        double t = 22.0;
+        int row = 0;
+        int held = 0;
+        for (int s = from; s < seconds; ++s) {
+            const QList<unsigned int> &r = rows.at(std::min(row, rows.size() - 1));
+            if (row < rows.size() && t < r.at(1) - 0.5) {
+                t += std::min(r.at(0) / 72.0, (r.at(1) - t) * 0.01 + 0.02);
+            } else if (row < rows.size() && ++held >= int(r.at(2)) * 60) {
+                ++row;
+                held = 0;
+            } else if (row >= rows.size()) {
+                t -= (t - 200) * 0.0009;
+            }
+            store.AddSample(s, t + 1.5 * std::sin(s / 40.0));
+        }
+    };
+    begin("Mein Langzeit", QStringLiteral("18.11.2026"), QStringLiteral("07:12"), 0);
+    fire({{10, 900, 30}}, 3100, 0);
+    store.End(Records::Result::Stopped, QStringLiteral("18.11.2026"), QStringLiteral("08:04"));
+    begin("Brücke 14-gliedrig", QStringLiteral("19.11.2026"), QStringLiteral("16:40"), 0);
+    fire({{8, 1100, 60}, {4, 1480, 150}}, 9000, 0);
+    store.End(Records::Result::Interrupted, QString(), QString());
+    begin("DC Zirkon HT", QStringLiteral("20.11.2026"), QStringLiteral("09:05"), 0);
+    fire({{10, 1000, 30}, {5, 1530, 120}}, 6400, 0);
+    store.AddFailure(QStringLiteral("20.11.2026 10:52"), QStringLiteral("E1234"));
+    store.End(Records::Result::Failed, QStringLiteral("20.11.2026"), QStringLiteral("10:52"));
+    const qint64 shown = begin("Zirkon Speed", QStringLiteral("21.11.2026"), QStringLiteral("13:30"), 10);
+    fire({{10, 130, 10}, {40, 900, 0}, {25, 1450, 20}, {10, 1530, 40}}, 11000, 0);
+    store.AddFailure(QStringLiteral("21.11.2026 14:41"), QStringLiteral("E201"));
+    store.End(Records::Result::Success, QStringLiteral("21.11.2026"), QStringLiteral("16:34"));
+    return shown;
 }
 
 void ScreenshotTour::FeedPrograms()

@@ -36,6 +36,7 @@ public:
 private:
     void Feed(const QByteArray &fields);
     void FeedPrograms();
+    qint64 SeedFiringRecords();
     bool Save(const QString &name);
     bool SavePopup(const QString &name, QDialog *popup);
     void SaveLanguages(const std::function<QString(const QString &)> &numbered);

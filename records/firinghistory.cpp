@@ -1,0 +1,111 @@
+#include "records/firinghistory.h"
+
+#include <QAtomicInt>
+#include <QDebug>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+namespace ovra {
+namespace Records {
+
+namespace {
+const QString summaryColumns = QStringLiteral(
+    "f.id, f.program, f.start_date, f.start_time, f.end_date, f.end_time, f.result,"
+    " (SELECT s.seconds FROM samples s WHERE s.firing = f.id ORDER BY s.n DESC LIMIT 1)");
+
+FiringSummary ReadSummary(const QSqlQuery &q)
+{
+    FiringSummary s;
+    s.id = q.value(0).toLongLong();
+    s.program = q.value(1).toString();
+    s.startDate = q.value(2).toString();
+    s.startTime = q.value(3).toString();
+    s.endDate = q.value(4).toString();
+    s.endTime = q.value(5).toString();
+    s.result = q.value(6).toString();
+    s.seconds = q.value(7).toInt();
+    return s;
+}
+} // namespace
+
+FiringHistory::FiringHistory(const QString &file)
+{
+    static QAtomicInt serial;
+    m_connection = QStringLiteral("ovra-history-%1").arg(serial.fetchAndAddRelaxed(1));
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
+    db.setDatabaseName(file);
+    // Read-only: looking at the history must never create or change the file.
+    db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+    m_open = QFile::exists(file) && db.open();
+    if (QFile::exists(file) && !m_open)
+        qDebug() << "firing history: cannot open" << file << db.lastError().text();
+}
+
+FiringHistory::~FiringHistory()
+{
+    {
+        QSqlDatabase db = QSqlDatabase::database(m_connection, false);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(m_connection);
+}
+
+QList<FiringSummary> FiringHistory::List(int limit) const
+{
+    QList<FiringSummary> out;
+    if (!m_open)
+        return out;
+    QSqlQuery q(QSqlDatabase::database(m_connection, false));
+    q.prepare(QStringLiteral("SELECT %1 FROM firings f ORDER BY f.id DESC LIMIT ?").arg(summaryColumns));
+    q.addBindValue(limit);
+    if (!q.exec())
+        qDebug() << "firing history:" << q.lastError().text();
+    while (q.next())
+        out << ReadSummary(q);
+    return out;
+}
+
+bool FiringHistory::Load(qint64 id, FiringRecord *record) const
+{
+    if (!m_open)
+        return false;
+    const QSqlDatabase db = QSqlDatabase::database(m_connection, false);
+    QSqlQuery q(db);
+    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed, f.device FROM firings f"
+                             " WHERE f.id = ?")
+                  .arg(summaryColumns));
+    q.addBindValue(id);
+    if (!q.exec() || !q.next())
+        return false;
+    FiringRecord r;
+    r.summary = ReadSummary(q);
+    r.heatfileText = q.value(8).toString();
+    r.material = q.value(9).toString();
+    r.preDryMinutes = q.value(10).toInt();
+    r.delayedStart = q.value(11).toString();
+    r.device = q.value(12).toString();
+
+    QSqlQuery samples(db);
+    samples.setForwardOnly(true);
+    samples.prepare(QStringLiteral("SELECT seconds, celsius FROM samples WHERE firing = ? ORDER BY n"));
+    samples.addBindValue(id);
+    samples.exec();
+    r.samples.reserve(qBound(0, r.summary.seconds + 1, 100000));
+    while (samples.next())
+        r.samples.append({samples.value(0).toInt(), samples.value(1).toFloat()});
+
+    QSqlQuery failures(db);
+    failures.prepare(QStringLiteral("SELECT time, text FROM failures WHERE firing = ? ORDER BY rowid"));
+    failures.addBindValue(id);
+    failures.exec();
+    while (failures.next())
+        r.failures.append({failures.value(0).toString(), failures.value(1).toString()});
+    *record = r;
+    return true;
+}
+
+} // namespace Records
+} // namespace ovra
