@@ -30,20 +30,25 @@ constexpr const char *FehlerLoeschen = QT_TRANSLATE_NOOP("ovra::MainWindow::Main
 constexpr const char *Werkseinstellungen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Werkseinstellungen");
 constexpr const char *ProgrammLoeschen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Programm löschen");
 constexpr const char *ProgrammAendern = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Programm ändern");
-constexpr const char *SystemtestWiederholen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Systemtest wiederholen");
+constexpr const char *SystemtestWiederholen =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Systemtest wiederholen");
 constexpr const char *Hersteller = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Hersteller");
 constexpr const char *Material = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Material");
-constexpr const char *FirmwareAktualisierung = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Firmware Aktualisierung");
-constexpr const char *KonfigurationAktualisieren = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Konfiguration aktualisieren");
+constexpr const char *FirmwareAktualisierung =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Firmware Aktualisierung");
+constexpr const char *KonfigurationAktualisieren =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Konfiguration aktualisieren");
 constexpr const char *MeineProgrammeLaden = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Meine Programme laden");
-constexpr const char *MeineProgrammeSichern = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Meine Programme sichern");
+constexpr const char *MeineProgrammeSichern =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Meine Programme sichern");
 constexpr const char *DatenSichern = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Daten sichern");
 constexpr const char *QrCodeErzeugen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "QR Code erzeugen");
 constexpr const char *TuerOeffnenSchliessen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Tür öffnen/schließen");
 constexpr const char *Lizenz = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Lizenz");
 constexpr const char *Brennprotokolle = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Brennprotokolle");
 // A button shows "&&" as one ampersand; the page title has a single one.
-constexpr const char *DatumUhrzeitEinstellen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Datum && Uhrzeit einstellen");
+constexpr const char *DatumUhrzeitEinstellen =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Datum && Uhrzeit einstellen");
 constexpr const char *DatumUhrzeitButton = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Datum && Uhrzeit");
 constexpr const char *Tuermechanik = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Türmechanik");
 constexpr const char *Heizsystem = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Heizsystem");
@@ -54,11 +59,16 @@ constexpr const char *Seriennummer = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWi
 constexpr const char *Hardwareversion = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Hardwareversion:");
 constexpr const char *Softwareversion = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Softwareversion:");
 constexpr const char *Betriebsstunden = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Betriebsstunden:");
-constexpr const char *ProgressFirmware = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Firmware Aktualisierung...\n  Bitte warten...");
-constexpr const char *ProgressLoad = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Meine Programme werden geladen.\n  Bitte warten...");
-constexpr const char *ProgressSave = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Meine Programme werden gesichert.\n  Bitte warten...");
-constexpr const char *ProgressBackup = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Daten sichern.\n  Bitte warten...");
-constexpr const char *ProgressConfig = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Konfiguration aktualisieren...\n  Bitte warten...");
+constexpr const char *ProgressFirmware =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Firmware Aktualisierung...\n  Bitte warten...");
+constexpr const char *ProgressLoad =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Meine Programme werden geladen.\n  Bitte warten...");
+constexpr const char *ProgressSave =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Meine Programme werden gesichert.\n  Bitte warten...");
+constexpr const char *ProgressBackup =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Daten sichern.\n  Bitte warten...");
+constexpr const char *ProgressConfig =
+    QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Konfiguration aktualisieren...\n  Bitte warten...");
 constexpr const char *ProgressSuccess = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Erfolgreich.");
 constexpr const char *Celsius = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "°C  Celsius");
 constexpr const char *Fahrenheit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "°F  Fahrenheit");

@@ -16,8 +16,7 @@ PanelOptions PanelOptions::Sandbox(const QString &home)
     return options;
 }
 
-CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptions &options,
-                                        QString &output)
+CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptions &options, QString &output)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -46,8 +45,7 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     const QCommandLineOption selftestDelayOption(QStringLiteral("selftest-delay-ms"),
                                                  QStringLiteral("Wait before the automatic self-test "
                                                                 "(default 7000)."),
-                                                 QStringLiteral("ms"),
-                                                 QString::number(options.selftestDelayMs));
+                                                 QStringLiteral("ms"), QString::number(options.selftestDelayMs));
     const QCommandLineOption lineWatchdogOption(QStringLiteral("line-watchdog-ms"),
                                                 QStringLiteral("Silence after which the serial line is "
                                                                "closed and reopened (default 20000)."),
@@ -75,8 +73,8 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
         return Outcome::ExitSuccess;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        output = QStringLiteral("Unexpected argument: %1\nTry --help.\n")
-                     .arg(parser.positionalArguments().constFirst());
+        output =
+            QStringLiteral("Unexpected argument: %1\nTry --help.\n").arg(parser.positionalArguments().constFirst());
         return Outcome::ExitUsageError;
     }
 
@@ -85,22 +83,19 @@ CommandLine::Outcome CommandLine::Parse(const QStringList &arguments, PanelOptio
     const uint keyPort = keyPortText.toUInt(&ok);
     // 0 lets the system choose a free port: tests run side by side without a fixed one.
     if (!ok || keyPort > 65535) {
-        output = QStringLiteral("Invalid --key-port '%1': expected a TCP port from 0 to 65535.\n")
-                     .arg(keyPortText);
+        output = QStringLiteral("Invalid --key-port '%1': expected a TCP port from 0 to 65535.\n").arg(keyPortText);
         return Outcome::ExitUsageError;
     }
     const QString delayText = parser.value(selftestDelayOption);
     const int selftestDelay = delayText.toInt(&ok);
     if (!ok || selftestDelay < 0) {
-        output = QStringLiteral("Invalid --selftest-delay-ms '%1': expected milliseconds.\n")
-                     .arg(delayText);
+        output = QStringLiteral("Invalid --selftest-delay-ms '%1': expected milliseconds.\n").arg(delayText);
         return Outcome::ExitUsageError;
     }
     const QString watchdogText = parser.value(lineWatchdogOption);
     const int lineWatchdog = watchdogText.toInt(&ok);
     if (!ok || lineWatchdog <= 0) {
-        output = QStringLiteral("Invalid --line-watchdog-ms '%1': expected milliseconds.\n")
-                     .arg(watchdogText);
+        output = QStringLiteral("Invalid --line-watchdog-ms '%1': expected milliseconds.\n").arg(watchdogText);
         return Outcome::ExitUsageError;
     }
     const QString port = parser.value(portOption);

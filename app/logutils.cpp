@@ -31,18 +31,17 @@ void initLogging()
 void initLogFileName()
 {
     const QDateTime now = QDateTime::currentDateTime();
-    logFileName = logFolderName
-                  + QStringLiteral("/Log_%1__%2.txt")
-                        .arg(now.toString(QStringLiteral("yyyy_MM_dd")),
-                             now.toString(QStringLiteral("hh_mm_ss_zzz")));
+    logFileName = logFolderName +
+                  QStringLiteral("/Log_%1__%2.txt")
+                      .arg(now.toString(QStringLiteral("yyyy_MM_dd")), now.toString(QStringLiteral("hh_mm_ss_zzz")));
 }
 
 void deleteOldLogs()
 {
     // Every regular file counts, logs or not: the folder is the panel's own.
     QDir folder(logFolderName);
-    const QFileInfoList files = folder.entryInfoList(QDir::Files | QDir::NoSymLinks | QDir::Hidden,
-                                                     QDir::Time | QDir::Reversed);
+    const QFileInfoList files =
+        folder.entryInfoList(QDir::Files | QDir::NoSymLinks | QDir::Hidden, QDir::Time | QDir::Reversed);
     if (files.size() <= logFilesKept)
         return;
     const int surplus = files.size() - logFilesKept;

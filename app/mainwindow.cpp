@@ -33,9 +33,9 @@
 namespace ovra {
 namespace Mainwindow {
 
+using Communication::MessageHandler;
 using GlobalElements::Button;
 using GlobalElements::Iconbutton;
-using Communication::MessageHandler;
 
 MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *parent)
     : QMainWindow(parent), ui(new Ui::MainWindow), m_options(options), m_paths(options.home)
@@ -65,10 +65,9 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     ui->pushButton_USBProgress->setEnabled(false);
     ErrorHandling(); // no failures yet: their symbols and fields stay hidden
 
-    m_externalScripts = QStringList{QStringLiteral("/home/pi/Downloads/makeExecutable.py"),
-                         QStringLiteral("/home/pi/autostartUserinterface.sh"),
-                         QStringLiteral("/home/pi/Downloads/decode_and_unzip_lin.py"),
-                         QStringLiteral("/home/pi/DispOn/dispOn.py")};
+    m_externalScripts = QStringList{
+        QStringLiteral("/home/pi/Downloads/makeExecutable.py"), QStringLiteral("/home/pi/autostartUserinterface.sh"),
+        QStringLiteral("/home/pi/Downloads/decode_and_unzip_lin.py"), QStringLiteral("/home/pi/DispOn/dispOn.py")};
     RewriteExternalScripts();
 }
 
@@ -128,8 +127,8 @@ void MainWindow::CreateComponents()
     m_popupArgonFailure = new Popups::PopupArgonFailure(this);
     m_programHandler = new ProgramHandler::ProgramHandler();
     m_messageHandler = new MessageHandler(m_paths);
-    m_communicator = new Communication::Communicator(m_messageHandler, nullptr, m_options.port,
-                                                      m_options.lineWatchdogMs);
+    m_communicator =
+        new Communication::Communicator(m_messageHandler, nullptr, m_options.port, m_options.lineWatchdogMs);
     m_internalCommunicator = new Communication::InternalCommunicator(nullptr, m_options.keyPort);
     m_popupDeleteProgram = new Popups::PopupDeleteProgram(this);
     m_popupTempWarning = new Popups::PopupTempWarning(this);
@@ -170,8 +169,7 @@ void MainWindow::SetUpIcons()
             QSizePolicy policy = button->sizePolicy();
             policy.setRetainSizeWhenHidden(true);
             button->setSizePolicy(policy);
-        }
-        else if (name.startsWith(QLatin1String("widget_exit")))
+        } else if (name.startsWith(QLatin1String("widget_exit")))
             button->SetIcon(QStringLiteral(":/Icons/home.png"));
         else if (name.startsWith(QLatin1String("widget_fwd")))
             button->SetIcon(QStringLiteral(":/Icons/next.png"));
@@ -245,13 +243,14 @@ void MainWindow::ConnectOvenLink()
 {
     MessageHandler *h = m_messageHandler;
     using GlobalElements::DisplayElement;
-    const QList<QPair<void (MessageHandler::*)(const QString &), QPair<DisplayElement *, DisplayElement *>>> deviceData = {
-        {&MessageHandler::SignalTypeModelSeries, {ui->widget_Data1, ui->widget_Data12}},
-        {&MessageHandler::SignalSerialNumber, {ui->widget_Data2, ui->widget_Data22}},
-        {&MessageHandler::SignalHWVersion, {ui->widget_Data3, ui->widget_Data32}},
-        {&MessageHandler::SignalSWVersion, {ui->widget_Data4, ui->widget_Data42}},
-        {&MessageHandler::SignalOperatingHours, {ui->widget_Data5, ui->widget_Data52}},
-    };
+    const QList<QPair<void (MessageHandler::*)(const QString &), QPair<DisplayElement *, DisplayElement *>>>
+        deviceData = {
+            {&MessageHandler::SignalTypeModelSeries, {ui->widget_Data1, ui->widget_Data12}},
+            {&MessageHandler::SignalSerialNumber, {ui->widget_Data2, ui->widget_Data22}},
+            {&MessageHandler::SignalHWVersion, {ui->widget_Data3, ui->widget_Data32}},
+            {&MessageHandler::SignalSWVersion, {ui->widget_Data4, ui->widget_Data42}},
+            {&MessageHandler::SignalOperatingHours, {ui->widget_Data5, ui->widget_Data52}},
+        };
     for (const auto &entry : deviceData) {
         connect(h, entry.first, entry.second.first, &DisplayElement::SetText);
         connect(h, entry.first, entry.second.second, &DisplayElement::SetText);
@@ -333,16 +332,26 @@ void MainWindow::ConnectNavigation()
 
     // The service self-test button asks the controller first, then changes the page.
     connect(ui->widget_ServiceSelftest, &Button::SignalButtonClicked, this, &MainWindow::SlotServiceSelftest);
-    for (Button *button : {ui->widget_MainMenuButtonHitlist, ui->widget_MainMenuButtonSettings,
-                           ui->widget_MainMenuButtonProgs, ui->widget_MainMenuButtonService,
-                           ui->widget_ProgsButtonLists, ui->widget_ProgsButtonService,
-                           ui->widget_ProgsButtonDisplayOptions, ui->widget_ListsButtonHitlist,
-                           ui->widget_ListsButtonMyProgs, ui->widget_ListsButtonStaticProgs,
-                           ui->widget_SettingsButtonLangSelect, ui->widget_SettingsButtonUnitSelect,
-                           ui->widget_SettingsButtonDateTime, ui->widget_SettingsButtonDeviceData,
-                           ui->widget_SettingsButtonDisplayOptions, ui->widget_DisplayButtonManufacturer,
-                           ui->widget_DisplayButtonMaterial, ui->widget_ServiceDeviceData,
-                           ui->widget_ServiceSelftest, ui->widget_ServiceFailureMM}) {
+    for (Button *button : {ui->widget_MainMenuButtonHitlist,
+                           ui->widget_MainMenuButtonSettings,
+                           ui->widget_MainMenuButtonProgs,
+                           ui->widget_MainMenuButtonService,
+                           ui->widget_ProgsButtonLists,
+                           ui->widget_ProgsButtonService,
+                           ui->widget_ProgsButtonDisplayOptions,
+                           ui->widget_ListsButtonHitlist,
+                           ui->widget_ListsButtonMyProgs,
+                           ui->widget_ListsButtonStaticProgs,
+                           ui->widget_SettingsButtonLangSelect,
+                           ui->widget_SettingsButtonUnitSelect,
+                           ui->widget_SettingsButtonDateTime,
+                           ui->widget_SettingsButtonDeviceData,
+                           ui->widget_SettingsButtonDisplayOptions,
+                           ui->widget_DisplayButtonManufacturer,
+                           ui->widget_DisplayButtonMaterial,
+                           ui->widget_ServiceDeviceData,
+                           ui->widget_ServiceSelftest,
+                           ui->widget_ServiceFailureMM}) {
         connect(button, &Button::SignalButtonClicked, this, &MainWindow::Statemachine);
     }
     connect(ui->widget_numpad, &GlobalElements::NumPad::SignalCorrectCode, this, &MainWindow::Statemachine);
@@ -361,9 +370,9 @@ void MainWindow::ConnectPageButtons()
     connect(ui->widget_DateTimeAdjust, &Button::SignalButtonClicked, this, &MainWindow::Slot_ShowTimeAdjustPopup);
     connect(ui->widget_UnitF, &Button::SignalButtonClicked, this, &MainWindow::SlotUnitChanged);
     connect(ui->widget_UnitC, &Button::SignalButtonClicked, this, &MainWindow::SlotUnitChanged);
-    for (Button *language : {ui->widget_Lang1, ui->widget_Lang2, ui->widget_Lang3, ui->widget_Lang4,
-                             ui->widget_Lang5, ui->widget_Lang6, ui->widget_Lang7, ui->widget_Lang8,
-                             ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12})
+    for (Button *language : {ui->widget_Lang1, ui->widget_Lang2, ui->widget_Lang3, ui->widget_Lang4, ui->widget_Lang5,
+                             ui->widget_Lang6, ui->widget_Lang7, ui->widget_Lang8, ui->widget_Lang9, ui->widget_Lang10,
+                             ui->widget_Lang11, ui->widget_Lang12})
         connect(language, &Button::SignalButtonClicked, this, &MainWindow::SlotLanguageChange);
     connect(ui->widget_redoSelftest, &Button::SignalButtonClicked, this, &MainWindow::Slot_StartSelftest);
     connect(ui->widget_LicenseButton, &Button::SignalButtonClicked, this, &MainWindow::SlotShowLicense);
@@ -371,7 +380,8 @@ void MainWindow::ConnectPageButtons()
                         ui->widget_USBMenuSaveMyProgs, ui->widget_USBMenuBackup})
         connect(usb, &Button::SignalButtonClicked, this, &MainWindow::SlotUSBInProgress);
     connect(ui->widget_USBMenuQRCode, &Button::SignalButtonClicked, this, &MainWindow::GenerateQRCode);
-    for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling}) {
+    for (GlobalElements::TestDisplayElement *row :
+         {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling}) {
         connect(row, &GlobalElements::TestDisplayElement::SignalSelftestResult, this,
                 &MainWindow::SlotIncreaseSelftestProgress);
     }

@@ -80,81 +80,44 @@ void MainWindow::SetTitle(const QString &title, bool upperCase)
 void MainWindow::PreparePage(Page page, int from)
 {
     switch (page) {
-    case Page::DeviceData:
-        PreparePageDeviceDataStartUp();
-        break;
+    case Page::DeviceData: PreparePageDeviceDataStartUp(); break;
     case Page::Selftest:
         if (from == Page::Service)
             m_origins.selftestOrigin = Page::Service;
         PreparePageSelftest();
         break;
-    case Page::MainMenu:
-        PreparePageMainMenu();
-        break;
+    case Page::MainMenu: PreparePageMainMenu(); break;
     case Page::MyHitlist:
         PreparePageMyHitlist();
         if (from != Page::PlayProg)
             m_origins.hitlistOrigin = static_cast<Page>(from);
         break;
-    case Page::Progs:
-        PreparePageProgs();
-        break;
-    case Page::Settings:
-        PreparePageSettings();
-        break;
-    case Page::Service:
-        PreparePageService();
-        break;
-    case Page::ServicePIN:
-        PreparePageServicePin();
-        break;
-    case Page::Lists:
-        PreparePageLists();
-        break;
-    case Page::MyProgs:
-        PreparePageMyPrograms();
-        break;
-    case Page::FixProgs:
-        PreparePageFixPrograms();
-        break;
-    case Page::LangSelect:
-        PreparePageLanguageSelect();
-        break;
-    case Page::UnitSelect:
-        PreparePageUnitSelect();
-        break;
-    case Page::DateTime:
-        PreparePageDateTime();
-        break;
-    case Page::DeviceData2:
-        PreparePageDeviceData(from);
-        break;
+    case Page::Progs: PreparePageProgs(); break;
+    case Page::Settings: PreparePageSettings(); break;
+    case Page::Service: PreparePageService(); break;
+    case Page::ServicePIN: PreparePageServicePin(); break;
+    case Page::Lists: PreparePageLists(); break;
+    case Page::MyProgs: PreparePageMyPrograms(); break;
+    case Page::FixProgs: PreparePageFixPrograms(); break;
+    case Page::LangSelect: PreparePageLanguageSelect(); break;
+    case Page::UnitSelect: PreparePageUnitSelect(); break;
+    case Page::DateTime: PreparePageDateTime(); break;
+    case Page::DeviceData2: PreparePageDeviceData(from); break;
     case Page::NewProg:
         if (PageTables::RemembersEditorOrigin(page, from))
             m_origins.editorOrigin = static_cast<Page>(from);
         break;
-    case Page::ServiceProgs:
-        PreparePageServicePrograms();
-        break;
-    case Page::FailureList:
-        ui->widget_deleteFailureList->SetText(Caption(Captions::FehlerLoeschen));
-        break;
+    case Page::ServiceProgs: PreparePageServicePrograms(); break;
+    case Page::FailureList: ui->widget_deleteFailureList->SetText(Caption(Captions::FehlerLoeschen)); break;
     case Page::DisplayOptions:
         if (from == Page::Progs || from == Page::Settings)
             m_origins.filterOrigin = static_cast<Page>(from);
         PreparePageDisplayOptions();
         break;
-    case Page::DisplayManufacturer:
-        PreparePageDisplayManufacturer();
-        break;
-    case Page::DisplayMaterial:
-        PreparePageDisplayMaterial();
-        break;
-    case Page::USB:
-        PreparePageUSBMenu();
-        break;
-    default:
-        break;
+    case Page::DisplayManufacturer: PreparePageDisplayManufacturer(); break;
+    case Page::DisplayMaterial: PreparePageDisplayMaterial(); break;
+    case Page::USB: PreparePageUSBMenu(); break;
+    default: break;
     }
 }
 
@@ -253,10 +216,10 @@ void MainWindow::SetDeviceDataCaptions()
 {
     const char *captions[] = {Captions::TypBaureihe, Captions::Seriennummer, Captions::Hardwareversion,
                               Captions::Softwareversion, Captions::Betriebsstunden};
-    QLabel *startUp[] = {ui->label_DeviceData1, ui->label_DeviceData2, ui->label_DeviceData3,
-                         ui->label_DeviceData4, ui->label_DeviceData5};
-    QLabel *menu[] = {ui->label_DeviceData21, ui->label_DeviceData22, ui->label_DeviceData23,
-                      ui->label_DeviceData24, ui->label_DeviceData25};
+    QLabel *startUp[] = {ui->label_DeviceData1, ui->label_DeviceData2, ui->label_DeviceData3, ui->label_DeviceData4,
+                         ui->label_DeviceData5};
+    QLabel *menu[] = {ui->label_DeviceData21, ui->label_DeviceData22, ui->label_DeviceData23, ui->label_DeviceData24,
+                      ui->label_DeviceData25};
     for (int i = 0; i < 5; ++i) {
         startUp[i]->setText(Caption(captions[i]));
         menu[i]->setText(Caption(captions[i]));

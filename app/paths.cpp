@@ -7,8 +7,7 @@ namespace GlobalElements {
 
 const QString Paths::deviceHome = QStringLiteral("/home/pi");
 
-Paths::Paths(const QString &home)
-    : m_home(QDir::cleanPath(home))
+Paths::Paths(const QString &home) : m_home(QDir::cleanPath(home))
 {
     if (home.isEmpty())
         m_home = deviceHome;

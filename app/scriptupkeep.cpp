@@ -11,10 +11,9 @@ namespace ovra {
 namespace GlobalElements {
 
 namespace {
-const QFileDevice::Permissions runnable = QFileDevice::ReadOwner | QFileDevice::WriteOwner
-                                          | QFileDevice::ExeOwner | QFileDevice::ReadGroup
-                                          | QFileDevice::ExeGroup | QFileDevice::ReadOther
-                                          | QFileDevice::ExeOther;
+const QFileDevice::Permissions runnable = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner |
+                                          QFileDevice::ReadGroup | QFileDevice::ExeGroup | QFileDevice::ReadOther |
+                                          QFileDevice::ExeOther;
 
 QByteArray Md5(const QByteArray &bytes)
 {

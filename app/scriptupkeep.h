@@ -15,8 +15,7 @@ class ScriptUpkeep
 {
 public:
     // referenceFolder holds one reference copy per script, by file name.
-    explicit ScriptUpkeep(const Paths &paths,
-                          const QString &referenceFolder = QStringLiteral(":/scripts"));
+    explicit ScriptUpkeep(const Paths &paths, const QString &referenceFolder = QStringLiteral(":/scripts"));
 
     // fixedPaths are device paths ("/home/pi/..."), mapped onto the home folder. A script
     // without a reference copy is left alone. Returns the files written; a failure is logged.

@@ -66,8 +66,8 @@ int main(int argc, char *argv[])
         const bool hold = (minute % 60) >= 24;
         const int celsius = 300 + 120 * stage - (hold ? 0 : 120 - (minute % 60) * 5);
         const double before = cpuSeconds();
-        feed("temp==" + QByteArray::number(celsius + 273) + "$$hpinfo==Langzeit;" + QByteArray::number(600 - minute) + ";"
-             + QByteArray::number(stage) + ";" + (hold ? "hold" : "heat"));
+        feed("temp==" + QByteArray::number(celsius + 273) + "$$hpinfo==Langzeit;" + QByteArray::number(600 - minute) +
+             ";" + QByteArray::number(stage) + ";" + (hold ? "hold" : "heat"));
         QApplication::processEvents(); // the screen repaints after each report
         worst = std::max(worst, cpuSeconds() - before);
         if (i == reports / 2)

@@ -98,8 +98,8 @@ int main(int argc, char *argv[])
 
     std::sort(micros.begin(), micros.end());
     auto pct = [&](double p) { return micros.empty() ? 0.0 : micros[size_t(p * double(micros.size() - 1))]; };
-    std::printf("frames=%zu p50_us=%.1f p90_us=%.1f p99_us=%.1f max_us=%.1f\n", micros.size(),
-                pct(0.50), pct(0.90), pct(0.99), micros.empty() ? 0.0 : micros.back());
+    std::printf("frames=%zu p50_us=%.1f p90_us=%.1f p99_us=%.1f max_us=%.1f\n", micros.size(), pct(0.50), pct(0.90),
+                pct(0.99), micros.empty() ? 0.0 : micros.back());
     ::close(master);
     ::close(slave);
     return rc;

@@ -17,8 +17,8 @@ QByteArray heatfileBody()
     QByteArray body = "heatfile==[metainfo];name=Zirkon Speed Sinter;manufacturer=DentaCeram;"
                       "material=Zirkon;favorite=true;";
     for (int i = 1; i <= 10; ++i)
-        body += "[" + QByteArray::number(i) + "];rate=" + QByteArray::number(10 + i) + ";temp="
-                + QByteArray::number(1073 + 50 * i) + ";hold=" + QByteArray::number(60 * i) + ";";
+        body += "[" + QByteArray::number(i) + "];rate=" + QByteArray::number(10 + i) +
+                ";temp=" + QByteArray::number(1073 + 50 * i) + ";hold=" + QByteArray::number(60 * i) + ";";
     return body;
 }
 
@@ -33,12 +33,17 @@ void handleFrame(benchmark::State &state, const QByteArray &body)
         benchmark::DoNotOptimize(answer);
     }
     state.counters["frame_bytes"] = frame.size();
-    state.counters["frames_per_s"] = benchmark::Counter(double(state.iterations()),
-                                                        benchmark::Counter::kIsRate);
+    state.counters["frames_per_s"] = benchmark::Counter(double(state.iterations()), benchmark::Counter::kIsRate);
 }
 
-void BM_CommandFrame(benchmark::State &state) { handleFrame(state, commandBody); }
-void BM_HeatfileFrame(benchmark::State &state) { handleFrame(state, heatfileBody()); }
+void BM_CommandFrame(benchmark::State &state)
+{
+    handleFrame(state, commandBody);
+}
+void BM_HeatfileFrame(benchmark::State &state)
+{
+    handleFrame(state, heatfileBody());
+}
 
 void BM_ChecksumOnly(benchmark::State &state)
 {

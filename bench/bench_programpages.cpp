@@ -17,11 +17,11 @@ void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 QByteArray heatfileFrame(int i)
 {
-    QByteArray body = "heatfile==[metainfo];name=Programm " + QByteArray::number(i)
-                      + ";manufacturer=user;material=Zirkon;favorite=" + (i % 5 == 0 ? "true" : "false") + ";";
+    QByteArray body = "heatfile==[metainfo];name=Programm " + QByteArray::number(i) +
+                      ";manufacturer=user;material=Zirkon;favorite=" + (i % 5 == 0 ? "true" : "false") + ";";
     for (int s = 1; s <= 1 + i % 10; ++s)
-        body += "[" + QByteArray::number(s) + "];rate=" + QByteArray::number(5 + s) + ";temp="
-                + QByteArray::number(773 + 80 * s) + ";hold=" + QByteArray::number(60 * s) + ";";
+        body += "[" + QByteArray::number(s) + "];rate=" + QByteArray::number(5 + s) +
+                ";temp=" + QByteArray::number(773 + 80 * s) + ";hold=" + QByteArray::number(60 * s) + ";";
     return ovra::Communication::Frame::Build(body);
 }
 

@@ -51,8 +51,7 @@ double residentMegabytes()
 
 struct Update
 {
-    Update()
-        : handler(ovra::GlobalElements::Paths(home.path()))
+    Update() : handler(ovra::GlobalElements::Paths(home.path()))
     {
         qInstallMessageHandler(quiet);
         QDir(home.path()).mkpath(QStringLiteral("Downloads"));
@@ -87,7 +86,8 @@ void BM_UpdateBlock(benchmark::State &state)
     const auto rawStart = std::chrono::steady_clock::now();
     for (int i = 0; i < next; ++i)
         raw.write(data);
-    const double rawPerBlock = std::chrono::duration<double>(std::chrono::steady_clock::now() - rawStart).count() / next;
+    const double rawPerBlock =
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - rawStart).count() / next;
 
     const double wire = double(frames.first().size()) / lineBytesPerSecond;
     state.counters["frame_bytes"] = frames.first().size();
@@ -125,8 +125,8 @@ void BM_TenMegabyteUpdate(benchmark::State &state)
         state.counters["rss_end_mb"] = residentMegabytes();
         state.counters["rss_max_mb"] = highest;
         state.counters["finished"] = update.handler.IsUpdateActive() ? 0 : 1;
-        state.counters["file_mb"] = double(QFileInfo(update.home.filePath(QStringLiteral("Downloads/outfile.txt"))).size())
-                                    / (1024.0 * 1024.0);
+        state.counters["file_mb"] =
+            double(QFileInfo(update.home.filePath(QStringLiteral("Downloads/outfile.txt"))).size()) / (1024.0 * 1024.0);
     }
 }
 

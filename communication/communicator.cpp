@@ -9,10 +9,9 @@
 namespace ovra {
 namespace Communication {
 
-Communicator::Communicator(MessageHandler *handler, QObject *parent, const QString &portName,
-                           int watchdogIntervalMs)
-    : QObject(parent), m_port(new QSerialPort(this)), m_handler(handler),
-      m_watchdog(new QTimer(this)), m_watchdogIntervalMs(watchdogIntervalMs)
+Communicator::Communicator(MessageHandler *handler, QObject *parent, const QString &portName, int watchdogIntervalMs)
+    : QObject(parent), m_port(new QSerialPort(this)), m_handler(handler), m_watchdog(new QTimer(this)),
+      m_watchdogIntervalMs(watchdogIntervalMs)
 {
     qRegisterMetaType<QSerialPort::SerialPortError>("QSerialPort::SerialPortError");
 
@@ -29,8 +28,7 @@ Communicator::Communicator(MessageHandler *handler, QObject *parent, const QStri
         qDebug() << "serial port not open!!";
 
     // Queued: the slot runs from the event loop, never inside the port's own emission.
-    connect(m_port, &QSerialPort::readyRead, this, &Communicator::SlotHandleMessage,
-            Qt::QueuedConnection);
+    connect(m_port, &QSerialPort::readyRead, this, &Communicator::SlotHandleMessage, Qt::QueuedConnection);
     connect(m_port, &QSerialPort::errorOccurred, this, &Communicator::SlotHandleError);
 }
 
@@ -90,9 +88,7 @@ void Communicator::SlotRestartSerialCom()
         qDebug() << "serial port reset not successfull!!";
 }
 
-void Communicator::SlotNewConnection()
-{
-}
+void Communicator::SlotNewConnection() {}
 
 void Communicator::SlotDestroyConnection()
 {

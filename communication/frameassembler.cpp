@@ -43,8 +43,7 @@ bool FrameAssembler::Feed(const QByteArray &chunk, QByteArray *frame)
 bool FrameAssembler::AppendToBuffer(const QByteArray &bytes)
 {
     if (m_buffer.size() + bytes.size() > maxBufferBytes) {
-        qDebug() << "receive buffer overflow: partial frame of" << m_buffer.size() + bytes.size()
-                 << "bytes dropped";
+        qDebug() << "receive buffer overflow: partial frame of" << m_buffer.size() + bytes.size() << "bytes dropped";
         m_buffer.clear();
         m_discarding = true;
         return false;

@@ -18,8 +18,7 @@ KeyMessage InterpretKeyMessage(const QByteArray &message)
 }
 
 InternalCommunicator::InternalCommunicator(QObject *parent, quint16 port)
-    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this)),
-      m_idleTimer(new QTimer(this))
+    : QObject(parent), m_server(new QTcpServer(this)), m_server6(new QTcpServer(this)), m_idleTimer(new QTimer(this))
 {
     m_idleTimer->setSingleShot(true);
     m_idleTimer->setInterval(defaultIdleTimeoutMs);

@@ -9,8 +9,7 @@ namespace Communication {
 
 using GlobalElements::Pageinterface;
 
-MessageHandler::MessageHandler(const GlobalElements::Paths &paths, QObject *parent)
-    : QObject(parent), m_paths(paths)
+MessageHandler::MessageHandler(const GlobalElements::Paths &paths, QObject *parent) : QObject(parent), m_paths(paths)
 {
     qRegisterMetaType<Pageinterface::en_pages>("ovra::GlobalElements::Pageinterface::en_pages");
     qRegisterMetaType<GlobalElements::Program *>("ovra::GlobalElements::Program*");
@@ -59,10 +58,14 @@ MessageHandler::MessageHandler(const GlobalElements::Paths &paths, QObject *pare
         {QStringLiteral("ack"), &MessageHandler::OnAck},
     };
     m_commandsWithoutParameter = QStringList{
-        QStringLiteral("ack"),        QStringLiteral("dooropen"),
-        QStringLiteral("doorclose"),  QStringLiteral("doorclosed"),
-        QStringLiteral("hpsuccess"),  QStringLiteral("hpfailed"),
-        QStringLiteral("insulationmissing"), QStringLiteral("waitforuserinteraction"),
+        QStringLiteral("ack"),
+        QStringLiteral("dooropen"),
+        QStringLiteral("doorclose"),
+        QStringLiteral("doorclosed"),
+        QStringLiteral("hpsuccess"),
+        QStringLiteral("hpfailed"),
+        QStringLiteral("insulationmissing"),
+        QStringLiteral("waitforuserinteraction"),
         QStringLiteral("initialstart"),
     };
     SetUpUpdateReception();
@@ -188,9 +191,21 @@ bool MessageHandler::OnTemp(const QString &p)
     return true;
 }
 
-bool MessageHandler::OnName(const QString &p) { emit SignalTypeModelSeries(p); return true; }
-bool MessageHandler::OnSerialNo(const QString &p) { emit SignalSerialNumber(p); return true; }
-bool MessageHandler::OnHwVer(const QString &p) { emit SignalHWVersion(p); return true; }
+bool MessageHandler::OnName(const QString &p)
+{
+    emit SignalTypeModelSeries(p);
+    return true;
+}
+bool MessageHandler::OnSerialNo(const QString &p)
+{
+    emit SignalSerialNumber(p);
+    return true;
+}
+bool MessageHandler::OnHwVer(const QString &p)
+{
+    emit SignalHWVersion(p);
+    return true;
+}
 
 bool MessageHandler::OnSwVer(const QString &p)
 {
@@ -206,14 +221,46 @@ bool MessageHandler::OnOpHours(const QString &p)
     return true;
 }
 
-bool MessageHandler::OnCountry(const QString &p) { emit SignalCountry(p); return true; }
-bool MessageHandler::OnStDoor(const QString &p) { emit SignalSelftestDoor(p); return true; }
-bool MessageHandler::OnStHeater(const QString &p) { emit SignalSelftestHeater(p); return true; }
-bool MessageHandler::OnStCooling(const QString &p) { emit SignalSelftestCooling(p); return true; }
-bool MessageHandler::OnStArgon(const QString &p) { emit SignalSelftestArgon(p); return true; }
-bool MessageHandler::OnSt(const QString &p) { emit SignalSelftestResult(p); return true; }
-bool MessageHandler::OnError(const QString &p) { emit SignalFailure(p); return true; }
-bool MessageHandler::OnResetError(const QString &p) { emit SignalResetFailure(p); return true; }
+bool MessageHandler::OnCountry(const QString &p)
+{
+    emit SignalCountry(p);
+    return true;
+}
+bool MessageHandler::OnStDoor(const QString &p)
+{
+    emit SignalSelftestDoor(p);
+    return true;
+}
+bool MessageHandler::OnStHeater(const QString &p)
+{
+    emit SignalSelftestHeater(p);
+    return true;
+}
+bool MessageHandler::OnStCooling(const QString &p)
+{
+    emit SignalSelftestCooling(p);
+    return true;
+}
+bool MessageHandler::OnStArgon(const QString &p)
+{
+    emit SignalSelftestArgon(p);
+    return true;
+}
+bool MessageHandler::OnSt(const QString &p)
+{
+    emit SignalSelftestResult(p);
+    return true;
+}
+bool MessageHandler::OnError(const QString &p)
+{
+    emit SignalFailure(p);
+    return true;
+}
+bool MessageHandler::OnResetError(const QString &p)
+{
+    emit SignalResetFailure(p);
+    return true;
+}
 
 bool MessageHandler::OnHeatfile(const QString &p)
 {
@@ -221,14 +268,46 @@ bool MessageHandler::OnHeatfile(const QString &p)
     return true;
 }
 
-bool MessageHandler::OnEstTime(const QString &p) { emit SignalRemainingTime(p); return true; }
-bool MessageHandler::OnStage(const QString &p) { emit SignalActualStage(p); return true; }
-bool MessageHandler::OnGuiState(const QString &p) { emit SignalGuiState(p); return true; }
-bool MessageHandler::OnHpInfo(const QString &p) { emit SignalHeatfileInfo(p); return true; }
-bool MessageHandler::OnArgon(const QString &p) { emit SignalArgon(p); return true; }
-bool MessageHandler::OnMaxRate(const QString &p) { emit SignalMaxRate(p.toUInt()); return true; }
-bool MessageHandler::OnCode(const QString &p) { emit SignalServicePin(p.toUInt()); return true; }
-bool MessageHandler::OnUsb(const QString &p) { emit SignalUSB(p); return true; }
+bool MessageHandler::OnEstTime(const QString &p)
+{
+    emit SignalRemainingTime(p);
+    return true;
+}
+bool MessageHandler::OnStage(const QString &p)
+{
+    emit SignalActualStage(p);
+    return true;
+}
+bool MessageHandler::OnGuiState(const QString &p)
+{
+    emit SignalGuiState(p);
+    return true;
+}
+bool MessageHandler::OnHpInfo(const QString &p)
+{
+    emit SignalHeatfileInfo(p);
+    return true;
+}
+bool MessageHandler::OnArgon(const QString &p)
+{
+    emit SignalArgon(p);
+    return true;
+}
+bool MessageHandler::OnMaxRate(const QString &p)
+{
+    emit SignalMaxRate(p.toUInt());
+    return true;
+}
+bool MessageHandler::OnCode(const QString &p)
+{
+    emit SignalServicePin(p.toUInt());
+    return true;
+}
+bool MessageHandler::OnUsb(const QString &p)
+{
+    emit SignalUSB(p);
+    return true;
+}
 
 bool MessageHandler::OnHpSuccess(const QString &)
 {
@@ -242,13 +321,33 @@ bool MessageHandler::OnHpFailed(const QString &)
     return true;
 }
 
-bool MessageHandler::OnMatChanged(const QString &p) { emit SignalMaterialChanged(p); return true; }
-bool MessageHandler::OnInsulationMissing(const QString &) { emit SignalInsulationMissing(); return true; }
+bool MessageHandler::OnMatChanged(const QString &p)
+{
+    emit SignalMaterialChanged(p);
+    return true;
+}
+bool MessageHandler::OnInsulationMissing(const QString &)
+{
+    emit SignalInsulationMissing();
+    return true;
+}
 
 // "dooropen" reports the movement, "doorclosed" the end state: the controller's own wording.
-bool MessageHandler::OnDoorClose(const QString &) { emit SignalDoor(QStringLiteral("closing")); return true; }
-bool MessageHandler::OnDoorClosed(const QString &) { emit SignalDoor(QStringLiteral("closed")); return true; }
-bool MessageHandler::OnDoorOpen(const QString &) { emit SignalDoor(QStringLiteral("opening")); return true; }
+bool MessageHandler::OnDoorClose(const QString &)
+{
+    emit SignalDoor(QStringLiteral("closing"));
+    return true;
+}
+bool MessageHandler::OnDoorClosed(const QString &)
+{
+    emit SignalDoor(QStringLiteral("closed"));
+    return true;
+}
+bool MessageHandler::OnDoorOpen(const QString &)
+{
+    emit SignalDoor(QStringLiteral("opening"));
+    return true;
+}
 
 bool MessageHandler::OnUpdate(const QString &p)
 {
@@ -263,11 +362,31 @@ bool MessageHandler::OnWaitForUserInteraction(const QString &)
     return true;
 }
 
-bool MessageHandler::OnLang(const QString &p) { emit SignalSetLanguage(p); return true; }
-bool MessageHandler::OnUnit(const QString &p) { emit SignalSetUnit(p); return true; }
-bool MessageHandler::OnInitialStart(const QString &) { emit SignalSetInitalStartup(); return true; }
-bool MessageHandler::OnHfCount(const QString &p) { emit SignalHeatfileCount(p.toInt()); return true; }
-bool MessageHandler::OnAck(const QString &) { emit SignalAcknowledge(); return true; }
+bool MessageHandler::OnLang(const QString &p)
+{
+    emit SignalSetLanguage(p);
+    return true;
+}
+bool MessageHandler::OnUnit(const QString &p)
+{
+    emit SignalSetUnit(p);
+    return true;
+}
+bool MessageHandler::OnInitialStart(const QString &)
+{
+    emit SignalSetInitalStartup();
+    return true;
+}
+bool MessageHandler::OnHfCount(const QString &p)
+{
+    emit SignalHeatfileCount(p.toInt());
+    return true;
+}
+bool MessageHandler::OnAck(const QString &)
+{
+    emit SignalAcknowledge();
+    return true;
+}
 
 } // namespace Communication
 } // namespace ovra

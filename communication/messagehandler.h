@@ -164,7 +164,7 @@ private:
     void OnUnpackProcessError(QProcess::ProcessError error);
     void OnUnpackProcessFinished(int exitCode, QProcess::ExitStatus status);
 
-    QList<Command> m_commands;           // in matching order
+    QList<Command> m_commands; // in matching order
     QStringList m_commandsWithoutParameter;
     QStringList m_requests;
     const GlobalElements::Paths m_paths;
@@ -178,14 +178,14 @@ private:
     int m_appliedBlocks = 0;
     int m_highestBlock = -1;
     QString m_lastProgress;
-    QStringList m_storedBlocks;    // raw texts of blocks that came ahead of a gap
-    QSet<int> m_expectedBlocks;    // asked for again, not yet received
+    QStringList m_storedBlocks; // raw texts of blocks that came ahead of a gap
+    QSet<int> m_expectedBlocks; // asked for again, not yet received
     QDataStream *m_outputStream = nullptr;
     QFile *m_outputFile = nullptr;
     QProcess *m_unpackProcess;
     QTimer *m_unpackTimer;
     QStringList m_unpackInterpreters;
-    int m_unpackInterpreter = 0;   // index of the one being tried
+    int m_unpackInterpreter = 0; // index of the one being tried
     QByteArray m_unpackOutput;
     int m_heatfileSection = -1;
     // Rows the segment matrix grows by in one step while a heatfile is read.

@@ -17,8 +17,8 @@ constexpr int maxSection = 100;
 
 void MessageHandler::HandleRecvHeatfile(const QString &payload)
 {
-    auto *prog = new Program(QStringLiteral("default"), QString(), {QList<unsigned int>()},
-                             QStringLiteral("user"), false);
+    auto *prog =
+        new Program(QStringLiteral("default"), QString(), {QList<unsigned int>()}, QStringLiteral("user"), false);
 
     QStringList parts = payload.split(QLatin1Char(';'), Qt::KeepEmptyParts);
     parts.removeAll(QString());
@@ -49,8 +49,8 @@ void MessageHandler::HeatfileLineParser(const QString &entry, int section, Progr
     const QString &key = pieces.constFirst();
     const QString value = pieces.value(1);
 
-    const bool segmentKey = key == QLatin1String("rate") || key == QLatin1String("hold")
-                            || key == QLatin1String("temp");
+    const bool segmentKey =
+        key == QLatin1String("rate") || key == QLatin1String("hold") || key == QLatin1String("temp");
     if (segmentKey && (section < 1 || section > maxSection)) {
         qDebug() << entry << "outside of a segment section, ignored";
         return;

@@ -29,10 +29,8 @@ void MessageHandler::SetUpUpdateReception()
     m_unpackInterpreters = UpdateScript::DefaultInterpreters();
 
     connect(m_unpackTimer, &QTimer::timeout, this, &MessageHandler::SlotStartUpdate);
-    connect(m_unpackProcess, &QProcess::readyReadStandardOutput, this,
-            &MessageHandler::Slot_UpdateProcess_Output);
-    connect(m_unpackProcess, &QProcess::readyReadStandardError, this,
-            &MessageHandler::Slot_UpdateProcess_Error);
+    connect(m_unpackProcess, &QProcess::readyReadStandardOutput, this, &MessageHandler::Slot_UpdateProcess_Output);
+    connect(m_unpackProcess, &QProcess::readyReadStandardError, this, &MessageHandler::Slot_UpdateProcess_Error);
     connect(m_unpackProcess, &QProcess::errorOccurred, this, &MessageHandler::OnUnpackProcessError);
     connect(m_unpackProcess, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &MessageHandler::OnUnpackProcessFinished);
@@ -70,8 +68,7 @@ void MessageHandler::InitializeUpdater(QString blockCount)
         m_outputStream = new QDataStream(m_outputFile);
     } else {
         // The blocks are still counted and answered; the script then finds no file.
-        qDebug() << "update file could not be opened:" << m_outputFile->fileName()
-                 << m_outputFile->errorString();
+        qDebug() << "update file could not be opened:" << m_outputFile->fileName() << m_outputFile->errorString();
     }
 
     const int total = blockCount.toInt();
@@ -95,8 +92,7 @@ void MessageHandler::HandleUpdate(QString &block)
     // A number past the announced total is line noise in the header; asking for every block
     // up to it could queue a million requests.
     if (m_totalBlocks >= 1 && number >= m_totalBlocks) {
-        qDebug() << "update: block number" << number << "beyond the total of" << m_totalBlocks
-                 << "ignored";
+        qDebug() << "update: block number" << number << "beyond the total of" << m_totalBlocks << "ignored";
         return;
     }
     const int size = data.size();
@@ -128,8 +124,7 @@ bool MessageHandler::IsBlockExpected(int number)
     return m_expectedBlocks.remove(number);
 }
 
-bool MessageHandler::ApplyFileData(const QString &block, QByteArray &data, int number, int size,
-                                   bool valid)
+bool MessageHandler::ApplyFileData(const QString &block, QByteArray &data, int number, int size, bool valid)
 {
     const int expected = m_highestBlock + 1;
     if (number > expected) {
@@ -235,7 +230,8 @@ void MessageHandler::OnUnpackProcessError(QProcess::ProcessError error)
              << "did not start:" << m_unpackProcess->errorString();
     ++m_unpackInterpreter;
     // Not from inside the process's own error emission.
-    QMetaObject::invokeMethod(this, [this] { StartUnpackInterpreter(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { StartUnpackInterpreter(); }, Qt::QueuedConnection);
 }
 
 void MessageHandler::Slot_UpdateProcess_Output()
@@ -254,8 +250,7 @@ void MessageHandler::OnUnpackProcessFinished(int exitCode, QProcess::ExitStatus 
 {
     m_unpackOutput += m_unpackProcess->readAllStandardOutput();
     const QString result = UpdateScript::Report(m_unpackOutput, status == QProcess::NormalExit);
-    qDebug() << "update script ended with" << exitCode << "printing" << m_unpackOutput.trimmed()
-             << ":" << result;
+    qDebug() << "update script ended with" << exitCode << "printing" << m_unpackOutput.trimmed() << ":" << result;
     emit SignalUSB(result);
     m_unpackTimer->stop();
 }

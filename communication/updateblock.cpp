@@ -17,12 +17,10 @@ bool Decode(const QString &text, QByteArray &data, int &number, int numberWidth,
     if (separator < 0)
         return false;
     const int dataStart = numberWidth + lengthWidth;
-    const QByteArray decoded = QByteArray::fromBase64(
-        text.mid(dataStart, separator - dataStart).toLatin1());
+    const QByteArray decoded = QByteArray::fromBase64(text.mid(dataStart, separator - dataStart).toLatin1());
     const QString digest = text.mid(separator + 1);
 
-    if (QString::fromLatin1(QCryptographicHash::hash(decoded, QCryptographicHash::Md5).toHex())
-        == digest) {
+    if (QString::fromLatin1(QCryptographicHash::hash(decoded, QCryptographicHash::Md5).toHex()) == digest) {
         data = decoded;
         return true;
     }

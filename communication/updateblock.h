@@ -18,8 +18,8 @@ constexpr int defaultLengthWidth = 3;
 // and leaves it alone otherwise. On a digest mismatch `data` becomes the declared length's
 // worth of '_' so that nothing of the damaged block can pass for content. True only for a
 // block whose data match their digest.
-bool Decode(const QString &text, QByteArray &data, int &number,
-            int numberWidth = defaultNumberWidth, int lengthWidth = defaultLengthWidth);
+bool Decode(const QString &text, QByteArray &data, int &number, int numberWidth = defaultNumberWidth,
+            int lengthWidth = defaultLengthWidth);
 
 // The block text for `data` (at most 999 bytes with the default widths).
 QByteArray Encode(int number, const QByteArray &data, int numberWidth = defaultNumberWidth,

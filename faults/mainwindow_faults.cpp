@@ -28,7 +28,8 @@ void MainWindow::SlotServiceSelftest()
 
 void MainWindow::PreparePageSelftest()
 {
-    for (GlobalElements::TestDisplayElement *row : {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling})
+    for (GlobalElements::TestDisplayElement *row :
+         {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling})
         row->SetIconResult(QStringLiteral("delete"));
     m_selftestProgress.Reset();
     ui->widget_redoSelftest->setVisible(false);
@@ -82,8 +83,8 @@ void MainWindow::SlotErrorHandling(const QString &codes)
     for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts)) {
         m_errorHandler->AddError(code);
         m_firingRecorder.Failure(ui->label_Date->text() + QLatin1Char(' ') + ui->widget_time->GetText(), code);
-        const QString line = ui->label_Date->text() + QStringLiteral(", ") + ui->widget_time->GetText()
-                             + QStringLiteral(": ") + code + QLatin1Char('\n');
+        const QString line = ui->label_Date->text() + QStringLiteral(", ") + ui->widget_time->GetText() +
+                             QStringLiteral(": ") + code + QLatin1Char('\n');
         ui->textEdit_FailureList->setPlainText(line + ui->textEdit_FailureList->toPlainText());
     }
 }
@@ -98,8 +99,8 @@ void MainWindow::ErrorHandling()
 {
     const QString list = m_errorHandler->GetErrorList();
     const bool any = !list.isEmpty();
-    for (QWidget *w : std::initializer_list<QWidget *>{ui->pushButton_info, ui->textEdit_test,
-                                                       ui->textEdit_mainMenu, ui->pushButton_infoMainMenu})
+    for (QWidget *w : std::initializer_list<QWidget *>{ui->pushButton_info, ui->textEdit_test, ui->textEdit_mainMenu,
+                                                       ui->pushButton_infoMainMenu})
         w->setVisible(any);
 
     QString icon;

@@ -8,9 +8,7 @@ namespace ovra {
 namespace Popups {
 
 PopupFailure::PopupFailure(ovra::GlobalElements::ErrorHandler *errors, QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupFailure)
-    , m_errors(errors)
+    : PopupBase(parent), ui(new Ui::PopupFailure), m_errors(errors)
 {
     ui->setupUi(this);
     GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, nullptr);

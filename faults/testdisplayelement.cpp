@@ -15,10 +15,8 @@ const QString TestDisplayElement::passIcon = QStringLiteral(":/Icons/processChec
 const QString TestDisplayElement::failIcon = QStringLiteral(":/Icons/processFail.png");
 
 TestDisplayElement::TestDisplayElement(QWidget *parent)
-    : QWidget(parent)
-    , m_passKeyword(QStringLiteral("pass"))
-    , m_label(new ElidedLabel(this))
-    , m_button(new Iconbutton(this))
+    : QWidget(parent), m_passKeyword(QStringLiteral("pass")), m_label(new ElidedLabel(this)),
+      m_button(new Iconbutton(this))
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 4, 8, 4);

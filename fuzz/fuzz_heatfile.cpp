@@ -19,8 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (GlobalElements::HeatfileText::Read(text, &program, &error)) {
         // What was read must write back to a text that reads as the same program.
         GlobalElements::Program again({}, {}, {}, {}, false);
-        if (!GlobalElements::HeatfileText::Read(GlobalElements::HeatfileText::Write(program), &again, &error)
-            || *again.GetMatrix() != *program.GetMatrix() || again.GetName() != program.GetName())
+        if (!GlobalElements::HeatfileText::Read(GlobalElements::HeatfileText::Write(program), &again, &error) ||
+            *again.GetMatrix() != *program.GetMatrix() || again.GetName() != program.GetName())
             __builtin_trap();
     }
     fuzz::Handle(QString::fromLatin1(Communication::Frame::Build("heatfile==" + bytes)));

@@ -28,8 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     MessageHandler handler{ovra::GlobalElements::Paths(home->path())};
     const int blocks = 1 + data[0] % 16;
-    handler.HandleMessage(QString::fromLatin1(
-        ovra::Communication::Frame::Build("update==" + QByteArray::number(blocks))));
+    handler.HandleMessage(
+        QString::fromLatin1(ovra::Communication::Frame::Build("update==" + QByteArray::number(blocks))));
 
     const QByteArray rest(reinterpret_cast<const char *>(data) + 1, int(size) - 1);
     for (const QByteArray &line : rest.split('\n')) {

@@ -12,14 +12,12 @@ namespace Popups {
 namespace {
 const char *const invalidProperty = "invalid";
 
-const DateTimeField fieldOrder[] = {DateTimeField::Day, DateTimeField::Month, DateTimeField::Year,
-                                    DateTimeField::Hour, DateTimeField::Minute};
+const DateTimeField fieldOrder[] = {DateTimeField::Day, DateTimeField::Month, DateTimeField::Year, DateTimeField::Hour,
+                                    DateTimeField::Minute};
 } // namespace
 
 DateTimePopup::DateTimePopup(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::DateTimePopup)
-    , m_entry(new DigitEntry(this))
+    : PopupBase(parent), ui(new Ui::DateTimePopup), m_entry(new DigitEntry(this))
 {
     ui->setupUi(this);
     GlobalElements::ConfirmButtons::Setup(ui->pushButton_ok, ui->pushButton_cancel);
@@ -58,8 +56,8 @@ void DateTimePopup::Translate()
 
 DateTimeEntry DateTimePopup::GetEntry() const
 {
-    return {ui->lineEdit_day->text(), ui->lineEdit_month->text(), ui->lineEdit_year->text(),
-            ui->lineEdit_hour->text(), ui->lineEdit_minute->text()};
+    return {ui->lineEdit_day->text(), ui->lineEdit_month->text(), ui->lineEdit_year->text(), ui->lineEdit_hour->text(),
+            ui->lineEdit_minute->text()};
 }
 
 bool DateTimePopup::FillFields(const QString &date, const QString &time)

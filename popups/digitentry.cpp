@@ -10,10 +10,7 @@
 namespace ovra {
 namespace Popups {
 
-DigitEntry::DigitEntry(QObject *parent)
-    : QObject(parent)
-{
-}
+DigitEntry::DigitEntry(QObject *parent) : QObject(parent) {}
 
 void DigitEntry::SetFields(const QVector<QLineEdit *> &fields)
 {
@@ -74,8 +71,7 @@ void DigitEntry::Next()
         SetCurrent((m_current + 1) % m_fields.size());
 }
 
-void DigitEntry::ConnectPad(const QVector<QAbstractButton *> &digitKeys, QAbstractButton *clear,
-                            QAbstractButton *next)
+void DigitEntry::ConnectPad(const QVector<QAbstractButton *> &digitKeys, QAbstractButton *clear, QAbstractButton *next)
 {
     for (int digit = 0; digit < digitKeys.size(); ++digit)
         connect(digitKeys.at(digit), &QAbstractButton::clicked, this, [this, digit] { TypeDigit(digit); });

@@ -8,7 +8,8 @@ namespace Popups {
 QString LicenseNoticeText(const QString &qtVersion)
 {
     // The context is spelled out in each call so that lupdate finds the texts.
-    const QString uses = QCoreApplication::translate("ovra::Popups::PopupLicense", "Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).");
+    const QString uses = QCoreApplication::translate("ovra::Popups::PopupLicense",
+                                                     "Diese Software verwendet das Qt Toolkit (Qt 5, LGPL v3).");
     const QString version = QCoreApplication::translate("ovra::Popups::PopupLicense", "Qt-Version: %1").arg(qtVersion);
     const QString notice = QCoreApplication::translate(
         "ovra::Popups::PopupLicense",

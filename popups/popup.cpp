@@ -7,9 +7,7 @@ namespace ovra {
 namespace Popups {
 
 // The buttons reach the slots through setupUi's connect-by-name.
-Popup::Popup(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::Popup)
+Popup::Popup(QWidget *parent) : PopupBase(parent), ui(new Ui::Popup)
 {
     ui->setupUi(this);
     // Set here rather than in the form: the form would decode both photos at start-up.

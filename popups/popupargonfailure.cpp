@@ -15,9 +15,9 @@ PopupArgonFailure::PopupArgonFailure(QWidget *parent)
 
 void PopupArgonFailure::Translate()
 {
-    SetTexts(QCoreApplication::translate("PopupArgonFailure",
-                                         "Überprüfung der Argon Versorgung\nfehlgeschlagen.\n\nBitte die Anschlüsse und "
-                                         "Eingangsdruck\nüberprüfen und den Prozess neu starten."));
+    SetTexts(QCoreApplication::translate(
+        "PopupArgonFailure", "Überprüfung der Argon Versorgung\nfehlgeschlagen.\n\nBitte die Anschlüsse und "
+                             "Eingangsdruck\nüberprüfen und den Prozess neu starten."));
 }
 
 void PopupArgonFailure::on_pushButton_ArgonFailureOK_clicked()

@@ -16,8 +16,7 @@ namespace {
 const QColor dimColour(0, 0, 0, 110);
 } // namespace
 
-PopupBase::PopupBase(QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+PopupBase::PopupBase(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
     setModal(true);
     if (parent) {

@@ -7,8 +7,7 @@ namespace ovra {
 namespace Popups {
 
 PopupConfirm::PopupConfirm(Role role, QWidget *parent, const char *okName, const char *cancelName)
-    : PopupBase(parent)
-    , ui(new Ui::PopupConfirm)
+    : PopupBase(parent), ui(new Ui::PopupConfirm)
 {
     ui->setupUi(this);
     ui->frame_Accent->setProperty("accent", role == Role::Danger ? "red" : "amber");

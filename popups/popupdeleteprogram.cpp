@@ -5,8 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupDeleteProgram::PopupDeleteProgram(QWidget *parent)
-    : PopupConfirm(Role::Danger, parent)
+PopupDeleteProgram::PopupDeleteProgram(QWidget *parent) : PopupConfirm(Role::Danger, parent)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
         if (confirmed)

@@ -4,8 +4,7 @@ namespace ovra {
 namespace Popups {
 
 PopupLeaveNewProg::PopupLeaveNewProg(Destination destination, QWidget *parent)
-    : PopupConfirm(Role::Caution, parent)
-    , m_destination(destination)
+    : PopupConfirm(Role::Caution, parent), m_destination(destination)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupLeaveNewProg::SignalLeave);
     Translate();

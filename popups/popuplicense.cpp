@@ -9,9 +9,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupLicense::PopupLicense(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupLicense)
+PopupLicense::PopupLicense(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupLicense)
 {
     ui->setupUi(this);
     GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, nullptr);

@@ -5,8 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupOverrideProg::PopupOverrideProg(QWidget *parent)
-    : PopupConfirm(Role::Caution, parent)
+PopupOverrideProg::PopupOverrideProg(QWidget *parent) : PopupConfirm(Role::Caution, parent)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupOverrideProg::SignalOverrideProg);
     Translate();

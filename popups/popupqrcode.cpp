@@ -10,9 +10,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupQRCode::PopupQRCode(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupQRCode)
+PopupQRCode::PopupQRCode(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupQRCode)
 {
     ui->setupUi(this);
     GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, nullptr);

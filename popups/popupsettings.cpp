@@ -5,8 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupSettings::PopupSettings(QWidget *parent)
-    : PopupConfirm(Role::Danger, parent)
+PopupSettings::PopupSettings(QWidget *parent) : PopupConfirm(Role::Danger, parent)
 {
     resize(560, 320);
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupSettings::SignalPopupSettingsButton);
@@ -16,9 +15,10 @@ PopupSettings::PopupSettings(QWidget *parent)
 void PopupSettings::Translate()
 {
     const QString title = QCoreApplication::translate("PopupSettings", "Werkseinstellungen");
-    SetTexts(QCoreApplication::translate(
-                 "PopupSettings", "Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!"),
-             title);
+    SetTexts(
+        QCoreApplication::translate(
+            "PopupSettings", "Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!"),
+        title);
 }
 
 } // namespace Popups

@@ -5,8 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupStop::PopupStop(QWidget *parent)
-    : PopupConfirm(Role::Caution, parent)
+PopupStop::PopupStop(QWidget *parent) : PopupConfirm(Role::Caution, parent)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupStop::SignalPopupStopButton);
     Translate();

@@ -5,9 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupTempWarning::PopupTempWarning(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupTempWarning)
+PopupTempWarning::PopupTempWarning(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupTempWarning)
 {
     ui->setupUi(this);
 

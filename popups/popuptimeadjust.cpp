@@ -5,8 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupTimeAdjust::PopupTimeAdjust(QWidget *parent)
-    : DateTimePopup(parent)
+PopupTimeAdjust::PopupTimeAdjust(QWidget *parent) : DateTimePopup(parent)
 {
     Translate();
 }

@@ -8,9 +8,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupUSB::PopupUSB(QWidget *parent)
-    : PopupBase(parent)
-    , ui(new Ui::PopupUSB)
+PopupUSB::PopupUSB(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupUSB)
 {
     ui->setupUi(this);
     GlobalElements::ConfirmButtons::Setup(ui->pushButton_USBProgress, nullptr);

@@ -11,8 +11,8 @@
 namespace ovra {
 namespace Popups {
 
-TimerEntry ParseTimerEntry(const QString &day, const QString &month, const QString &year,
-                           const QString &hour, const QString &minute)
+TimerEntry ParseTimerEntry(const QString &day, const QString &month, const QString &year, const QString &hour,
+                           const QString &minute)
 {
     TimerEntry entry;
     entry.day = day.toInt();
@@ -66,9 +66,9 @@ QString TwoDigits(int value)
 
 QString TimerRequestText(const TimerEntry &entry)
 {
-    return Communication::Requests::DelayedStartTime(
-        QString::number(entry.year).rightJustified(4, QLatin1Char('0')) + TwoDigits(entry.month) + TwoDigits(entry.day),
-        TwoDigits(entry.hour) + TwoDigits(entry.minute));
+    return Communication::Requests::DelayedStartTime(QString::number(entry.year).rightJustified(4, QLatin1Char('0')) +
+                                                         TwoDigits(entry.month) + TwoDigits(entry.day),
+                                                     TwoDigits(entry.hour) + TwoDigits(entry.minute));
 }
 
 } // namespace Popups

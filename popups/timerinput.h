@@ -18,8 +18,8 @@ struct TimerEntry
     int minute = 0;
 };
 
-TimerEntry ParseTimerEntry(const QString &day, const QString &month, const QString &year,
-                           const QString &hour, const QString &minute);
+TimerEntry ParseTimerEntry(const QString &day, const QString &month, const QString &year, const QString &hour,
+                           const QString &minute);
 
 // Turns what was typed into a start the controller can take, never one in the past:
 // a year before this one becomes this year; this year, a month before this one becomes this

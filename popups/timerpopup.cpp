@@ -16,9 +16,7 @@ TimerEntry ReadTimerEntry(const DateTimeEntry &typed)
 }
 } // namespace
 
-TimerPopup::TimerPopup(QWidget *parent)
-    : DateTimePopup(parent)
-    , m_clock([] { return QDateTime::currentDateTime(); })
+TimerPopup::TimerPopup(QWidget *parent) : DateTimePopup(parent), m_clock([] { return QDateTime::currentDateTime(); })
 {
     // A start minute cannot begin with 6 or more, so such a digit is refused as typed.
     ui->lineEdit_minute->setValidator(

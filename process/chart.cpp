@@ -31,8 +31,7 @@ constexpr int yLabelPixels = 15;
 QString LabelFamily()
 {
     const QString wanted = QStringLiteral("Source Sans Pro");
-    static const QString family =
-        QFontDatabase().families().contains(wanted) ? wanted : QStringLiteral("DejaVu Sans");
+    static const QString family = QFontDatabase().families().contains(wanted) ? wanted : QStringLiteral("DejaVu Sans");
     return family;
 }
 
@@ -55,9 +54,7 @@ void StyleAxis(QCategoryAxis *axis, const QFont &font)
 
 } // namespace
 
-Chart::Chart(QWidget *parent)
-    : QWidget(parent)
-    , m_ui(std::make_unique<Ui_Chart>())
+Chart::Chart(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui_Chart>())
 {
     m_ui->setupUi(this);
 
@@ -124,13 +121,11 @@ Chart::~Chart() = default;
 
 void Chart::CreateChart(QList<QList<unsigned int>> *matrix, bool summary, bool fahrenheit)
 {
-    connect(m_view, &ChartView::SignalChartClicked, this, &Chart::SlotChartClicked,
-            Qt::UniqueConnection);
+    connect(m_view, &ChartView::SignalChartClicked, this, &Chart::SlotChartClicked, Qt::UniqueConnection);
     if (summary) // a manufacturer's program cannot be opened from its chart
         disconnect(m_view, &ChartView::SignalChartClicked, this, &Chart::SlotChartClicked);
 
-    m_profile = ChartGeometry::BuildProfile(matrix ? *matrix : ChartGeometry::Matrix(), summary,
-                                            fahrenheit);
+    m_profile = ChartGeometry::BuildProfile(matrix ? *matrix : ChartGeometry::Matrix(), summary, fahrenheit);
     m_profileSeries->replace(m_profile.points);
     ShowIdleProfile();
 
@@ -156,11 +151,9 @@ void Chart::UpdateChart(unsigned int stage, const QString &text, unsigned int te
     m_axisY->setRange(y.min, y.max);
 }
 
-double Chart::CalculateLatestY(double x, QLineSeries *series, const QString &text,
-                               unsigned int temperature)
+double Chart::CalculateLatestY(double x, QLineSeries *series, const QString &text, unsigned int temperature)
 {
-    return ChartGeometry::FrontY(x, series ? series->pointsVector() : ChartGeometry::Points(),
-                                 text, temperature);
+    return ChartGeometry::FrontY(x, series ? series->pointsVector() : ChartGeometry::Points(), text, temperature);
 }
 
 void Chart::DeleteChart()

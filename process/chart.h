@@ -38,8 +38,7 @@ public:
     // One progress report of the controller; temperature in the unit the chart was created in.
     // A report without a drawable position leaves the fill as it was.
     void UpdateChart(unsigned int stage, const QString &text, unsigned int temperature);
-    double CalculateLatestY(double x, QtCharts::QLineSeries *series, const QString &text,
-                            unsigned int temperature);
+    double CalculateLatestY(double x, QtCharts::QLineSeries *series, const QString &text, unsigned int temperature);
     // Empties the profile, the fill and the x labels.
     void DeleteChart();
     // Removes the fill of a previous firing and restarts hold timing; the profile stays.

@@ -112,8 +112,7 @@ Report MapStage(const Profile &profile, const Report &report)
     return {1, report.text};
 }
 
-double FrontX(const Profile &profile, const Report &report, unsigned int temperature,
-              qint64 holdElapsedMs)
+double FrontX(const Profile &profile, const Report &report, unsigned int temperature, qint64 holdElapsedMs)
 {
     const Points &points = profile.points;
     const unsigned int stage = report.stage;
@@ -176,20 +175,18 @@ double FrontY(double x, const Points &points, const QString &text, unsigned int 
     return points.at(index).y();
 }
 
-Points ProgressLine(const Profile &profile, const Report &report, double x,
-                    unsigned int temperature)
+Points ProgressLine(const Profile &profile, const Report &report, double x, unsigned int temperature)
 {
     if (!std::isfinite(x))
         return {};
     const bool done = report.text == doneText;
-    const double y =
-        (profile.summary && done) ? 0.0 : FrontY(x, profile.points, report.text, temperature);
+    const double y = (profile.summary && done) ? 0.0 : FrontY(x, profile.points, report.text, temperature);
     // Starts at (0, 0) even in Fahrenheit, where the axis begins at 32: kept on purpose.
     Points line{QPointF(0, 0), QPointF(x, 0), QPointF(x, y)};
     if (!done) {
         const double first = std::floor(x + 0.5);
-        for (int i = first < 0 ? 0 : int(std::min<double>(first, profile.points.size()));
-             i < profile.points.size(); ++i)
+        for (int i = first < 0 ? 0 : int(std::min<double>(first, profile.points.size())); i < profile.points.size();
+             ++i)
             line.append(profile.points.at(i));
     }
     return line;
@@ -207,9 +204,8 @@ void ChartProgress::SetClock(std::unique_ptr<HoldClock> clock)
     m_clock = clock ? std::move(clock) : std::make_unique<ElapsedHoldClock>();
 }
 
-ChartProgress::Result ChartProgress::Update(const ChartGeometry::Profile &profile,
-                                            unsigned int stage, const QString &text,
-                                            unsigned int temperature)
+ChartProgress::Result ChartProgress::Update(const ChartGeometry::Profile &profile, unsigned int stage,
+                                            const QString &text, unsigned int temperature)
 {
     const ChartGeometry::Report report = ChartGeometry::MapStage(profile, {stage, text});
     if (report.stage > m_lastStage && report.text == QLatin1String("hold")) {

@@ -67,16 +67,14 @@ Report MapStage(const Profile &profile, const Report &report);
 // The front of the fill for an already mapped report. Not finite when the report has no
 // drawable position: a flat "heat" ramp (kept: the controller never sends one) or a stage
 // the profile does not have.
-double FrontX(const Profile &profile, const Report &report, unsigned int temperature,
-              qint64 holdElapsedMs);
+double FrontX(const Profile &profile, const Report &report, unsigned int temperature, qint64 holdElapsedMs);
 
 // Height of the fill's front edge at x.
 double FrontY(double x, const Points &points, const QString &text, unsigned int temperature);
 
 // Lower boundary of the fill: along the x axis to x, up the front edge, then along the
 // profile. Empty when x is not finite.
-Points ProgressLine(const Profile &profile, const Report &report, double x,
-                    unsigned int temperature);
+Points ProgressLine(const Profile &profile, const Report &report, double x, unsigned int temperature);
 
 } // namespace ChartGeometry
 

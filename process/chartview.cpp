@@ -5,10 +5,7 @@
 namespace ovra {
 namespace GlobalElements {
 
-ChartView::ChartView(QWidget *parent)
-    : QtCharts::QChartView(parent)
-{
-}
+ChartView::ChartView(QWidget *parent) : QtCharts::QChartView(parent) {}
 
 void ChartView::mouseReleaseEvent(QMouseEvent *event)
 {

@@ -41,9 +41,9 @@ QString AutostartNote(const QString &requestedTimer)
 {
     const ProcessTime::TimerRequest request = ProcessTime::ParseTimerRequest(requestedTimer);
     const QString blanks = QStringLiteral("      ");
-    return blanks + QStringLiteral("Autostart: ") + QLatin1Char('\n') + blanks + request.time.left(2)
-           + QLatin1Char(':') + request.time.mid(2, 2) + QLatin1Char('\n') + blanks + request.date.mid(6, 2)
-           + QLatin1Char('/') + request.date.mid(4, 2) + QLatin1Char('/') + request.date.left(4);
+    return blanks + QStringLiteral("Autostart: ") + QLatin1Char('\n') + blanks + request.time.left(2) +
+           QLatin1Char(':') + request.time.mid(2, 2) + QLatin1Char('\n') + blanks + request.date.mid(6, 2) +
+           QLatin1Char('/') + request.date.mid(4, 2) + QLatin1Char('/') + request.date.left(4);
 }
 
 namespace Door {

@@ -12,7 +12,7 @@ struct HeatInfo
     enum class Kind { Over, Progress, Unreadable };
     Kind kind = Kind::Unreadable;
     QString program;
-    QString minutesLeft; // handed on as the controller wrote it
+    QString minutesLeft;    // handed on as the controller wrote it
     bool preDrying = false; // stage "pre": no segment yet, the chart stays still
     unsigned int stage = 0; // a stage that is not a number reads as 0
     QString stageText;

@@ -3,18 +3,18 @@
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
 #include "communication/requests.h"
-#include "popups/popuptempwarning.h"
-#include "process/chart.h"
-#include "process/firingrules.h"
-#include "process/temperaturetext.h"
-#include "programs/program.h"
 #include "faults/errorhandler.h"
-#include "programs/programhandler.h"
 #include "popups/popupargonfailure.h"
 #include "popups/popupstop.h"
+#include "popups/popuptempwarning.h"
 #include "popups/timerpopup.h"
+#include "process/chart.h"
+#include "process/firingrules.h"
 #include "process/processtime.h"
+#include "process/temperaturetext.h"
 #include "programs/heatfiletext.h"
+#include "programs/program.h"
+#include "programs/programhandler.h"
 #include "ui_mainwindow.h"
 
 #include <QDebug>
@@ -228,8 +228,7 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
 
 void MainWindow::SlotSetHeatProcessResult(const QString &result)
 {
-    m_firingRecorder.Finished(result == QLatin1String("hpsuccess") ? Records::Result::Success
-                                                                    : Records::Result::Failed,
+    m_firingRecorder.Finished(result == QLatin1String("hpsuccess") ? Records::Result::Success : Records::Result::Failed,
                               ui->label_Date->text(), ui->label_Time->text());
     if (result == QLatin1String("hpsuccess")) {
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/success.png);"));
@@ -327,7 +326,8 @@ void MainWindow::UpdateProcessTime()
             m_autostartNote->setObjectName(QStringLiteral("plainTextEdit_autostart"));
             m_autostartNote->setReadOnly(true);
             m_autostartNote->setFont(QFont(QStringLiteral("Monserrat"), 16));
-            m_autostartNote->setStyleSheet(QStringLiteral("QPlainTextEdit{\n border: 0px;\n color: rgb(83, 88, 91);\n}"));
+            m_autostartNote->setStyleSheet(
+                QStringLiteral("QPlainTextEdit{\n border: 0px;\n color: rgb(83, 88, 91);\n}"));
             m_autostartNote->setFocusPolicy(Qt::NoFocus);
             m_autostartNote->setAttribute(Qt::WA_TransparentForMouseEvents);
             m_autostartNote->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -375,10 +375,10 @@ void MainWindow::Slot_ShowTimerPopup()
 void MainWindow::SlotMaterialChanged(const QString &material)
 {
     const QString picture = material == QLatin1String("argon") ? QStringLiteral("url(:/Material/Argon.jpg);")
-                                                                : QStringLiteral("url(:/Material/Zirkon.jpg);");
+                                                               : QStringLiteral("url(:/Material/Zirkon.jpg);");
     // Scoped to the screen itself: its buttons keep their own look.
-    ui->page_MatChange->setStyleSheet(QStringLiteral("QWidget#page_MatChange { background: ") + picture
-                                      + QStringLiteral(" }"));
+    ui->page_MatChange->setStyleSheet(QStringLiteral("QWidget#page_MatChange { background: ") + picture +
+                                      QStringLiteral(" }"));
     ui->stackedWidget_main->setCurrentIndex(2);
 }
 

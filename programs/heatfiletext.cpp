@@ -27,17 +27,16 @@ const QString argonKey = QStringLiteral("argon=");
 
 QString Write(const Program &program)
 {
-    QString text = metainfo + separator + nameKey + program.GetName() + separator + manufacturerKey
-                   + program.GetManufacturer() + separator + materialKey + program.GetMaterial()
-                   + separator + favoriteKey
-                   + (program.IsFav() ? QStringLiteral("true") : QStringLiteral("false")) + separator;
+    QString text = metainfo + separator + nameKey + program.GetName() + separator + manufacturerKey +
+                   program.GetManufacturer() + separator + materialKey + program.GetMaterial() + separator +
+                   favoriteKey + (program.IsFav() ? QStringLiteral("true") : QStringLiteral("false")) + separator;
     const bool argon = program.GetMaterial() == QLatin1String("Argon");
     const Program::Matrix &matrix = *program.GetMatrix();
     for (int i = 0; i < matrix.size(); ++i) {
         const QList<unsigned int> &row = matrix.at(i);
-        text += section.arg(i + 1) + separator + rateKey + QString::number(row.value(0)) + separator
-                + tempKey + QString::number(row.value(1) + 273u) + separator + holdKey
-                + QString::number(row.value(2) * 60u) + separator;
+        text += section.arg(i + 1) + separator + rateKey + QString::number(row.value(0)) + separator + tempKey +
+                QString::number(row.value(1) + 273u) + separator + holdKey + QString::number(row.value(2) * 60u) +
+                separator;
         if (argon)
             text += argonKey + QStringLiteral("on") + separator;
     }
@@ -72,11 +71,11 @@ bool Read(const QString &text, Program *program, QString *error)
     int i = 1;
     for (; i < parts.size() && !parts.at(i).startsWith(QLatin1Char('[')); ++i) {
         const QString &part = parts.at(i);
-        QString *field = part.startsWith(nameKey) ? &name
+        QString *field = part.startsWith(nameKey)           ? &name
                          : part.startsWith(manufacturerKey) ? &manufacturer
-                         : part.startsWith(materialKey) ? &material
-                         : part.startsWith(favoriteKey) ? &favorite
-                                                        : nullptr;
+                         : part.startsWith(materialKey)     ? &material
+                         : part.startsWith(favoriteKey)     ? &favorite
+                                                            : nullptr;
         if (field == nullptr || !field->isNull())
             return Fail(error, QStringLiteral("unknown or repeated entry '%1'").arg(part));
         *field = part.mid(part.indexOf(QLatin1Char('=')) + 1);
@@ -84,7 +83,8 @@ bool Read(const QString &text, Program *program, QString *error)
     if (name.trimmed().isEmpty() || manufacturer.isEmpty() || material.isEmpty())
         return Fail(error, QStringLiteral("name, manufacturer and material are needed"));
     // Field separators and control bytes would break the frame the text travels in.
-    if (name.contains(QLatin1String("$$")) || std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c.unicode() < 0x20; }))
+    if (name.contains(QLatin1String("$$")) ||
+        std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c.unicode() < 0x20; }))
         return Fail(error, QStringLiteral("the name holds characters the line cannot carry"));
     if (favorite != QLatin1String("true") && favorite != QLatin1String("false"))
         return Fail(error, QStringLiteral("favorite must be true or false"));
@@ -117,9 +117,14 @@ bool Read(const QString &text, Program *program, QString *error)
         if (row.at(0) < 1u || row.at(0) > 999u)
             return Fail(error, QStringLiteral("segment [%1]: rate %2 out of 1-999").arg(number).arg(row.at(0)));
         if (row.at(1) < lowest || row.at(1) > highest)
-            return Fail(error, QStringLiteral("segment [%1]: temp %2 K out of %3-%4").arg(number).arg(row.at(1)).arg(lowest).arg(highest));
+            return Fail(error, QStringLiteral("segment [%1]: temp %2 K out of %3-%4")
+                                   .arg(number)
+                                   .arg(row.at(1))
+                                   .arg(lowest)
+                                   .arg(highest));
         if (row.at(2) % 60u != 0u)
-            return Fail(error, QStringLiteral("segment [%1]: hold %2 s is not whole minutes").arg(number).arg(row.at(2)));
+            return Fail(error,
+                        QStringLiteral("segment [%1]: hold %2 s is not whole minutes").arg(number).arg(row.at(2)));
         matrix.append({row.at(0), row.at(1) - 273u, row.at(2) / 60u});
     }
     if (matrix.isEmpty())

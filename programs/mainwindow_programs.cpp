@@ -44,7 +44,8 @@ void MainWindow::ConnectPrograms()
     // A new program starts as a zirconia program without asking: the material preset first,
     // then the editor is told a new program is under way.
     for (Button *newButton : {ui->widget_ProgsButtonNew, ui->widget_myProgsNew}) {
-        connect(newButton, &Button::SignalButtonClicked, m_popupMaterial, &Popups::Popup::on_pushButton_ZirkonPopup_clicked);
+        connect(newButton, &Button::SignalButtonClicked, m_popupMaterial,
+                &Popups::Popup::on_pushButton_ZirkonPopup_clicked);
         connect(newButton, &Button::SignalButtonClicked, editor, &GlobalElements::NewProgram::SlotSetNewProgram);
     }
     connect(ui->widget_playProgChange, &Button::SignalButtonClicked, this, &MainWindow::SlotChangeProg);
@@ -59,7 +60,7 @@ void MainWindow::ConnectPrograms()
 
 QList<QScrollArea *> MainWindow::ListAreas() const
 {
-    return {ui->scrollArea_Hitlist, ui->scrollArea_MyProgs, ui->scrollArea_FixProgs,
+    return {ui->scrollArea_Hitlist,      ui->scrollArea_MyProgs,      ui->scrollArea_FixProgs,
             ui->scrollArea_ServiceProgs, ui->scrollArea_Manufacturer, ui->scrollArea_Material};
 }
 
@@ -135,7 +136,8 @@ void MainWindow::CheckForFilterOption(QList<Program *> &programs) const
         }
         return texts;
     };
-    GlobalElements::ProgramFilter::Apply(programs, checkedTexts(m_manufacturerButtons), checkedTexts(m_materialButtons));
+    GlobalElements::ProgramFilter::Apply(programs, checkedTexts(m_manufacturerButtons),
+                                         checkedTexts(m_materialButtons));
 }
 
 void MainWindow::PreparePageDisplayOptions()
@@ -232,7 +234,8 @@ void MainWindow::CheckChangeInProcess(const QString &)
 
 void MainWindow::SlotCheckHeatfileCount(int count)
 {
-    if (ProgramHandler::ProgramHandler::NeedsResend(count, m_programHandler->GetProgramList()->size(), m_hfresendCount)) {
+    if (ProgramHandler::ProgramHandler::NeedsResend(count, m_programHandler->GetProgramList()->size(),
+                                                    m_hfresendCount)) {
         m_messageHandler->SetRequest(Communication::Requests::ResendHeatfiles());
         ++m_hfresendCount;
     }

@@ -41,9 +41,7 @@ void SetKeyFace(QPushButton *key, const QString &iconPath, const QString &fallba
 } // namespace
 
 NewProgram::NewProgram(QWidget *parent)
-    : QWidget(parent)
-    , ui(new Ui::NewProgram)
-    , m_matrix(std::make_unique<Program::Matrix>())
+    : QWidget(parent), ui(new Ui::NewProgram), m_matrix(std::make_unique<Program::Matrix>())
 {
     ui->setupUi(this);
 
@@ -83,8 +81,7 @@ NewProgram::NewProgram(QWidget *parent)
     connect(ui->widget_keyboard, &Keyboard::SignalEnter, this, &NewProgram::SlotCheckOverride);
     connect(ui->lineEdit_name, &QLineEdit::textChanged, this, [this] { ShowNameMessage(QString()); });
 
-    connect(m_popupOverride, &Popups::PopupOverrideProg::SignalOverrideProg, this,
-            &NewProgram::SlotCheckOverridePopup);
+    connect(m_popupOverride, &Popups::PopupOverrideProg::SignalOverrideProg, this, &NewProgram::SlotCheckOverridePopup);
     connect(m_popupLeaveToMenu, &Popups::PopupLeaveNewProg::SignalLeave, this, [this](bool confirmed) {
         if (confirmed)
             LeaveEditor(Leave::ToMainMenu);
@@ -490,11 +487,8 @@ QString NewProgram::NameInField() const
 bool NewProgram::AcceptName(const QString &name)
 {
     switch (ProgramTable::CheckName(name)) {
-    case ProgramTable::NameVerdict::Ok:
-        return true;
-    case ProgramTable::NameVerdict::Empty:
-        ShowNameMessage(tr("Name ungültig: bitte einen Namen eingeben"));
-        break;
+    case ProgramTable::NameVerdict::Ok: return true;
+    case ProgramTable::NameVerdict::Empty: ShowNameMessage(tr("Name ungültig: bitte einen Namen eingeben")); break;
     case ProgramTable::NameVerdict::ReservedCharacters:
         ShowNameMessage(tr("Name ungültig: Zeichen ; = , . und $$ sind nicht erlaubt"));
         break;

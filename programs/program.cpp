@@ -3,10 +3,8 @@
 namespace ovra {
 namespace GlobalElements {
 
-Program::Program(const QString &name, const QString &material, Matrix matrix,
-                 const QString &manufacturer, bool fav)
-    : m_matrix(std::move(matrix)), m_name(name), m_material(material), m_fav(fav),
-      m_manufacturer(manufacturer)
+Program::Program(const QString &name, const QString &material, Matrix matrix, const QString &manufacturer, bool fav)
+    : m_matrix(std::move(matrix)), m_name(name), m_material(material), m_fav(fav), m_manufacturer(manufacturer)
 {
 }
 

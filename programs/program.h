@@ -13,8 +13,7 @@ class Program
 public:
     using Matrix = QList<QList<unsigned int>>;
 
-    Program(const QString &name, const QString &material, Matrix matrix,
-            const QString &manufacturer, bool fav);
+    Program(const QString &name, const QString &material, Matrix matrix, const QString &manufacturer, bool fav);
 
     void SetName(const QString &name) { m_name = name; }
     void SetFav(bool fav) { m_fav = fav; }

@@ -7,9 +7,7 @@
 namespace ovra {
 namespace GlobalElements {
 
-TableHead::TableHead(QWidget *parent)
-    : QWidget(parent)
-    , ui(new Ui::TableHead)
+TableHead::TableHead(QWidget *parent) : QWidget(parent), ui(new Ui::TableHead)
 {
     ui->setupUi(this);
     m_baseRightMargin = layout()->contentsMargins().right();
@@ -49,8 +47,8 @@ QString TableHead::GetTimeText() const
 void TableHead::Translate()
 {
     ui->label_number->setText(tr("Nr."));
-    ui->label_rate->setText(tr("Rate") + QLatin1Char('\n')
-                            + (m_fahrenheit ? QStringLiteral("°F/min") : QStringLiteral("°C/min")));
+    ui->label_rate->setText(tr("Rate") + QLatin1Char('\n') +
+                            (m_fahrenheit ? QStringLiteral("°F/min") : QStringLiteral("°C/min")));
     ui->label_temp->setText(m_fahrenheit ? tr("Temperatur (°F)") : tr("Temperatur (°C)"));
     ui->label_time->setText(tr("Haltezeit (min)"));
 }

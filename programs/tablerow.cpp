@@ -21,25 +21,19 @@ void LimitField(QLineEdit *field, unsigned int limit)
 
 } // namespace
 
-TableRow::TableRow(QWidget *parent)
-    : QWidget(parent)
-    , ui(new Ui::TableRow)
-    , m_maxRate(ProgramTable::defaultMaxRate)
+TableRow::TableRow(QWidget *parent) : QWidget(parent), ui(new Ui::TableRow), m_maxRate(ProgramTable::defaultMaxRate)
 {
     ui->setupUi(this);
 
-    const QRegularExpression digits(
-        QStringLiteral("[0-9]{0,%1}").arg(ProgramTable::maxDigits));
+    const QRegularExpression digits(QStringLiteral("[0-9]{0,%1}").arg(ProgramTable::maxDigits));
     for (QLineEdit *field : {ui->lineEdit_rate, ui->lineEdit_temp, ui->lineEdit_time}) {
         field->setValidator(new QRegularExpressionValidator(digits, field));
         field->setMaxLength(ProgramTable::maxDigits);
     }
-    connect(ui->lineEdit_rate, &QLineEdit::textChanged, this, [this] {
-        LimitField(ui->lineEdit_rate, ProgramTable::RateLimit(m_maxRate, m_fahrenheit));
-    });
-    connect(ui->lineEdit_temp, &QLineEdit::textChanged, this, [this] {
-        LimitField(ui->lineEdit_temp, ProgramTable::TemperatureLimit(m_fahrenheit));
-    });
+    connect(ui->lineEdit_rate, &QLineEdit::textChanged, this,
+            [this] { LimitField(ui->lineEdit_rate, ProgramTable::RateLimit(m_maxRate, m_fahrenheit)); });
+    connect(ui->lineEdit_temp, &QLineEdit::textChanged, this,
+            [this] { LimitField(ui->lineEdit_temp, ProgramTable::TemperatureLimit(m_fahrenheit)); });
     SetNumber(1);
     ResetRow();
 }

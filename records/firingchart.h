@@ -44,7 +44,7 @@ Points MeasuredLine(const QVector<Sample> &samples, int maxPoints);
 // Everything a chart of one record needs, in the display unit.
 struct Series
 {
-    Points planned;  // empty when the program text cannot be read
+    Points planned; // empty when the program text cannot be read
     Points measured;
     QList<Tick> ticks;
     double endSeconds = 0;

@@ -10,8 +10,7 @@
 namespace ovra {
 namespace Records {
 
-FiringDetailView::FiringDetailView(QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui_FiringDetailView>())
+FiringDetailView::FiringDetailView(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui_FiringDetailView>())
 {
     m_ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground, true);

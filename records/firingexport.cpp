@@ -14,8 +14,8 @@ namespace Records {
 
 QString CsvField(const QString &text)
 {
-    if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) && !text.contains(QLatin1Char('\n'))
-        && !text.contains(QLatin1Char('\r')))
+    if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) && !text.contains(QLatin1Char('\n')) &&
+        !text.contains(QLatin1Char('\r')))
         return text;
     QString quoted = text;
     quoted.replace(QLatin1Char('"'), QStringLiteral("\"\""));
@@ -54,9 +54,9 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
     const FiringHistory history(FiringStore::FileIn(home));
     QList<FiringSummary> firings = history.List(std::numeric_limits<int>::max());
     std::reverse(firings.begin(), firings.end());
-    QString csv = line({QStringLiteral("start"), QStringLiteral("end"), QStringLiteral("program"),
-                        QStringLiteral("material"), QStringLiteral("pre-dry"), QStringLiteral("result"),
-                        QStringLiteral("failures")});
+    QString csv =
+        line({QStringLiteral("start"), QStringLiteral("end"), QStringLiteral("program"), QStringLiteral("material"),
+              QStringLiteral("pre-dry"), QStringLiteral("result"), QStringLiteral("failures")});
     int done = 0;
     for (const FiringSummary &firing : qAsConst(firings)) {
         if (progress)
@@ -75,7 +75,8 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
                      failed.join(QStringLiteral("; "))});
         QString samples = line({QStringLiteral("seconds"), QStringLiteral("celsius")});
         for (const Sample &s : qAsConst(record.samples))
-            samples += QString::number(s.seconds) + QLatin1Char(',') + QString::number(s.celsius) + QStringLiteral("\r\n");
+            samples +=
+                QString::number(s.seconds) + QLatin1Char(',') + QString::number(s.celsius) + QStringLiteral("\r\n");
         const QString base = QStringLiteral("%1/firing-%2").arg(dir).arg(firing.id);
         if (!writeFile(base + QStringLiteral("-samples.csv"), samples, error))
             return false;

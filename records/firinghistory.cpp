@@ -12,9 +12,9 @@ namespace ovra {
 namespace Records {
 
 namespace {
-const QString summaryColumns = QStringLiteral(
-    "f.id, f.program, f.start_date, f.start_time, f.end_date, f.end_time, f.result,"
-    " (SELECT s.seconds FROM samples s WHERE s.firing = f.id ORDER BY s.n DESC LIMIT 1)");
+const QString summaryColumns =
+    QStringLiteral("f.id, f.program, f.start_date, f.start_time, f.end_date, f.end_time, f.result,"
+                   " (SELECT s.seconds FROM samples s WHERE s.firing = f.id ORDER BY s.n DESC LIMIT 1)");
 
 FiringSummary ReadSummary(const QSqlQuery &q)
 {

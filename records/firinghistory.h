@@ -17,8 +17,8 @@ struct FiringSummary
     QString startTime;
     QString endDate;
     QString endTime;
-    QString result;     // ResultWord(); empty while the firing is still being recorded
-    int seconds = 0;    // elapsed time of the last sample: how long the firing really ran
+    QString result;  // ResultWord(); empty while the firing is still being recorded
+    int seconds = 0; // elapsed time of the last sample: how long the firing really ran
 };
 
 struct Sample

@@ -47,9 +47,9 @@ public:
         painter->setFont(font);
         painter->setPen(QColor(0x22, 0x31, 0x3F));
         const QRect top(textLeft, card.top() + 4, card.right() - durationWidth - textLeft, card.height() / 2);
-        painter->drawText(top, Qt::AlignLeft | Qt::AlignBottom,
-                          painter->fontMetrics().elidedText(index.data(ProgramRole).toString(), Qt::ElideRight,
-                                                            top.width()));
+        painter->drawText(
+            top, Qt::AlignLeft | Qt::AlignBottom,
+            painter->fontMetrics().elidedText(index.data(ProgramRole).toString(), Qt::ElideRight, top.width()));
         painter->drawText(QRect(card.right() - durationWidth, card.top(), durationWidth - 16, card.height()),
                           Qt::AlignRight | Qt::AlignVCenter, index.data(DurationRole).toString());
         font.setPixelSize(18);

@@ -1,10 +1,10 @@
 #include "records/firingreport.h"
 
+#include "programs/heatfiletext.h"
+#include "programs/program.h"
 #include "records/firingchart.h"
 #include "records/firinghistory.h"
 #include "records/firingpainter.h"
-#include "programs/heatfiletext.h"
-#include "programs/program.h"
 
 #include <QFile>
 #include <QPainter>
@@ -129,8 +129,7 @@ bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceRepor
                      Qt::AlignRight | Qt::AlignVCenter, result);
     page.y += symbol;
     page.Font(textPixels + 8, true);
-    painter.drawText(QRectF(margin, page.y, page.width(), textPixels * 2), Qt::AlignLeft | Qt::AlignVCenter,
-                     s.program);
+    painter.drawText(QRectF(margin, page.y, page.width(), textPixels * 2), Qt::AlignLeft | Qt::AlignVCenter, s.program);
     page.y += textPixels * 2;
 
     const QList<double> pairs = {0.0, 0.28};

@@ -48,17 +48,17 @@ void FiringStore::Open()
         qDebug() << "firing records: cannot open" << m_file << db.lastError().text();
         return;
     }
-    m_open = Exec(QStringLiteral("PRAGMA journal_mode=WAL")) && Exec(QStringLiteral("PRAGMA synchronous=NORMAL"))
-             && Exec(QStringLiteral("PRAGMA foreign_keys=ON"))
-             && Exec(QStringLiteral("CREATE TABLE IF NOT EXISTS firings(id INTEGER PRIMARY KEY, program TEXT,"
-                                    " heatfile TEXT, material TEXT, predry INTEGER, delayed TEXT, start_date TEXT,"
-                                    " start_time TEXT, end_date TEXT, end_time TEXT, result TEXT)"))
-             && Exec(QStringLiteral("CREATE TABLE IF NOT EXISTS samples(firing INTEGER REFERENCES firings(id)"
-                                    " ON DELETE CASCADE, n INTEGER, seconds INTEGER, celsius REAL,"
-                                    " PRIMARY KEY(firing, n)) WITHOUT ROWID"))
-             && Exec(QStringLiteral("CREATE TABLE IF NOT EXISTS failures(firing INTEGER REFERENCES firings(id)"
-                                    " ON DELETE CASCADE, time TEXT, text TEXT)"))
-             && Exec(QStringLiteral("CREATE INDEX IF NOT EXISTS failures_firing ON failures(firing)"));
+    m_open = Exec(QStringLiteral("PRAGMA journal_mode=WAL")) && Exec(QStringLiteral("PRAGMA synchronous=NORMAL")) &&
+             Exec(QStringLiteral("PRAGMA foreign_keys=ON")) &&
+             Exec(QStringLiteral("CREATE TABLE IF NOT EXISTS firings(id INTEGER PRIMARY KEY, program TEXT,"
+                                 " heatfile TEXT, material TEXT, predry INTEGER, delayed TEXT, start_date TEXT,"
+                                 " start_time TEXT, end_date TEXT, end_time TEXT, result TEXT)")) &&
+             Exec(QStringLiteral("CREATE TABLE IF NOT EXISTS samples(firing INTEGER REFERENCES firings(id)"
+                                 " ON DELETE CASCADE, n INTEGER, seconds INTEGER, celsius REAL,"
+                                 " PRIMARY KEY(firing, n)) WITHOUT ROWID")) &&
+             Exec(QStringLiteral("CREATE TABLE IF NOT EXISTS failures(firing INTEGER REFERENCES firings(id)"
+                                 " ON DELETE CASCADE, time TEXT, text TEXT)")) &&
+             Exec(QStringLiteral("CREATE INDEX IF NOT EXISTS failures_firing ON failures(firing)"));
     if (!m_open)
         return;
     // Files from before the furnace data was kept with each firing gain the column.

@@ -2,11 +2,11 @@
 // seeing the settings page it knows, and a page it selects closes the history.
 #include "app/mainwindow.h"
 
+#include "communication/messagehandler.h"
 #include "records/firingdetailview.h"
 #include "records/firinghistory.h"
 #include "records/firinghistoryview.h"
 #include "records/firingreport.h"
-#include "communication/messagehandler.h"
 #include "records/firingstore.h"
 #include "ui_mainwindow.h"
 
@@ -32,9 +32,10 @@ void MainWindow::ConnectRecords()
     connect(ui->stackedWidget_main, &QStackedWidget::currentChanged, this, &MainWindow::CloseFiringHistory);
     // Each firing keeps the furnace's data as it was, for its printed report. Connected after
     // the device-data fields, so these are already filled in.
-    for (auto signal : {&Communication::MessageHandler::SignalTypeModelSeries, &Communication::MessageHandler::SignalSerialNumber,
-                        &Communication::MessageHandler::SignalHWVersion, &Communication::MessageHandler::SignalSWVersion,
-                        &Communication::MessageHandler::SignalOperatingHours})
+    for (auto signal :
+         {&Communication::MessageHandler::SignalTypeModelSeries, &Communication::MessageHandler::SignalSerialNumber,
+          &Communication::MessageHandler::SignalHWVersion, &Communication::MessageHandler::SignalSWVersion,
+          &Communication::MessageHandler::SignalOperatingHours})
         connect(m_messageHandler, signal, this,
                 [this] { m_firingRecorder.Device(Records::FiringReport::DeviceLines(DeviceData())); });
 }

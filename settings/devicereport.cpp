@@ -11,9 +11,8 @@ QString Text(const Data &data)
         return simplified.isEmpty() ? QStringLiteral("-") : simplified;
     };
     return QStringLiteral("Model: %1\nSerial: %2\nHW: %3\nSW: %4\nHours: %5\nFailures: %6")
-        .arg(value(data.model), value(data.serialNumber), value(data.hardwareVersion),
-             value(data.softwareVersion), value(data.operatingHours),
-             value(data.failures.join(QLatin1Char(','))));
+        .arg(value(data.model), value(data.serialNumber), value(data.hardwareVersion), value(data.softwareVersion),
+             value(data.operatingHours), value(data.failures.join(QLatin1Char(','))));
 }
 
 } // namespace DeviceReport

@@ -10,12 +10,12 @@
 #include "popups/popupusb.h"
 #include "programs/heatfiletext.h"
 #include "programs/programhandler.h"
+#include "records/firingexport.h"
+#include "records/firingreport.h"
 #include "settings/devicereport.h"
 #include "settings/qrcode.h"
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
-#include "records/firingexport.h"
-#include "records/firingreport.h"
 #include "ui_mainwindow.h"
 
 #include <QCoreApplication>
@@ -67,10 +67,10 @@ void MainWindow::PreparePageUSBMenu()
 bool MainWindow::CanShowUsbMenu() const
 {
     // A stick never pulls the user out of a firing, the editor, the self-test or start-up.
-    const QList<Page> busy = {Page::StartUp, Page::DeviceData, Page::Selftest, Page::NewProg,
+    const QList<Page> busy = {Page::StartUp,  Page::DeviceData,  Page::Selftest,  Page::NewProg,
                               Page::PlayProg, Page::ProcessProg, Page::ChangeProg};
-    return m_startupShown && !m_initialStartup && !m_heatProgramInProgress && !m_editMode
-           && ui->stackedWidget_main->currentIndex() == 0 && !busy.contains(m_currentPage);
+    return m_startupShown && !m_initialStartup && !m_heatProgramInProgress && !m_editMode &&
+           ui->stackedWidget_main->currentIndex() == 0 && !busy.contains(m_currentPage);
 }
 
 void MainWindow::SlotCheckUsbStick(const QString &state)
@@ -116,8 +116,8 @@ void MainWindow::SlotUSBInProgress()
         if (std::get<0>(action) == sender())
             m_usbAction = std::get<1>(action);
     }
-    const auto chosen = std::find_if(actions.cbegin(), actions.cend(),
-                                     [this](const auto &a) { return std::get<1>(a) == m_usbAction; });
+    const auto chosen =
+        std::find_if(actions.cbegin(), actions.cend(), [this](const auto &a) { return std::get<1>(a) == m_usbAction; });
     if (chosen == actions.cend())
         return;
     qDebug() << "usb:" << QString::fromUtf8(std::get<2>(*chosen)).simplified();
@@ -132,8 +132,9 @@ void MainWindow::SlotUSBInProgress()
             FinishUsbAction(false, QStringLiteral("the controller reports no stick"));
             return;
         }
-        m_messageHandler->SetRequest(m_usbAction == UsbAction::Firmware ? Communication::Requests::FirmwareUpdateFromStick()
-                                                                         : Communication::Requests::ConfigUpdateFromStick());
+        m_messageHandler->SetRequest(m_usbAction == UsbAction::Firmware
+                                         ? Communication::Requests::FirmwareUpdateFromStick()
+                                         : Communication::Requests::ConfigUpdateFromStick());
         m_usbAnswerTimer->start();
         return;
     }
@@ -150,15 +151,15 @@ void MainWindow::RunUsbFileAction()
     if (stick.isEmpty()) {
         error = QStringLiteral("no USB stick is mounted");
     } else if (m_usbAction == UsbAction::SavePrograms) {
-        success = files.SavePrograms(
-            Taken(m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::ProgramHandler::userManufacturer)),
-            &error);
+        success = files.SavePrograms(Taken(m_programHandler->GetProgramListSortedByManufacturer(
+                                         ProgramHandler::ProgramHandler::userManufacturer)),
+                                     &error);
     } else if (m_usbAction == UsbAction::LoadPrograms) {
         success = LoadProgramsFromStick(stick, &error);
     } else if (m_usbAction == UsbAction::Backup) {
-        const QString folder = files.Backup(Constant(*m_programHandler->GetProgramList()), DeviceReportText(),
-                                            ui->widget_Data2->GetText(), GlobalElements::logFolderName,
-                                            QDateTime::currentDateTime(), &error);
+        const QString folder =
+            files.Backup(Constant(*m_programHandler->GetProgramList()), DeviceReportText(), ui->widget_Data2->GetText(),
+                         GlobalElements::logFolderName, QDateTime::currentDateTime(), &error);
         success = !folder.isEmpty();
         if (success) {
             m_firingRecorder.Store().Flush();
@@ -195,7 +196,8 @@ bool MainWindow::LoadProgramsFromStick(const QString &stick, QString *error)
             m_programHandler->Slot_SetProgramToFav(program);
         else
             m_programHandler->Slot_DeleteProgramFromFavoriteList(program);
-        m_messageHandler->SetRequest(Communication::Requests::NewProgram(GlobalElements::HeatfileText::Write(*program)));
+        m_messageHandler->SetRequest(
+            Communication::Requests::NewProgram(GlobalElements::HeatfileText::Write(*program)));
     }
     qDebug() << "usb:" << loaded.size() << "programs loaded";
     return true;

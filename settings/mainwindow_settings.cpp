@@ -93,9 +93,8 @@ void MainWindow::RetranslateWindow()
 void MainWindow::PreparePageLanguageSelect()
 {
     const QList<GlobalElements::Button *> buttons = {
-        ui->widget_Lang1, ui->widget_Lang2, ui->widget_Lang3,  ui->widget_Lang4,
-        ui->widget_Lang5, ui->widget_Lang6, ui->widget_Lang7,  ui->widget_Lang8,
-        ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12};
+        ui->widget_Lang1, ui->widget_Lang2, ui->widget_Lang3, ui->widget_Lang4,  ui->widget_Lang5,  ui->widget_Lang6,
+        ui->widget_Lang7, ui->widget_Lang8, ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12};
     const QList<Settings::Language> &languages = Settings::Languages();
     const int shown = Settings::ShownLanguageRow(m_languageFile);
     // The offered languages close ranks in the grid; the others keep their places behind them.

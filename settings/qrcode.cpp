@@ -9,8 +9,8 @@ QrCode QrCode::Encode(const QByteArray &text)
 {
     QrCode code;
     // Level M survives a smudged or slightly curved panel glass; version 0: as small as fits.
-    QRcode *raw = QRcode_encodeData(text.size(), reinterpret_cast<const unsigned char *>(text.constData()),
-                                    0, QR_ECLEVEL_M);
+    QRcode *raw =
+        QRcode_encodeData(text.size(), reinterpret_cast<const unsigned char *>(text.constData()), 0, QR_ECLEVEL_M);
     if (raw == nullptr)
         return code;
     code.m_size = raw->width;

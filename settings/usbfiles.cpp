@@ -27,10 +27,7 @@ bool Fail(QString *error, const QString &reason)
 }
 } // namespace
 
-UsbFiles::UsbFiles(const QString &stickRoot)
-    : m_root(stickRoot)
-{
-}
+UsbFiles::UsbFiles(const QString &stickRoot) : m_root(stickRoot) {}
 
 QString UsbFiles::ProgramsFile() const
 {
@@ -41,19 +38,22 @@ QString UsbFiles::Describe(const Program &program)
 {
     QStringList segments;
     for (const QList<unsigned int> &row : *program.GetMatrix()) {
-        segments << QStringLiteral("%1 °C/min to %2 °C, hold %3 min")
-                        .arg(row.value(0)).arg(row.value(1)).arg(row.value(2));
+        segments
+            << QStringLiteral("%1 °C/min to %2 °C, hold %3 min").arg(row.value(0)).arg(row.value(1)).arg(row.value(2));
     }
-    return QStringLiteral("# %1 | %2 | %3").arg(program.GetName(), program.GetMaterial(), segments.join(QStringLiteral("; ")));
+    return QStringLiteral("# %1 | %2 | %3")
+        .arg(program.GetName(), program.GetMaterial(), segments.join(QStringLiteral("; ")));
 }
 
 QByteArray UsbFiles::ProgramsText(const QList<const Program *> &programs, const QString &what) const
 {
     QString text = QStringLiteral("# %1: %2 heat programs, one heatfile text a line "
                                   "(temp in Kelvin, hold in seconds). Lines with # are notes.\n")
-                       .arg(what).arg(programs.size());
+                       .arg(what)
+                       .arg(programs.size());
     for (const Program *program : programs)
-        text += Describe(*program) + QLatin1Char('\n') + GlobalElements::HeatfileText::Write(*program) + QLatin1Char('\n');
+        text +=
+            Describe(*program) + QLatin1Char('\n') + GlobalElements::HeatfileText::Write(*program) + QLatin1Char('\n');
     return text.toUtf8();
 }
 
@@ -120,23 +120,22 @@ bool UsbFiles::LoadPrograms(const QStringList &takenNames, QList<Program *> *pro
     return true;
 }
 
-QString UsbFiles::Backup(const QList<const Program *> &programs, const QString &deviceText,
-                         const QString &serialNumber, const QString &logFolder, const QDateTime &now,
-                         QString *error) const
+QString UsbFiles::Backup(const QList<const Program *> &programs, const QString &deviceText, const QString &serialNumber,
+                         const QString &logFolder, const QDateTime &now, QString *error) const
 {
     QString serial = serialNumber;
     serial.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]")), QStringLiteral("_"));
     const QString folder = QStringLiteral("%1/%2/backup/%3_%4")
                                .arg(m_root, folderName, serial.isEmpty() ? QStringLiteral("furnace") : serial,
                                     now.toString(QStringLiteral("yyyyMMdd_hhmmss")));
-    if (!WriteFile(folder + QStringLiteral("/programs.txt"), ProgramsText(programs, QStringLiteral("Backup")), error)
-        || !WriteFile(folder + QStringLiteral("/device.txt"), deviceText.toUtf8() + '\n', error))
+    if (!WriteFile(folder + QStringLiteral("/programs.txt"), ProgramsText(programs, QStringLiteral("Backup")), error) ||
+        !WriteFile(folder + QStringLiteral("/device.txt"), deviceText.toUtf8() + '\n', error))
         return QString();
     const QFileInfoList logs = QDir(logFolder).entryInfoList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name);
     for (const QFileInfo &log : logs) {
         QFile source(log.filePath());
-        if (!source.open(QIODevice::ReadOnly)
-            || !WriteFile(folder + QStringLiteral("/logs/") + log.fileName(), source.readAll(), error))
+        if (!source.open(QIODevice::ReadOnly) ||
+            !WriteFile(folder + QStringLiteral("/logs/") + log.fileName(), source.readAll(), error))
             return QString();
     }
     return folder;

@@ -40,9 +40,8 @@ public:
     bool LoadPrograms(const QStringList &takenNames, QList<Program *> *programs, QString *error) const;
 
     // Returns the backup folder written, or an empty text with *error set.
-    QString Backup(const QList<const Program *> &programs, const QString &deviceText,
-                   const QString &serialNumber, const QString &logFolder, const QDateTime &now,
-                   QString *error) const;
+    QString Backup(const QList<const Program *> &programs, const QString &deviceText, const QString &serialNumber,
+                   const QString &logFolder, const QDateTime &now, QString *error) const;
 
     // "# Name | Zirkon | 10 °C/min to 900 °C, hold 30 min; ..." for a person reading the file.
     static QString Describe(const Program &program);

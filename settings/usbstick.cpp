@@ -19,8 +19,8 @@ QString Find(const QString &givenFolder)
     if (!givenFolder.isEmpty())
         return givenFolder;
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
-        if (volume.isValid() && volume.isReady()
-            && IsStickVolume(QString::fromLocal8Bit(volume.device()), volume.rootPath()))
+        if (volume.isValid() && volume.isReady() &&
+            IsStickVolume(QString::fromLocal8Bit(volume.device()), volume.rootPath()))
             return volume.rootPath();
     }
     return QString();

@@ -16,9 +16,7 @@ namespace GlobalElements {
 
 const char *const Button::captionSizeProperty = "captionSize";
 
-Button::Button(QWidget *parent)
-    : QWidget(parent)
-    , m_button(new QPushButton(this))
+Button::Button(QWidget *parent) : QWidget(parent), m_button(new QPushButton(this))
 {
     ButtonKit::Embed(this, m_button);
     m_button->setIconSize(QSize(iconSide, iconSide));

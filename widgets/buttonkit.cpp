@@ -29,10 +29,8 @@ bool ButtonKit::NeedsRefit(const QEvent *event)
     case QEvent::Resize:
     case QEvent::FontChange:
     case QEvent::StyleChange:
-    case QEvent::Polish:
-        return true;
-    default:
-        return false;
+    case QEvent::Polish: return true;
+    default: return false;
     }
 }
 

@@ -70,8 +70,7 @@ QString Joined(const QString &line, const Piece &piece)
 
 } // namespace
 
-QString CaptionFit::Fit(const QString &caption, const QFontMetrics &metrics, int width, int maxLines,
-                        bool *elided)
+QString CaptionFit::Fit(const QString &caption, const QFontMetrics &metrics, int width, int maxLines, bool *elided)
 {
     const QString text = DisplayText(caption).simplified();
     bool dropped = false;

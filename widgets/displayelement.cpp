@@ -8,9 +8,7 @@
 namespace ovra {
 namespace GlobalElements {
 
-DisplayElement::DisplayElement(QWidget *parent)
-    : QWidget(parent)
-    , m_label(new ElidedLabel(this))
+DisplayElement::DisplayElement(QWidget *parent) : QWidget(parent), m_label(new ElidedLabel(this))
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 4, 12, 4);

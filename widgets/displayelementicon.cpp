@@ -12,9 +12,7 @@ namespace ovra {
 namespace GlobalElements {
 
 DisplayElementIcon::DisplayElementIcon(QWidget *parent)
-    : QWidget(parent)
-    , m_icon(new QLabel(this))
-    , m_label(new ElidedLabel(this))
+    : QWidget(parent), m_icon(new QLabel(this)), m_label(new ElidedLabel(this))
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 4, 12, 4);

@@ -7,8 +7,7 @@
 namespace ovra {
 namespace GlobalElements {
 
-ElidedLabel::ElidedLabel(QWidget *parent)
-    : QLabel(parent)
+ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -45,8 +44,8 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawFrame(&painter);
     const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    style()->drawItemText(&painter, room, int(alignment()) | Qt::TextSingleLine, palette(), isEnabled(),
-                          ShownText(), foregroundRole());
+    style()->drawItemText(&painter, room, int(alignment()) | Qt::TextSingleLine, palette(), isEnabled(), ShownText(),
+                          foregroundRole());
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent *event)

@@ -9,9 +9,7 @@
 namespace ovra {
 namespace GlobalElements {
 
-Iconbutton::Iconbutton(QWidget *parent)
-    : QWidget(parent)
-    , m_button(new QToolButton(this))
+Iconbutton::Iconbutton(QWidget *parent) : QWidget(parent), m_button(new QToolButton(this))
 {
     ButtonKit::Embed(this, m_button);
     m_button->setToolButtonStyle(Qt::ToolButtonIconOnly);

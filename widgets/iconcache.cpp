@@ -19,11 +19,7 @@ namespace {
 class DeferredPhotoEngine : public QIconEngine
 {
 public:
-    explicit DeferredPhotoEngine(const QString &path)
-        : m_path(path)
-        , m_natural(QImageReader(path).size())
-    {
-    }
+    explicit DeferredPhotoEngine(const QString &path) : m_path(path), m_natural(QImageReader(path).size()) {}
 
     QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override
     {
@@ -36,7 +32,10 @@ public:
     {
         const QSize fitted = actualSize(size, mode, state);
         const QString key = QStringLiteral("ovra-photo:%1:%2x%3:%4")
-                                .arg(m_path).arg(fitted.width()).arg(fitted.height()).arg(int(mode));
+                                .arg(m_path)
+                                .arg(fitted.width())
+                                .arg(fitted.height())
+                                .arg(int(mode));
         QPixmap result;
         if (QPixmapCache::find(key, &result))
             return result;
@@ -73,8 +72,7 @@ QIcon IconCache::Get(const QString &resourcePath)
     auto it = icons.find(resourcePath);
     if (it == icons.end()) {
         const bool photo = resourcePath.endsWith(QLatin1String(".jpg"), Qt::CaseInsensitive);
-        it = icons.insert(resourcePath, photo ? QIcon(new DeferredPhotoEngine(resourcePath))
-                                              : QIcon(resourcePath));
+        it = icons.insert(resourcePath, photo ? QIcon(new DeferredPhotoEngine(resourcePath)) : QIcon(resourcePath));
     }
     return *it;
 }

@@ -12,9 +12,7 @@ namespace {
 const int keyIconSide = 32;
 } // namespace
 
-Keyboard::Keyboard(QWidget *parent)
-    : QWidget(parent)
-    , ui(new Ui::Keyboard)
+Keyboard::Keyboard(QWidget *parent) : QWidget(parent), ui(new Ui::Keyboard)
 {
     ui->setupUi(this);
 

@@ -15,9 +15,7 @@ namespace {
 const int keyIconSide = 36;
 } // namespace
 
-NumPad::NumPad(QWidget *parent)
-    : QWidget(parent)
-    , ui(new Ui::NumPad)
+NumPad::NumPad(QWidget *parent) : QWidget(parent), ui(new Ui::NumPad)
 {
     ui->setupUi(this);
 

@@ -17,9 +17,7 @@ const char *const favOnIcon = ":/Icons/favorite_on.png";
 const char *const favOffIcon = ":/Icons/favorite_off.png";
 } // namespace
 
-ProgramButton::ProgramButton(QWidget *parent)
-    : QWidget(parent)
-    , ui(new Ui::ProgramButton)
+ProgramButton::ProgramButton(QWidget *parent) : QWidget(parent), ui(new Ui::ProgramButton)
 {
     ui->setupUi(this);
     ui->pushButton_title->installEventFilter(this);

@@ -6,9 +6,7 @@
 
 #include <unistd.h>
 
-ConsoleInput::ConsoleInput(int fd, QObject *parent)
-    : QObject(parent)
-    , m_fd(fd)
+ConsoleInput::ConsoleInput(int fd, QObject *parent) : QObject(parent), m_fd(fd)
 {
     // The descriptor is left blocking: it is usually shared with the calling shell, and one
     // read() per notification never blocks anyway.

@@ -15,7 +15,7 @@ bool allDigits(const QByteArray &text, int length)
     }
     return true;
 }
-}  // namespace
+} // namespace
 
 QDateTime ControllerClock::at(const QDateTime &system) const
 {

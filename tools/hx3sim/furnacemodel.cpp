@@ -13,14 +13,11 @@ constexpr double kCoolingPerMinuteClosed = 1.0 / 60.0;
 constexpr double kCoolingPerMinuteOpen = 1.0 / 15.0;
 // Less than this is rounding left over from the ramp arithmetic, not time still to run.
 constexpr double kEpsilonSeconds = 1e-6;
-}  // namespace
+} // namespace
 
 FurnaceModel::FurnaceModel(Clock clock, double speed, double roomCelsius)
-    : m_clock(std::move(clock))
-    , m_speed(speed)
-    , m_roomCelsius(roomCelsius)
-    , m_lastClockMs(m_clock())
-    , m_chamberCelsius(roomCelsius)
+    : m_clock(std::move(clock)), m_speed(speed), m_roomCelsius(roomCelsius), m_lastClockMs(m_clock()),
+      m_chamberCelsius(roomCelsius)
 {
 }
 
@@ -182,7 +179,8 @@ double FurnaceModel::phaseSecondsLeft() const
 void FurnaceModel::cool(double seconds)
 {
     const double perMinute = m_doorOpen ? kCoolingPerMinuteOpen : kCoolingPerMinuteClosed;
-    m_chamberCelsius = m_roomCelsius + (m_chamberCelsius - m_roomCelsius) * std::exp(-perMinute * seconds / kSecondsPerMinute);
+    m_chamberCelsius =
+        m_roomCelsius + (m_chamberCelsius - m_roomCelsius) * std::exp(-perMinute * seconds / kSecondsPerMinute);
 }
 
 double FurnaceModel::rampSeconds(const Step &step, double fromCelsius)

@@ -84,9 +84,9 @@ private:
     {
         int stage = 0;
         double targetCelsius = 0.0;
-        double rate = 0.0;          // °C per minute
+        double rate = 0.0; // °C per minute
         double holdSeconds = 0.0;
-        bool heatOnly = false;      // the pre-dry never cools a hot chamber down to 130 °C
+        bool heatOnly = false; // the pre-dry never cools a hot chamber down to 130 °C
     };
 
     void advance(double seconds);

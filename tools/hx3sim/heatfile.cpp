@@ -22,10 +22,7 @@ QString quoted(const QString &element)
 class Reader
 {
 public:
-    explicit Reader(const QStringList &elements)
-        : m_elements(elements)
-    {
-    }
+    explicit Reader(const QStringList &elements) : m_elements(elements) {}
 
     bool atEnd() const { return m_next >= m_elements.size(); }
     const QString &peek() const { return m_elements.at(m_next); }
@@ -62,7 +59,8 @@ public:
         QString digits;
         if (!value(key, &digits))
             return false;
-        bool plain = !digits.isEmpty() && digits.size() <= kMaxDigits && (digits == QLatin1String("0") || !digits.startsWith(QLatin1Char('0')));
+        bool plain = !digits.isEmpty() && digits.size() <= kMaxDigits &&
+                     (digits == QLatin1String("0") || !digits.startsWith(QLatin1Char('0')));
         for (const QChar c : digits)
             plain = plain && c >= QLatin1Char('0') && c <= QLatin1Char('9');
         if (!plain)
@@ -139,7 +137,8 @@ bool readProgram(Reader &reader, Program *read)
         return false;
     if (read->manufacturer.isEmpty())
         return reader.failLast(QStringLiteral("no manufacturer"));
-    if (!reader.value(QStringLiteral("material"), &read->material) || !reader.value(QStringLiteral("favorite"), &favorite))
+    if (!reader.value(QStringLiteral("material"), &read->material) ||
+        !reader.value(QStringLiteral("favorite"), &favorite))
         return false;
     if (favorite != QLatin1String("true") && favorite != QLatin1String("false"))
         return reader.failLast(QStringLiteral("favorite must be true or false, not \"%1\"").arg(quoted(favorite)));
@@ -161,7 +160,7 @@ bool readProgram(Reader &reader, Program *read)
         return reader.failWhole(QStringLiteral("no segment"));
     return true;
 }
-}  // namespace
+} // namespace
 
 QByteArray text(const Program &program)
 {
@@ -189,7 +188,8 @@ QString nameProblem(const QString &name)
     if (name.trimmed() != name)
         return QStringLiteral("the name \"%1\" starts or ends with a space").arg(name);
     // "." would be cut off as a file suffix, "," splits the favourite request, "$$" the frame.
-    for (const QString &bad : {QStringLiteral("."), QStringLiteral(";"), QStringLiteral("="), QStringLiteral(","), QStringLiteral("$$")}) {
+    for (const QString &bad :
+         {QStringLiteral("."), QStringLiteral(";"), QStringLiteral("="), QStringLiteral(","), QStringLiteral("$$")}) {
         if (name.contains(bad))
             return QStringLiteral("the name \"%1\" contains \"%2\"").arg(name, bad);
     }
@@ -209,7 +209,8 @@ bool parse(const QByteArray &bytes, Program *program, QString *error)
         return refuse(QStringLiteral("not UTF-8"));
     for (const QChar c : whole) {
         if (c.unicode() < 0x20 || c.unicode() == 0x7f)
-            return refuse(QStringLiteral("control character 0x%1 in the text").arg(c.unicode(), 2, 16, QLatin1Char('0')));
+            return refuse(
+                QStringLiteral("control character 0x%1 in the text").arg(c.unicode(), 2, 16, QLatin1Char('0')));
     }
     if (!whole.endsWith(QLatin1Char(';')))
         return refuse(QStringLiteral("the last element is not closed by \";\""));
@@ -238,4 +239,4 @@ QString describe(const Program &program)
         .join(QLatin1String(" | "));
 }
 
-}  // namespace heatfile
+} // namespace heatfile

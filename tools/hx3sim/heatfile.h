@@ -13,9 +13,9 @@ namespace heatfile {
 
 struct Segment
 {
-    int rate = 0;          // degrees per minute
-    int tempCelsius = 0;   // target of the segment
-    int holdMinutes = 0;   // time held at the target
+    int rate = 0;        // degrees per minute
+    int tempCelsius = 0; // target of the segment
+    int holdMinutes = 0; // time held at the target
 
     bool operator==(const Segment &other) const
     {
@@ -36,8 +36,8 @@ struct Program
 
     bool operator==(const Program &other) const
     {
-        return name == other.name && manufacturer == other.manufacturer && material == other.material
-               && favorite == other.favorite && segments == other.segments;
+        return name == other.name && manufacturer == other.manufacturer && material == other.material &&
+               favorite == other.favorite && segments == other.segments;
     }
 };
 
@@ -57,4 +57,4 @@ QString nameProblem(const QString &name);
 // One line for the console: "<name> | <manufacturer> | <material> | fav|- | rate/°C/min ...".
 QString describe(const Program &program);
 
-}  // namespace heatfile
+} // namespace heatfile

@@ -16,15 +16,15 @@ const QByteArray kHardwareVersion = "HX3-C";
 const QByteArray kSoftwareVersion = "3.12.0";
 constexpr int kOperatingHours = 1234;
 constexpr int kStartPage = 1;
-constexpr int kLanguagePage = 12;      // the first page of commissioning
-constexpr int kLastSetupPage = 15;     // pages 12..15: language, unit, date/time, device data
-constexpr int kSettingsPage = 6;       // where commissioning ends
-constexpr int kOvenReady = 26;         // "oven ready, main menu"
+constexpr int kLanguagePage = 12;  // the first page of commissioning
+constexpr int kLastSetupPage = 15; // pages 12..15: language, unit, date/time, device data
+constexpr int kSettingsPage = 6;   // where commissioning ends
+constexpr int kOvenReady = 26;     // "oven ready, main menu"
 
 struct SelfTestRow
 {
-    const char *name;      // as the operator names it on the command line
-    const char *keyword;   // as the result goes on the line
+    const char *name;    // as the operator names it on the command line
+    const char *keyword; // as the result goes on the line
 };
 // In the order the controller tests them.
 constexpr SelfTestRow kSelfTestRows[] = {{"door", "stdoor"}, {"heater", "stheater"}, {"cooling", "stcooling"}};
@@ -33,17 +33,12 @@ QByteArray command(const QByteArray &keyword, const QByteArray &parameter)
 {
     return keyword + "==" + parameter;
 }
-}  // namespace
+} // namespace
 
 Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *parent)
-    : QObject(parent)
-    , m_line(line)
-    , m_options(options)
-    , m_systemAtStart(QDateTime::currentDateTime())
-    , m_furnace([this] { return m_clock.isValid() ? m_clock.elapsed() : 0; }, options.speed)
-    , m_language(options.language)
-    , m_unit(options.unit)
-    , m_store(options.programs)
+    : QObject(parent), m_line(line), m_options(options), m_systemAtStart(QDateTime::currentDateTime()),
+      m_furnace([this] { return m_clock.isValid() ? m_clock.elapsed() : 0; }, options.speed),
+      m_language(options.language), m_unit(options.unit), m_store(options.programs)
 {
     m_clock.start();
 
@@ -63,7 +58,8 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
             scheduleNextBlock();
         }
     });
-    connect(m_line, &PtyLine::lineError, this, [this](const QString &text) { emit message(QStringLiteral("line error: ") + text); });
+    connect(m_line, &PtyLine::lineError, this,
+            [this](const QString &text) { emit message(QStringLiteral("line error: ") + text); });
 
     // What the panel may ask for in its answers; a new request is one more entry here.
     m_requestHandlers.insert("hfresend", &Hx3Controller::requestHeatfileResend);
@@ -201,8 +197,8 @@ Hx3Controller::Outgoing Hx3Controller::statusFrame() const
     const QDateTime now = controllerNow();
     return {QList<QByteArray>{command("time", now.toString(QStringLiteral("HHmm")).toLatin1()),
                               command("date", now.toString(QStringLiteral("yyyyMMdd")).toLatin1()),
-                              command("temp", QByteArray::number(m_furnace.chamberKelvin()))}
-                + firingFields(),
+                              command("temp", QByteArray::number(m_furnace.chamberKelvin()))} +
+                firingFields(),
             Kind::Status};
 }
 
@@ -419,8 +415,9 @@ void Hx3Controller::requestSelfTest(const QByteArray &)
     m_selfTest.pendingResults.append(command("st", failing.isEmpty() ? "pass" : "fail"));
     if (failing.isEmpty())
         m_selfTest.pendingResults.append(command("guistate", QByteArray::number(kOvenReady)));
-    emit message(failing.isEmpty() ? QStringLiteral("self-test started")
-                                   : QStringLiteral("self-test started, %1 will fail").arg(QString::fromLatin1(failing)));
+    emit message(failing.isEmpty()
+                     ? QStringLiteral("self-test started")
+                     : QStringLiteral("self-test started, %1 will fail").arg(QString::fromLatin1(failing)));
     m_selfTest.stepTimer.start();
 }
 
@@ -549,13 +546,15 @@ void Hx3Controller::requestChangeProgram(const QByteArray &parameter)
     // The panel should only change programs it got from us; one we lack is kept all the same,
     // and the log says so.
     const bool known = m_store.put(program) == ProgramStore::Put::Replaced;
-    emit message(QStringLiteral("changed: ") + program.name + (known ? QString() : QStringLiteral(" (was unknown, added)")));
+    emit message(QStringLiteral("changed: ") + program.name +
+                 (known ? QString() : QStringLiteral(" (was unknown, added)")));
 }
 
 void Hx3Controller::requestDeleteProgram(const QByteArray &parameter)
 {
     const QString name = QString::fromUtf8(parameter);
-    emit message(m_store.remove(name) > 0 ? QStringLiteral("deleted: ") + name : QStringLiteral("delete of unknown program: ") + name);
+    emit message(m_store.remove(name) > 0 ? QStringLiteral("deleted: ") + name
+                                          : QStringLiteral("delete of unknown program: ") + name);
 }
 
 void Hx3Controller::requestFavorite(const QByteArray &parameter)
@@ -610,8 +609,8 @@ void Hx3Controller::commandSelfTest(const QString &arguments)
     const QStringList words = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     const QString outcome = words.value(0);
     const QByteArray row = words.size() > 1 ? words.at(1).toLatin1() : QByteArray("heater");
-    const bool valid = (outcome == QLatin1String("pass") && words.size() == 1)
-                       || (outcome == QLatin1String("fail") && words.size() <= 2 && isSelfTestRow(row));
+    const bool valid = (outcome == QLatin1String("pass") && words.size() == 1) ||
+                       (outcome == QLatin1String("fail") && words.size() <= 2 && isSelfTestRow(row));
     if (!valid) {
         emit message(QStringLiteral("usage: selftest pass | selftest fail [door|heater|cooling]"));
         return;
@@ -639,7 +638,9 @@ void Hx3Controller::commandCommission(const QString &)
 
 void Hx3Controller::commandPrograms(const QString &)
 {
-    emit message(QStringLiteral("programs: %1 (name | manufacturer | material | fav | rate/target C/hold min per segment)").arg(m_store.size()));
+    emit message(
+        QStringLiteral("programs: %1 (name | manufacturer | material | fav | rate/target C/hold min per segment)")
+            .arg(m_store.size()));
     for (const heatfile::Program &program : m_store.programs())
         emit message(heatfile::describe(program));
 }

@@ -230,7 +230,7 @@ private:
 
     struct Firing
     {
-        QString program;        // empty: no firing
+        QString program; // empty: no firing
         // The empty hpinfo that ends a firing goes out with the report after the one that
         // followed hpsuccess or hpfailed.
         enum class EndReport { None, Announced, Due };
@@ -249,8 +249,8 @@ private:
     {
         DoorState state = DoorState::Closed;
         QTimer travel;
-        QElapsedTimer moving;   // since the present movement began
-        qint64 fromMs = 0;      // where it began, in travel time from closed
+        QElapsedTimer moving; // since the present movement began
+        qint64 fromMs = 0;    // where it began, in travel time from closed
     } m_door;
 
     bool m_argonOven = false;
@@ -265,8 +265,8 @@ private:
     // The self-test runs once per "redost"; the panel's page pulses never start one.
     struct SelfTest
     {
-        QByteArray failingRow;              // for the next test; empty: it passes
-        QList<QByteArray> pendingResults;   // still to go out, one per step
+        QByteArray failingRow;            // for the next test; empty: it passes
+        QList<QByteArray> pendingResults; // still to go out, one per step
         QTimer stepTimer;
     } m_selfTest;
 
@@ -290,13 +290,13 @@ private:
     {
         UpdateSender sender;
         bool streaming = false;
-        int inFlight = -1;          // block whose end byte is not out yet
+        int inFlight = -1; // block whose end byte is not out yet
         int frameBytes = 0;
-        QElapsedTimer frameClock;   // since the present block began
-        QElapsedTimer clock;        // since the update began
-        QTimer pace;                // the line's own speed between blocks
-        bool draining = false;      // waiting for the panel to read the end byte
-        QTimer tail;                // quiet after the last block without the panel's end
+        QElapsedTimer frameClock; // since the present block began
+        QElapsedTimer clock;      // since the update began
+        QTimer pace;              // the line's own speed between blocks
+        bool draining = false;    // waiting for the panel to read the end byte
+        QTimer tail;              // quiet after the last block without the panel's end
         int tailRetries = 0;
         int lastDecile = 0;
     } m_update;

@@ -45,7 +45,7 @@ QString preDryNote(int minutes)
 {
     return minutes > 0 ? QStringLiteral(" (pre-dry %1 min)").arg(minutes) : QString();
 }
-}  // namespace
+} // namespace
 
 QDateTime Hx3Controller::furnaceSystemTime() const
 {
@@ -112,15 +112,9 @@ void Hx3Controller::endFiring(Outcome outcome)
     m_firing.program.clear();
     m_firing.endReport = Firing::EndReport::Announced;
     switch (outcome) {
-    case Outcome::Done:
-        emit message(QStringLiteral("firing done"));
-        break;
-    case Outcome::Stopped:
-        emit message(QStringLiteral("firing stopped"));
-        break;
-    case Outcome::Failed:
-        emit message(QStringLiteral("firing failed"));
-        break;
+    case Outcome::Done: emit message(QStringLiteral("firing done")); break;
+    case Outcome::Stopped: emit message(QStringLiteral("firing stopped")); break;
+    case Outcome::Failed: emit message(QStringLiteral("firing failed")); break;
     }
     sendEvent(outcome == Outcome::Done ? "hpsuccess" : "hpfailed");
 }
@@ -137,9 +131,13 @@ QList<QByteArray> Hx3Controller::firingFields() const
         const FurnaceModel::Position position = m_furnace.position();
         const bool preDry = position.stage == 0;
         const QByteArray stage = preDry ? QByteArray("pre") : QByteArray::number(position.stage);
-        const QByteArray text = preDry ? QByteArray("pre") : position.phase == FurnaceModel::Phase::Hold ? QByteArray("hold") : QByteArray("heat");
-        const QDateTime end = controllerNow().addMSecs(static_cast<qint64>(std::llround(m_furnace.remainingSeconds() * 1000.0)));
-        return {command("hpinfo", m_firing.program.toUtf8() + ';' + QByteArray::number(m_furnace.remainingMinutes()) + ';' + stage + ';' + text),
+        const QByteArray text = preDry                                        ? QByteArray("pre")
+                                : position.phase == FurnaceModel::Phase::Hold ? QByteArray("hold")
+                                                                              : QByteArray("heat");
+        const QDateTime end =
+            controllerNow().addMSecs(static_cast<qint64>(std::llround(m_furnace.remainingSeconds() * 1000.0)));
+        return {command("hpinfo", m_firing.program.toUtf8() + ';' + QByteArray::number(m_furnace.remainingMinutes()) +
+                                      ';' + stage + ';' + text),
                 command("esttime", end.toString(QStringLiteral("HH:mm")).toLatin1())};
     }
     if (m_firing.endReport == Firing::EndReport::Due)
@@ -150,7 +148,8 @@ QList<QByteArray> Hx3Controller::firingFields() const
 QString Hx3Controller::stageText(const FurnaceModel::Position &position) const
 {
     const QString phase = position.phase == FurnaceModel::Phase::Hold ? QStringLiteral("hold") : QStringLiteral("heat");
-    return (position.stage == 0 ? QStringLiteral("pre-dry") : QString::number(position.stage)) + QLatin1Char(' ') + phase;
+    return (position.stage == 0 ? QStringLiteral("pre-dry") : QString::number(position.stage)) + QLatin1Char(' ') +
+           phase;
 }
 
 void Hx3Controller::sendEvent(const QByteArray &field)
@@ -188,7 +187,8 @@ void Hx3Controller::requestTimer(const QByteArray &parameter)
     int preDry = 0;
     QDate date;
     QTime time;
-    if (parts.size() == 4 && parts.at(0).size() == 8 && allDigits(parts.at(0)) && parts.at(1).size() == 4 && allDigits(parts.at(1))) {
+    if (parts.size() == 4 && parts.at(0).size() == 8 && allDigits(parts.at(0)) && parts.at(1).size() == 4 &&
+        allDigits(parts.at(1))) {
         date = QDate(parts.at(0).left(4).toInt(), parts.at(0).mid(4, 2).toInt(), parts.at(0).mid(6).toInt());
         time = QTime(parts.at(1).left(2).toInt(), parts.at(1).mid(2).toInt());
     }
@@ -204,8 +204,9 @@ void Hx3Controller::requestTimer(const QByteArray &parameter)
     if (m_delayedStart.pending)
         emit message(QStringLiteral("delayed start replaced: ") + m_delayedStart.program);
     m_delayedStart = {true, QDateTime(date, time), name, preDry};
-    emit message(QStringLiteral("delayed start: %1 at %2").arg(name, m_delayedStart.at.toString(QLatin1String(kClockFormat)))
-                 + preDryNote(preDry));
+    emit message(
+        QStringLiteral("delayed start: %1 at %2").arg(name, m_delayedStart.at.toString(QLatin1String(kClockFormat))) +
+        preDryNote(preDry));
     // A time already past starts at once.
     checkDelayedStart();
 }
@@ -271,18 +272,10 @@ void Hx3Controller::moveDoor(DoorState towards)
     const qint64 moved = m_door.moving.isValid() ? qMin(m_door.moving.elapsed(), full) : full;
     qint64 position = 0;
     switch (m_door.state) {
-    case DoorState::Closed:
-        position = 0;
-        break;
-    case DoorState::Open:
-        position = full;
-        break;
-    case DoorState::Opening:
-        position = m_door.fromMs + moved;
-        break;
-    case DoorState::Closing:
-        position = m_door.fromMs - moved;
-        break;
+    case DoorState::Closed: position = 0; break;
+    case DoorState::Open: position = full; break;
+    case DoorState::Opening: position = m_door.fromMs + moved; break;
+    case DoorState::Closing: position = m_door.fromMs - moved; break;
     }
     position = qBound<qint64>(0, position, full);
 
@@ -320,14 +313,10 @@ void Hx3Controller::applyDoorToFurnace()
 QString Hx3Controller::doorText(DoorState state)
 {
     switch (state) {
-    case DoorState::Closed:
-        return QStringLiteral("closed");
-    case DoorState::Opening:
-        return QStringLiteral("opening");
-    case DoorState::Open:
-        return QStringLiteral("open");
-    case DoorState::Closing:
-        return QStringLiteral("closing");
+    case DoorState::Closed: return QStringLiteral("closed");
+    case DoorState::Opening: return QStringLiteral("opening");
+    case DoorState::Open: return QStringLiteral("open");
+    case DoorState::Closing: return QStringLiteral("closing");
     }
     return QString();
 }
@@ -409,7 +398,7 @@ QByteArray errorCodes(const QString &arguments)
     joined.remove(QLatin1Char(' '));
     return codes.match(joined).hasMatch() ? joined.toLatin1() : QByteArray();
 }
-}  // namespace
+} // namespace
 
 void Hx3Controller::commandError(const QString &arguments)
 {
@@ -450,7 +439,8 @@ void Hx3Controller::commandTemp(const QString &arguments)
     bool ok = false;
     const double celsius = arguments.toDouble(&ok);
     if (!ok || celsius < kLowestForcedCelsius || celsius > kHighestForcedCelsius) {
-        emit message(QStringLiteral("usage: temp <celsius> (%1 to %2)").arg(kLowestForcedCelsius).arg(kHighestForcedCelsius));
+        emit message(
+            QStringLiteral("usage: temp <celsius> (%1 to %2)").arg(kLowestForcedCelsius).arg(kHighestForcedCelsius));
         return;
     }
     catchUp();

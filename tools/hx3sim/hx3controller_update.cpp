@@ -16,7 +16,7 @@ constexpr int kEndByteSettleMs = 15;
 // Quiet after the last block without the panel's end: its last block was lost.
 constexpr int kTailQuietMs = 1000;
 constexpr int kTailRetries = 3;
-}  // namespace
+} // namespace
 
 void Hx3Controller::commandUpdate(const QString &arguments)
 {

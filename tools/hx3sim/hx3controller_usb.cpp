@@ -7,7 +7,7 @@ namespace {
 const QByteArray kUsbDone = "done";
 const QByteArray kUsbFailed = "failed";
 const QByteArray kUsbSilent = "none";
-}  // namespace
+} // namespace
 
 void Hx3Controller::setUpServiceFunctions()
 {
@@ -68,7 +68,8 @@ void Hx3Controller::commandUsb(const QString &arguments)
         sendEvent("usb==" + first);
     } else if (words.size() == 1 && (first == kUsbDone || first == kUsbFailed)) {
         sendEvent("usb==" + first);
-    } else if (words.size() == 2 && first == "answer" && (second == kUsbDone || second == kUsbFailed || second == kUsbSilent)) {
+    } else if (words.size() == 2 && first == "answer" &&
+               (second == kUsbDone || second == kUsbFailed || second == kUsbSilent)) {
         m_usb.answer = second;
         emit message(QStringLiteral("usb: updates will answer %1").arg(QString::fromLatin1(second)));
     } else {

@@ -49,7 +49,7 @@ int usageError(const QString &text)
     std::fprintf(stderr, "hx3sim: %s\n", qPrintable(text));
     return kUsageError;
 }
-}  // namespace
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -61,49 +61,69 @@ int main(int argc, char *argv[])
     std::signal(SIGPIPE, SIG_IGN);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Plays the HX3 furnace controller against the panel over a pseudo-terminal."));
+    parser.setApplicationDescription(
+        QStringLiteral("Plays the HX3 furnace controller against the panel over a pseudo-terminal."));
     const QCommandLineOption helpOption = parser.addHelpOption();
-    const QCommandLineOption linkOption(QStringLiteral("link"), QStringLiteral("Create a symlink <path> to the slave side (removed at exit)."),
+    const QCommandLineOption linkOption(QStringLiteral("link"),
+                                        QStringLiteral("Create a symlink <path> to the slave side (removed at exit)."),
                                         QStringLiteral("path"));
-    const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Print every frame sent (tx:) and received (rx:)."));
-    const QCommandLineOption intervalOption(QStringLiteral("interval"), QStringLiteral("Milliseconds between time/date/temperature frames."),
+    const QCommandLineOption verboseOption(QStringLiteral("verbose"),
+                                           QStringLiteral("Print every frame sent (tx:) and received (rx:)."));
+    const QCommandLineOption intervalOption(QStringLiteral("interval"),
+                                            QStringLiteral("Milliseconds between time/date/temperature frames."),
                                             QStringLiteral("ms"), QStringLiteral("1000"));
-    const QCommandLineOption unitOption(QStringLiteral("unit"), QStringLiteral("Temperature unit announced to the panel: c or f."),
+    const QCommandLineOption unitOption(QStringLiteral("unit"),
+                                        QStringLiteral("Temperature unit announced to the panel: c or f."),
                                         QStringLiteral("c|f"), QStringLiteral("c"));
-    const QCommandLineOption langOption(QStringLiteral("lang"), QStringLiteral("Language keyword announced to the panel, e.g. spanisch."),
+    const QCommandLineOption langOption(QStringLiteral("lang"),
+                                        QStringLiteral("Language keyword announced to the panel, e.g. spanisch."),
                                         QStringLiteral("keyword"), QStringLiteral("deutsch"));
     const QCommandLineOption runForOption(QStringLiteral("run-for"), QStringLiteral("Exit after this many seconds."),
                                           QStringLiteral("seconds"));
-    const QCommandLineOption stepOption(QStringLiteral("step-ms"), QStringLiteral("Milliseconds between the self-test's results."),
+    const QCommandLineOption stepOption(QStringLiteral("step-ms"),
+                                        QStringLiteral("Milliseconds between the self-test's results."),
                                         QStringLiteral("ms"), QStringLiteral("700"));
-    const QCommandLineOption selftestFailOption(QStringLiteral("selftest-fail"),
-                                                QStringLiteral("Every self-test fails in this row: door, heater or cooling."),
-                                                QStringLiteral("row"));
-    const QCommandLineOption commissioningOption(QStringLiteral("commissioning"),
-                                                 QStringLiteral("Start as a new furnace: the panel walks the operator through its set-up."));
-    const QCommandLineOption programsOption(QStringLiteral("programs"),
-                                            QStringLiteral("Start with the programs of <file> (one heatfile text a line) instead of the samples."),
-                                            QStringLiteral("file"));
-    const QCommandLineOption manyOption(QStringLiteral("many"),
-                                        QStringLiteral("Add <n> generated programs (\"Programm 001\" ...) after the others, for long lists."),
-                                        QStringLiteral("n"));
-    const QCommandLineOption speedOption(QStringLiteral("speed"),
-                                         QStringLiteral("Furnace time runs <n> times as fast: firings, cooling and the controller's clock."),
-                                         QStringLiteral("n"), QStringLiteral("1"));
-    const QCommandLineOption doorOption(QStringLiteral("door-ms"), QStringLiteral("Milliseconds the lift door takes to open or close, whatever the speed."),
-                                        QStringLiteral("ms"), QStringLiteral("3000"));
-    const QCommandLineOption argonOption(QStringLiteral("argon"), QStringLiteral("An argon furnace: says argon==True at start-up."));
-    const QCommandLineOption pinOption(QStringLiteral("pin"), QStringLiteral("Service PIN handed to the panel at start-up (1 to 8 digits)."),
+    const QCommandLineOption selftestFailOption(
+        QStringLiteral("selftest-fail"), QStringLiteral("Every self-test fails in this row: door, heater or cooling."),
+        QStringLiteral("row"));
+    const QCommandLineOption commissioningOption(
+        QStringLiteral("commissioning"),
+        QStringLiteral("Start as a new furnace: the panel walks the operator through its set-up."));
+    const QCommandLineOption programsOption(
+        QStringLiteral("programs"),
+        QStringLiteral("Start with the programs of <file> (one heatfile text a line) instead of the samples."),
+        QStringLiteral("file"));
+    const QCommandLineOption manyOption(
+        QStringLiteral("many"),
+        QStringLiteral("Add <n> generated programs (\"Programm 001\" ...) after the others, for long lists."),
+        QStringLiteral("n"));
+    const QCommandLineOption speedOption(
+        QStringLiteral("speed"),
+        QStringLiteral("Furnace time runs <n> times as fast: firings, cooling and the controller's clock."),
+        QStringLiteral("n"), QStringLiteral("1"));
+    const QCommandLineOption doorOption(
+        QStringLiteral("door-ms"),
+        QStringLiteral("Milliseconds the lift door takes to open or close, whatever the speed."), QStringLiteral("ms"),
+        QStringLiteral("3000"));
+    const QCommandLineOption argonOption(QStringLiteral("argon"),
+                                         QStringLiteral("An argon furnace: says argon==True at start-up."));
+    const QCommandLineOption pinOption(QStringLiteral("pin"),
+                                       QStringLiteral("Service PIN handed to the panel at start-up (1 to 8 digits)."),
                                        QStringLiteral("digits"), QStringLiteral("1234"));
-    const QCommandLineOption usbOption(QStringLiteral("usb"), QStringLiteral("A stick is in the USB socket at start-up."));
-    const QCommandLineOption usbMsOption(QStringLiteral("usb-ms"), QStringLiteral("Milliseconds a firmware or configuration update from the stick takes."),
-                                         QStringLiteral("ms"), QStringLiteral("1500"));
-    const QCommandLineOption updateOption(QStringLiteral("update"),
-                                          QStringLiteral("Once the panel is up, send <file> as a panel update, block by block."),
-                                          QStringLiteral("file"));
-    const QCommandLineOption updateBlockOption(QStringLiteral("update-block"), QStringLiteral("Data bytes per update block (1-999)."),
+    const QCommandLineOption usbOption(QStringLiteral("usb"),
+                                       QStringLiteral("A stick is in the USB socket at start-up."));
+    const QCommandLineOption usbMsOption(
+        QStringLiteral("usb-ms"),
+        QStringLiteral("Milliseconds a firmware or configuration update from the stick takes."), QStringLiteral("ms"),
+        QStringLiteral("1500"));
+    const QCommandLineOption updateOption(
+        QStringLiteral("update"),
+        QStringLiteral("Once the panel is up, send <file> as a panel update, block by block."), QStringLiteral("file"));
+    const QCommandLineOption updateBlockOption(QStringLiteral("update-block"),
+                                               QStringLiteral("Data bytes per update block (1-999)."),
                                                QStringLiteral("bytes"), QStringLiteral("512"));
-    const QCommandLineOption updateDropOption(QStringLiteral("update-drop"), QStringLiteral("Percent of update blocks lost on the line."),
+    const QCommandLineOption updateDropOption(QStringLiteral("update-drop"),
+                                              QStringLiteral("Percent of update blocks lost on the line."),
                                               QStringLiteral("pct"), QStringLiteral("0"));
     const QCommandLineOption updateCorruptOption(QStringLiteral("update-corrupt"),
                                                  QStringLiteral("Percent of update blocks arriving with damaged data."),
@@ -111,15 +131,19 @@ int main(int argc, char *argv[])
     const QCommandLineOption updateReorderOption(QStringLiteral("update-reorder"),
                                                  QStringLiteral("Percent of update blocks sent after their successor."),
                                                  QStringLiteral("pct"), QStringLiteral("0"));
-    const QCommandLineOption updateSeedOption(QStringLiteral("update-seed"), QStringLiteral("Seed of the faults above; a seed repeats a run."),
+    const QCommandLineOption updateSeedOption(QStringLiteral("update-seed"),
+                                              QStringLiteral("Seed of the faults above; a seed repeats a run."),
                                               QStringLiteral("n"), QStringLiteral("1"));
-    const QCommandLineOption updateBaudOption(QStringLiteral("update-baud"),
-                                              QStringLiteral("Line speed the blocks are paced at; 0: as fast as the panel reads."),
-                                              QStringLiteral("baud"), QStringLiteral("115200"));
-    parser.addOptions({linkOption, verboseOption, intervalOption, unitOption, langOption, runForOption, stepOption, selftestFailOption,
-                       commissioningOption, programsOption, manyOption, speedOption, doorOption, argonOption,
-                       pinOption, usbOption, usbMsOption, updateOption, updateBlockOption, updateDropOption,
-                       updateCorruptOption, updateReorderOption, updateSeedOption, updateBaudOption});
+    const QCommandLineOption updateBaudOption(
+        QStringLiteral("update-baud"),
+        QStringLiteral("Line speed the blocks are paced at; 0: as fast as the panel reads."), QStringLiteral("baud"),
+        QStringLiteral("115200"));
+    parser.addOptions({linkOption,          verboseOption,       intervalOption,    unitOption,
+                       langOption,          runForOption,        stepOption,        selftestFailOption,
+                       commissioningOption, programsOption,      manyOption,        speedOption,
+                       doorOption,          argonOption,         pinOption,         usbOption,
+                       usbMsOption,         updateOption,        updateBlockOption, updateDropOption,
+                       updateCorruptOption, updateReorderOption, updateSeedOption,  updateBaudOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -137,7 +161,8 @@ int main(int argc, char *argv[])
     QString error;
     options.intervalMs = parser.value(intervalOption).toInt(&ok);
     if (!ok || options.intervalMs <= 0)
-        return usageError(QStringLiteral("--interval needs a positive number of milliseconds, not \"%1\"").arg(parser.value(intervalOption)));
+        return usageError(QStringLiteral("--interval needs a positive number of milliseconds, not \"%1\"")
+                              .arg(parser.value(intervalOption)));
 
     const QString unit = parser.value(unitOption);
     if (unit != QLatin1String("c") && unit != QLatin1String("f"))
@@ -146,16 +171,20 @@ int main(int argc, char *argv[])
 
     options.language = parser.value(langOption).toUtf8();
     if (!Hx3Controller::isLanguageKeyword(options.language))
-        return usageError(QStringLiteral("--lang needs a keyword without control characters, \"$\" or \"=\", not \"%1\"").arg(parser.value(langOption)));
+        return usageError(
+            QStringLiteral("--lang needs a keyword without control characters, \"$\" or \"=\", not \"%1\"")
+                .arg(parser.value(langOption)));
 
     options.stepMs = parser.value(stepOption).toInt(&ok);
     if (!ok || options.stepMs <= 0)
-        return usageError(QStringLiteral("--step-ms needs a positive number of milliseconds, not \"%1\"").arg(parser.value(stepOption)));
+        return usageError(QStringLiteral("--step-ms needs a positive number of milliseconds, not \"%1\"")
+                              .arg(parser.value(stepOption)));
 
     if (parser.isSet(selftestFailOption)) {
         options.selftestFailRow = parser.value(selftestFailOption).toLatin1();
         if (!Hx3Controller::isSelfTestRow(options.selftestFailRow))
-            return usageError(QStringLiteral("--selftest-fail must be door, heater or cooling, not \"%1\"").arg(parser.value(selftestFailOption)));
+            return usageError(QStringLiteral("--selftest-fail must be door, heater or cooling, not \"%1\"")
+                                  .arg(parser.value(selftestFailOption)));
     }
     options.commissioning = parser.isSet(commissioningOption);
     options.argon = parser.isSet(argonOption);
@@ -168,19 +197,27 @@ int main(int argc, char *argv[])
     options.usbStick = parser.isSet(usbOption);
     options.usbMs = parser.value(usbMsOption).toInt(&ok);
     if (!ok || options.usbMs < 0 || options.usbMs > kMaxUsbMs)
-        return usageError(QStringLiteral("--usb-ms needs 0 to %1 milliseconds, not \"%2\"").arg(kMaxUsbMs).arg(parser.value(usbMsOption)));
+        return usageError(QStringLiteral("--usb-ms needs 0 to %1 milliseconds, not \"%2\"")
+                              .arg(kMaxUsbMs)
+                              .arg(parser.value(usbMsOption)));
 
     options.speed = parser.value(speedOption).toDouble(&ok);
     if (!ok || !(options.speed > 0.0) || options.speed > kMaxSpeed)
-        return usageError(QStringLiteral("--speed needs a factor above 0 and up to %1, not \"%2\"").arg(kMaxSpeed).arg(parser.value(speedOption)));
+        return usageError(QStringLiteral("--speed needs a factor above 0 and up to %1, not \"%2\"")
+                              .arg(kMaxSpeed)
+                              .arg(parser.value(speedOption)));
 
     options.doorMs = parser.value(doorOption).toInt(&ok);
     if (!ok || options.doorMs < 0 || options.doorMs > kMaxDoorMs)
-        return usageError(QStringLiteral("--door-ms needs 0 to %1 milliseconds, not \"%2\"").arg(kMaxDoorMs).arg(parser.value(doorOption)));
+        return usageError(QStringLiteral("--door-ms needs 0 to %1 milliseconds, not \"%2\"")
+                              .arg(kMaxDoorMs)
+                              .arg(parser.value(doorOption)));
 
     options.updateBlockBytes = parser.value(updateBlockOption).toInt(&ok);
     if (!ok || options.updateBlockBytes < 1 || options.updateBlockBytes > UpdateSender::maxBlockBytes)
-        return usageError(QStringLiteral("--update-block needs 1 to %1 bytes, not \"%2\"").arg(UpdateSender::maxBlockBytes).arg(parser.value(updateBlockOption)));
+        return usageError(QStringLiteral("--update-block needs 1 to %1 bytes, not \"%2\"")
+                              .arg(UpdateSender::maxBlockBytes)
+                              .arg(parser.value(updateBlockOption)));
     const QList<std::pair<const QCommandLineOption *, double *>> percents = {
         {&updateDropOption, &options.updateFaults.dropPercent},
         {&updateCorruptOption, &options.updateFaults.corruptPercent},
@@ -188,14 +225,17 @@ int main(int argc, char *argv[])
     for (const auto &[option, value] : percents) {
         *value = parser.value(*option).toDouble(&ok);
         if (!ok || *value < 0.0 || *value > 50.0)
-            return usageError(QStringLiteral("--%1 needs a percentage from 0 to 50, not \"%2\"").arg(option->names().first(), parser.value(*option)));
+            return usageError(QStringLiteral("--%1 needs a percentage from 0 to 50, not \"%2\"")
+                                  .arg(option->names().first(), parser.value(*option)));
     }
     options.updateFaults.seed = parser.value(updateSeedOption).toUInt(&ok);
     if (!ok)
-        return usageError(QStringLiteral("--update-seed needs a whole number, not \"%1\"").arg(parser.value(updateSeedOption)));
+        return usageError(
+            QStringLiteral("--update-seed needs a whole number, not \"%1\"").arg(parser.value(updateSeedOption)));
     options.updateBaud = parser.value(updateBaudOption).toInt(&ok);
     if (!ok || options.updateBaud < 0)
-        return usageError(QStringLiteral("--update-baud needs 0 or a line speed, not \"%1\"").arg(parser.value(updateBaudOption)));
+        return usageError(
+            QStringLiteral("--update-baud needs 0 or a line speed, not \"%1\"").arg(parser.value(updateBaudOption)));
     if (parser.isSet(updateOption) && !QFileInfo(parser.value(updateOption)).isReadable())
         return usageError(QStringLiteral("--update: cannot read \"%1\"").arg(parser.value(updateOption)));
 
@@ -210,14 +250,17 @@ int main(int argc, char *argv[])
     if (parser.isSet(manyOption)) {
         const int count = parser.value(manyOption).toInt(&ok);
         if (!ok || count < 0 || count > kMaxGenerated)
-            return usageError(QStringLiteral("--many needs a count from 0 to %1, not \"%2\"").arg(kMaxGenerated).arg(parser.value(manyOption)));
+            return usageError(QStringLiteral("--many needs a count from 0 to %1, not \"%2\"")
+                                  .arg(kMaxGenerated)
+                                  .arg(parser.value(manyOption)));
         ProgramStore store(options.programs);
         const int before = store.size();
         for (const heatfile::Program &program : sampleprograms::generated(count))
             store.put(program);
         if (store.size() != before + count)
-            programNotes.append(QStringLiteral("programs: %1 generated ones took the place of programs of the same name")
-                                    .arg(before + count - store.size()));
+            programNotes.append(
+                QStringLiteral("programs: %1 generated ones took the place of programs of the same name")
+                    .arg(before + count - store.size()));
         options.programs = store.programs();
     }
 
@@ -225,7 +268,8 @@ int main(int argc, char *argv[])
     if (parser.isSet(runForOption)) {
         const double seconds = parser.value(runForOption).toDouble(&ok);
         if (!ok || !(seconds > 0.0) || seconds > 1.0e6)
-            return usageError(QStringLiteral("--run-for needs a positive number of seconds, not \"%1\"").arg(parser.value(runForOption)));
+            return usageError(QStringLiteral("--run-for needs a positive number of seconds, not \"%1\"")
+                                  .arg(parser.value(runForOption)));
         runForMs = static_cast<int>(seconds * 1000.0 + 0.5);
         if (runForMs < 1)
             runForMs = 1;
@@ -238,10 +282,8 @@ int main(int argc, char *argv[])
     }
     if (parser.isSet(linkOption)) {
         switch (line.createLink(parser.value(linkOption), &error)) {
-        case PtyLine::LinkResult::Created:
-            break;
-        case PtyLine::LinkResult::NotASymlink:
-            return usageError(error);
+        case PtyLine::LinkResult::Created: break;
+        case PtyLine::LinkResult::NotASymlink: return usageError(error);
         case PtyLine::LinkResult::Failed:
             std::fprintf(stderr, "hx3sim: cannot create the link: %s\n", qPrintable(error));
             return 1;

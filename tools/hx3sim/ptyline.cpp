@@ -26,10 +26,9 @@ QString errnoText(const char *what)
 {
     return QStringLiteral("%1: %2").arg(QLatin1String(what), QString::fromLocal8Bit(std::strerror(errno)));
 }
-}  // namespace
+} // namespace
 
-PtyLine::PtyLine(QObject *parent)
-    : QObject(parent)
+PtyLine::PtyLine(QObject *parent) : QObject(parent)
 {
     m_pollTimer.setInterval(kPollIntervalMs);
     m_pollTimer.setTimerType(Qt::PreciseTimer);
@@ -88,7 +87,9 @@ bool PtyLine::open(QString *error)
 PtyLine::LinkResult PtyLine::createLink(const QString &path, QString *error)
 {
     const QByteArray linkName = QFile::encodeName(path);
-    struct stat st{};
+    struct stat st
+    {
+    };
     if (::lstat(linkName.constData(), &st) == 0) {
         if (!S_ISLNK(st.st_mode)) {
             if (error)
@@ -223,8 +224,7 @@ void PtyLine::outputDrained()
         break;
     case Stage::Idle:
     case Stage::WaitingForRead:
-    case Stage::Settling:
-        break;
+    case Stage::Settling: break;
     }
 }
 

@@ -15,4 +15,4 @@ QList<heatfile::Program> programs();
 // segments. The same count always gives the same programs.
 QList<heatfile::Program> generated(int count);
 
-}  // namespace sampleprograms
+} // namespace sampleprograms

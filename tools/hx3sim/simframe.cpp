@@ -6,7 +6,7 @@ namespace {
 const QByteArray kSeparator("$$");
 const QByteArray kCommandSeparator("==");
 constexpr int kSummaryLength = 60;
-}  // namespace
+} // namespace
 
 int byteSum(const QList<QByteArray> &fields)
 {
@@ -156,4 +156,4 @@ QString summary(const QList<QByteArray> &bodyFields)
     return text;
 }
 
-}  // namespace simframe
+} // namespace simframe

@@ -37,8 +37,8 @@ struct Answer
 {
     bool valid = false;
     bool nack = false;
-    QList<QByteArray> requests;  // every body field after "ack"/"nack"
-    QString error;               // why it is not valid, for the log
+    QList<QByteArray> requests; // every body field after "ack"/"nack"
+    QString error;              // why it is not valid, for the log
 };
 
 // Content is what lies between the start and the end byte.
@@ -58,4 +58,4 @@ QString printable(const QByteArray &raw);
 // Short description of a frame for log lines; heatfile texts are long, so it is cut.
 QString summary(const QList<QByteArray> &bodyFields);
 
-}  // namespace simframe
+} // namespace simframe

@@ -5,8 +5,8 @@
 
 QByteArray UpdateSender::blockText(int number, const QByteArray &data)
 {
-    return QByteArray::number(number).rightJustified(6, '0') + QByteArray::number(data.size()).rightJustified(3, '0')
-           + data.toBase64() + '&' + QCryptographicHash::hash(data, QCryptographicHash::Md5).toHex();
+    return QByteArray::number(number).rightJustified(6, '0') + QByteArray::number(data.size()).rightJustified(3, '0') +
+           data.toBase64() + '&' + QCryptographicHash::hash(data, QCryptographicHash::Md5).toHex();
 }
 
 bool UpdateSender::load(const QByteArray &file, int blockBytes, const Faults &faults, QString *error)
@@ -71,8 +71,8 @@ bool UpdateSender::next(Sending *sending)
     sending->text = blockText(number, m_blocks.at(number));
     // Only first sendings are lost: the panel does not ask twice for a block it awaits.
     sending->dropped = !resend && m_drop.contains(number);
-    sending->corrupted = !sending->dropped
-                         && decide(m_faults.corruptPercent, quint32(number) * 3u + quint32(attempt) * 7919u);
+    sending->corrupted =
+        !sending->dropped && decide(m_faults.corruptPercent, quint32(number) * 3u + quint32(attempt) * 7919u);
     if (sending->corrupted) {
         // One Base64 character of the data changed: the digest no longer fits.
         const int dataLength = sending->text.indexOf('&') - 9;

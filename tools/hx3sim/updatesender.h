@@ -14,17 +14,17 @@ class UpdateSender
 public:
     struct Faults
     {
-        double dropPercent = 0;     // first sendings lost on the line
-        double corruptPercent = 0;  // sendings with one data character changed
-        double reorderPercent = 0;  // blocks sent after their successor
+        double dropPercent = 0;    // first sendings lost on the line
+        double corruptPercent = 0; // sendings with one data character changed
+        double reorderPercent = 0; // blocks sent after their successor
         quint32 seed = 1;
     };
 
     struct Sending
     {
         int number = -1;
-        QByteArray text;        // the block as it goes between start and end byte
-        bool dropped = false;   // nothing reaches the panel
+        QByteArray text;      // the block as it goes between start and end byte
+        bool dropped = false; // nothing reaches the panel
         bool corrupted = false;
         bool resend = false;
     };
@@ -55,10 +55,10 @@ private:
     bool decide(double percent, quint32 salt) const;
 
     QList<QByteArray> m_blocks;
-    QList<int> m_order;         // first pass
-    QSet<int> m_drop;           // first sendings lost
+    QList<int> m_order; // first pass
+    QSet<int> m_drop;   // first sendings lost
     QList<int> m_resendQueue;
-    QList<int> m_attempts;      // sendings so far, per block
+    QList<int> m_attempts; // sendings so far, per block
     Faults m_faults;
     int m_position = 0;
     int m_dropped = 0;

@@ -5,15 +5,15 @@
 #include "communication/messagehandler.h"
 #include "popups/popupusb.h"
 #include "popups/timerpopup.h"
-#include "programs/newprogram.h"
 #include "programs/heatfiletext.h"
+#include "programs/newprogram.h"
 #include "programs/programhandler.h"
 #include "programs/tablerow.h"
 #include "records/firingdetailview.h"
 #include "records/firinghistoryview.h"
 #include "records/firingstore.h"
-#include "widgets/button.h"
 #include "ui_mainwindow.h"
+#include "widgets/button.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -32,11 +32,32 @@ using Mainwindow::Page;
 
 namespace {
 
-const char *const pageNames[] = {
-    "startup", "devicedata", "selftest", "mainmenu", "favourites", "programoptions", "settings",
-    "service", "servicepin", "lists", "myprograms", "fixprograms", "language", "unit", "datetime",
-    "devicedata2", "editor", "program", "process", "serviceprograms", "failures", "filteroptions",
-    "filtermanufacturer", "filtermaterial", "usb", "changeprogram"};
+const char *const pageNames[] = {"startup",
+                                 "devicedata",
+                                 "selftest",
+                                 "mainmenu",
+                                 "favourites",
+                                 "programoptions",
+                                 "settings",
+                                 "service",
+                                 "servicepin",
+                                 "lists",
+                                 "myprograms",
+                                 "fixprograms",
+                                 "language",
+                                 "unit",
+                                 "datetime",
+                                 "devicedata2",
+                                 "editor",
+                                 "program",
+                                 "process",
+                                 "serviceprograms",
+                                 "failures",
+                                 "filteroptions",
+                                 "filtermanufacturer",
+                                 "filtermaterial",
+                                 "usb",
+                                 "changeprogram"};
 
 void settle()
 {
@@ -53,8 +74,7 @@ ScreenshotTour::ScreenshotTour(Mainwindow::MainWindow *window, const QString &fo
 
 void ScreenshotTour::Feed(const QByteArray &fields)
 {
-    m_window->GetMessageHandler()->HandleMessage(
-        QString::fromLatin1(Communication::Frame::Build(fields)));
+    m_window->GetMessageHandler()->HandleMessage(QString::fromLatin1(Communication::Frame::Build(fields)));
     settle();
 }
 
@@ -86,7 +106,9 @@ QStringList ScreenshotTour::Run()
     m_window->show();
     settle();
     int n = 0;
-    auto numbered = [&n](const QString &name) { return QStringLiteral("%1_%2").arg(n++, 2, 10, QLatin1Char('0')).arg(name); };
+    auto numbered = [&n](const QString &name) {
+        return QStringLiteral("%1_%2").arg(n++, 2, 10, QLatin1Char('0')).arg(name);
+    };
 
     Save(numbered(QStringLiteral("splash")));
 
@@ -194,10 +216,12 @@ QStringList ScreenshotTour::Run()
 
     m_window->Statemachine(Page::MainMenu);
     ui->stackedWidget_main->setCurrentIndex(2);
-    ui->page_MatChange->setStyleSheet(QStringLiteral("QWidget#page_MatChange { background: url(:/Material/Argon.jpg); }"));
+    ui->page_MatChange->setStyleSheet(
+        QStringLiteral("QWidget#page_MatChange { background: url(:/Material/Argon.jpg); }"));
     Save(numbered(QStringLiteral("materialchange")));
     ui->stackedWidget_main->setCurrentIndex(3);
-    ui->page_DoorIso->setStyleSheet(QStringLiteral("QWidget#page_DoorIso { background: url(:/Tuerisolation/TuerisoZirkon.jpg); }"));
+    ui->page_DoorIso->setStyleSheet(
+        QStringLiteral("QWidget#page_DoorIso { background: url(:/Tuerisolation/TuerisoZirkon.jpg); }"));
     Save(numbered(QStringLiteral("doorinsulation")));
     ui->stackedWidget_main->setCurrentIndex(0);
 
@@ -215,7 +239,8 @@ QStringList ScreenshotTour::Run()
             usb->SetText(QStringLiteral("  Firmware Aktualisierung...\n  Bitte warten..."));
             usb->SlotUpdateProgress(QStringLiteral("37%"));
         }
-        const QString name = QString::fromLatin1(popup->metaObject()->className()).section(QStringLiteral("::"), -1).toLower();
+        const QString name =
+            QString::fromLatin1(popup->metaObject()->className()).section(QStringLiteral("::"), -1).toLower();
         SavePopup(numbered(QStringLiteral("popup_") + name), popup);
     }
     SaveLanguages(numbered);
@@ -240,14 +265,14 @@ bool ScreenshotTour::InstallTranslations(const QString &builtFolder, const QStri
 QStringList ScreenshotTour::TourLanguages()
 {
     // The six languages the language page offers, then two with other scripts.
-    return {QStringLiteral("deutsch"), QStringLiteral("englischUS"), QStringLiteral("spanisch"),
+    return {QStringLiteral("deutsch"),      QStringLiteral("englischUS"),  QStringLiteral("spanisch"),
             QStringLiteral("franzoesisch"), QStringLiteral("italienisch"), QStringLiteral("portugisisch"),
-            QStringLiteral("japanisch"), QStringLiteral("chinesishc")};
+            QStringLiteral("japanisch"),    QStringLiteral("chinesishc")};
 }
 
 QList<int> ScreenshotTour::TourPages()
 {
-    return {Page::MainMenu, Page::Progs, Page::Settings, Page::Service, Page::Lists, Page::LangSelect,
+    return {Page::MainMenu,   Page::Progs,    Page::Settings,    Page::Service,  Page::Lists,   Page::LangSelect,
             Page::UnitSelect, Page::DateTime, Page::DeviceData2, Page::Selftest, Page::NewProg, Page::PlayProg};
 }
 
@@ -350,20 +375,22 @@ void ScreenshotTour::FeedPrograms()
     };
     for (const Sample &sample : samples) {
         // The line carries Latin-1: that is how the panel reads the controller's bytes.
-        QByteArray text = "heatfile==[metainfo];name=" + QString::fromUtf8(sample.name).toLatin1() + ";manufacturer=" + sample.maker
-                          + ";material=" + sample.material + ";favorite=" + (sample.fav ? "true" : "false") + ";";
+        QByteArray text = "heatfile==[metainfo];name=" + QString::fromUtf8(sample.name).toLatin1() +
+                          ";manufacturer=" + sample.maker + ";material=" + sample.material +
+                          ";favorite=" + (sample.fav ? "true" : "false") + ";";
         for (int i = 0; i < sample.segments.size(); ++i) {
             const QList<unsigned int> &row = sample.segments.at(i);
-            text += "[" + QByteArray::number(i + 1) + "];rate=" + QByteArray::number(row.at(0)) + ";temp="
-                    + QByteArray::number(row.at(1) + 273) + ";hold=" + QByteArray::number(row.at(2) * 60) + ";";
+            text += "[" + QByteArray::number(i + 1) + "];rate=" + QByteArray::number(row.at(0)) +
+                    ";temp=" + QByteArray::number(row.at(1) + 273) + ";hold=" + QByteArray::number(row.at(2) * 60) +
+                    ";";
             if (QByteArray(sample.material) == "Argon")
                 text += "argon=on;";
         }
         Feed(text);
     }
     for (int i = 1; i <= 14; ++i) // enough to make the user's list scroll
-        Feed("heatfile==[metainfo];name=Kunde " + QByteArray::number(100 + i)
-             + ";manufacturer=user;material=Zirkon;favorite=false;[1];rate=20;temp=1773;hold=3600;");
+        Feed("heatfile==[metainfo];name=Kunde " + QByteArray::number(100 + i) +
+             ";manufacturer=user;material=Zirkon;favorite=false;[1];rate=20;temp=1773;hold=3600;");
 }
 
 } // namespace Tools

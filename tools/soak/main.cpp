@@ -66,15 +66,16 @@ class Soak
 {
 public:
     Soak(SoakLine &line, QProcess &panel, quint32 seed, int settleUs)
-        : m_line(line), m_panel(panel), m_random(seed), m_settleUs(settleUs) {}
+        : m_line(line), m_panel(panel), m_random(seed), m_settleUs(settleUs)
+    {
+    }
 
     Figures figures;
 
     QList<QByteArray> Body()
     {
         const int n = int(figures.sent);
-        return {"time==" + QByteArray::number(1000 + n % 1360).right(4),
-                "date==20261123",
+        return {"time==" + QByteArray::number(1000 + n % 1360).right(4), "date==20261123",
                 "temp==" + QByteArray::number(293 + n % 1300)};
     }
 
@@ -205,25 +206,32 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Soak and fault run of the panel on a faulty line."));
     parser.addHelpOption();
-    const QCommandLineOption panelOption(QStringLiteral("panel"), QStringLiteral("The panel binary."), QStringLiteral("path"));
-    const QCommandLineOption framesOption(QStringLiteral("frames"), QStringLiteral("Frames to send."), QStringLiteral("n"), QStringLiteral("3000"));
-    const QCommandLineOption seedOption(QStringLiteral("seed"), QStringLiteral("Random seed."), QStringLiteral("n"), QStringLiteral("1"));
-    const QCommandLineOption faultOption(QStringLiteral("fault-every"), QStringLiteral("One fault in this many frames on average."),
+    const QCommandLineOption panelOption(QStringLiteral("panel"), QStringLiteral("The panel binary."),
+                                         QStringLiteral("path"));
+    const QCommandLineOption framesOption(QStringLiteral("frames"), QStringLiteral("Frames to send."),
+                                          QStringLiteral("n"), QStringLiteral("3000"));
+    const QCommandLineOption seedOption(QStringLiteral("seed"), QStringLiteral("Random seed."), QStringLiteral("n"),
+                                        QStringLiteral("1"));
+    const QCommandLineOption faultOption(QStringLiteral("fault-every"),
+                                         QStringLiteral("One fault in this many frames on average."),
                                          QStringLiteral("n"), QStringLiteral("50"));
     const QCommandLineOption watchdogOption(QStringLiteral("watchdog-ms"), QStringLiteral("The panel's line watchdog."),
                                             QStringLiteral("ms"), QStringLiteral("300"));
-    const QCommandLineOption silenceOption(QStringLiteral("silence-ms"), QStringLiteral("How long the controller goes quiet."),
-                                           QStringLiteral("ms"), QStringLiteral("1000"));
+    const QCommandLineOption silenceOption(QStringLiteral("silence-ms"),
+                                           QStringLiteral("How long the controller goes quiet."), QStringLiteral("ms"),
+                                           QStringLiteral("1000"));
     const QCommandLineOption settleOption(QStringLiteral("settle-us"), QStringLiteral("Pause before the end byte."),
                                           QStringLiteral("us"), QStringLiteral("1500"));
-    const QCommandLineOption warmupOption(QStringLiteral("warmup"), QStringLiteral("Clean frames before the measured run "
-                                                                                "(the panel's first log file, caches)."),
+    const QCommandLineOption warmupOption(QStringLiteral("warmup"),
+                                          QStringLiteral("Clean frames before the measured run "
+                                                         "(the panel's first log file, caches)."),
                                           QStringLiteral("n"), QStringLiteral("1000"));
     const QCommandLineOption growthOption(QStringLiteral("max-growth-mb"),
                                           QStringLiteral("Resident memory the last tenth may add to the first; "
                                                          "a negative value does not judge memory."),
                                           QStringLiteral("MB"), QStringLiteral("1.0"));
-    parser.addOptions({growthOption, warmupOption, panelOption, framesOption, seedOption, faultOption, watchdogOption, silenceOption, settleOption});
+    parser.addOptions({growthOption, warmupOption, panelOption, framesOption, seedOption, faultOption, watchdogOption,
+                       silenceOption, settleOption});
     parser.process(app);
 
     const qint64 frames = parser.value(framesOption).toLongLong();
@@ -295,10 +303,17 @@ int main(int argc, char *argv[])
             QThread::msleep(ulong(silenceMs));
             recovered = soak.Recover(watchdogMs * 3 + 5000) >= 0;
             break;
-        case 2: case 3: case 4: case 5: case 6:
-            soak.BadChecksum();
-            break;
-        case 7: case 8: case 9: case 10: case 11: case 12:
+        case 2:
+        case 3:
+        case 4:
+        case 5:
+        case 6: soak.BadChecksum(); break;
+        case 7:
+        case 8:
+        case 9:
+        case 10:
+        case 11:
+        case 12:
             ++f.split;
             soak.Clean(2 + int(soak.Random().bounded(4)));
             break;
@@ -318,13 +333,28 @@ int main(int argc, char *argv[])
     const double lineFrames = kLineBytesPerSecond / (double(f.bytes) / qMax<qint64>(1, f.sent));
 
     print(QStringLiteral("seed %1: %2 frames in %3 s (%4 frames/s, the line carries %5 of these a second)")
-              .arg(seed).arg(f.sent).arg(seconds, 0, 'f', 1).arg(f.sent / seconds, 0, 'f', 0).arg(lineFrames, 0, 'f', 0));
+              .arg(seed)
+              .arg(f.sent)
+              .arg(seconds, 0, 'f', 1)
+              .arg(f.sent / seconds, 0, 'f', 0)
+              .arg(lineFrames, 0, 'f', 0));
     print(QStringLiteral("faults: %1 garbage, %2 wrong checksums, %3 split frames, %4 unplugged, %5 silences of %6 ms")
-              .arg(f.garbage).arg(f.badChecksum).arg(f.split).arg(f.unplugged).arg(f.silences).arg(silenceMs));
+              .arg(f.garbage)
+              .arg(f.badChecksum)
+              .arg(f.split)
+              .arg(f.unplugged)
+              .arg(f.silences)
+              .arg(silenceMs));
     print(QStringLiteral("answered %1, unanswered %2, wrong answers %3, end byte sent again %4, longest recovery %5 ms")
-              .arg(f.answered).arg(f.unanswered).arg(f.wrongAnswers).arg(f.endByteResent).arg(f.maxRecoveryMs));
+              .arg(f.answered)
+              .arg(f.unanswered)
+              .arg(f.wrongAnswers)
+              .arg(f.endByteResent)
+              .arg(f.maxRecoveryMs));
     print(QStringLiteral("resident memory: first tenth %1 MB, last tenth %2 MB; log files at most %3")
-              .arg(firstMb, 0, 'f', 2).arg(lastMb, 0, 'f', 2).arg(f.maxLogFiles));
+              .arg(firstMb, 0, 'f', 2)
+              .arg(lastMb, 0, 'f', 2)
+              .arg(f.maxLogFiles));
 
     QStringList failures;
     if (!alive)
@@ -337,7 +367,8 @@ int main(int argc, char *argv[])
         failures << QStringLiteral("memory grew");
     if (f.maxLogFiles > kMaxLogFiles)
         failures << QStringLiteral("too many log files");
-    print(failures.isEmpty() ? QStringLiteral("soak: PASS") : QStringLiteral("soak: FAIL: ") + failures.join(QStringLiteral(", ")));
+    print(failures.isEmpty() ? QStringLiteral("soak: PASS")
+                             : QStringLiteral("soak: FAIL: ") + failures.join(QStringLiteral(", ")));
 
     panel.terminate();
     if (!panel.waitForFinished(3000))

@@ -11,9 +11,7 @@
 #include <termios.h>
 #include <unistd.h>
 
-SoakLine::SoakLine(const QString &linkPath) : m_linkPath(linkPath)
-{
-}
+SoakLine::SoakLine(const QString &linkPath) : m_linkPath(linkPath) {}
 
 SoakLine::~SoakLine()
 {
