@@ -17,18 +17,12 @@ using ovra::Mainwindow::MainWindow;
 using ovra::Mainwindow::Page;
 namespace Frame = ovra::Communication::Frame;
 
-namespace {
-void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
-} // namespace
-
 class TestMainWindow : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
-    void cleanup();
 
     void startsOnTheSplashAndSendsNothing();
     void deviceDataStartsTheSelftest();
@@ -45,33 +39,16 @@ private slots:
 
 private:
     // Feeds one controller frame and returns the requests that went out with the answer.
-    QStringList send(const QByteArray &fields);
+    QStringList send(const QByteArray &fields) { return m_panel->Send(fields); }
 
     QScopedPointer<PanelHarness> m_panel;
     MainWindow *m_window = nullptr;
 };
 
-void TestMainWindow::initTestCase()
-{
-    Q_INIT_RESOURCE(resources);
-    qInstallMessageHandler(quiet);
-}
-
 void TestMainWindow::init()
 {
     m_panel.reset(new PanelHarness(30));
     m_window = m_panel->Window();
-}
-
-void TestMainWindow::cleanup()
-{
-    m_panel.reset();
-    m_window = nullptr;
-}
-
-QStringList TestMainWindow::send(const QByteArray &fields)
-{
-    return m_panel->Send(fields);
 }
 
 void TestMainWindow::startsOnTheSplashAndSendsNothing()
