@@ -20,8 +20,6 @@ using ovra::Mainwindow::Page;
 namespace Frame = ovra::Communication::Frame;
 
 namespace {
-void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 QByteArray heatfile(const QString &name, const QString &maker, const QString &material, bool fav)
 {
     return QStringLiteral("heatfile==[metainfo];name=%1;manufacturer=%2;material=%3;favorite=%4;"
@@ -36,9 +34,7 @@ class TestProgramPages : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
-    void cleanup();
 
     void listsByClass();
     void favouriteToggleTellsTheController();
@@ -49,19 +45,13 @@ private slots:
     void resendIsAskedForTenTimesAtMost();
 
 private:
-    QStringList send(const QByteArray &fields);
+    QStringList send(const QByteArray &fields) { return m_panel->Send(fields); }
     QStringList listed() const;
-    void click(QWidget *kit);
+    static void click(QWidget *kit) { PanelHarness::Click(kit); }
 
     QScopedPointer<PanelHarness> m_panel;
     MainWindow *m_window = nullptr;
 };
-
-void TestProgramPages::initTestCase()
-{
-    Q_INIT_RESOURCE(resources);
-    qInstallMessageHandler(quiet);
-}
 
 void TestProgramPages::init()
 {
@@ -74,28 +64,12 @@ void TestProgramPages::init()
     send(heatfile(QStringLiteral("Kalibrierung"), QStringLiteral("service"), QStringLiteral("Zirkon"), false));
 }
 
-void TestProgramPages::cleanup()
-{
-    m_panel.reset();
-    m_window = nullptr;
-}
-
-QStringList TestProgramPages::send(const QByteArray &fields)
-{
-    return m_panel->Send(fields);
-}
-
 QStringList TestProgramPages::listed() const
 {
     QStringList names;
     for (const ProgramButton *button : m_window->GetProgramButtons())
         names << button->GetText();
     return names;
-}
-
-void TestProgramPages::click(QWidget *kit)
-{
-    PanelHarness::Click(kit);
 }
 
 void TestProgramPages::listsByClass()
@@ -170,7 +144,7 @@ void TestProgramPages::showingAndDeletingAProgram()
     click(m_window->GetProgramButtons().at(0)); // Zirkon HT, a maker's program
     QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Zirkon HT")); // not in upper case
-    QVERIFY(!m_panel->Shown("widget_playProgChange"));
+    QVERIFY(!m_panel->Shown("widget_playProgChange") && !m_panel->Shown("widget_playProgDelete"));
     QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(), 4); // summary: (0,0) and three points
 
     m_panel->Tap("widget_backPlayNewProg");
