@@ -53,7 +53,7 @@ private slots:
     void selftestIconTable();
     void selftestRowMayBeDeletedByListener();
 
-    void programButtonTitleAndStar();
+    void programButtonReflectsTheRecordSilently();
 
     void pinComparison_data();
     void pinComparison();
@@ -69,7 +69,6 @@ void TestWidgetKit::initTestCase()
 {
     Q_INIT_RESOURCE(resources);
     qRegisterMetaType<Page>();
-    qRegisterMetaType<Program *>();
 }
 
 void TestWidgetKit::captionText_data()
@@ -132,39 +131,21 @@ void TestWidgetKit::selftestRowMayBeDeletedByListener()
     QCOMPARE(destroyed.count(), 1);
 }
 
-void TestWidgetKit::programButtonTitleAndStar()
+void TestWidgetKit::programButtonReflectsTheRecordSilently()
 {
+    // What a tap on the title or the star sends is the program pages' test; showing the
+    // record's state, and a tap on the title, send no favourite change.
     Program program(QStringLiteral("Kurz"), QStringLiteral("Zirkon"), {}, QStringLiteral("X"), true);
     ProgramButton entry;
     entry.resize(720, 64);
     entry.show();
-    entry.SetNextPageIndex(Pageinterface::PlayProg);
-    QSignalSpy prog(&entry, &ProgramButton::SignalProgButtonClicked);
-    QSignalSpy page(&entry, &ProgramButton::SignalButtonClicked);
     QSignalSpy fav(&entry, &ProgramButton::SignalSetProgToFav);
-
-    // Reflecting the record's state is silent.
     entry.SetButtonProgram(&program);
     QVERIFY(entry.IsFavChecked());
     entry.SetFavChecked(false);
     QVERIFY(!entry.IsFavChecked());
-    QCOMPARE(fav.count(), 0);
-
     click(entry.GetPushButtonObject());
-    QCOMPARE(prog.count(), 1);
-    QCOMPARE(prog.at(0).at(0).value<Program *>(), &program);
-    QCOMPARE(page.count(), 1);
-    QCOMPARE(page.at(0).at(0).value<Page>(), Pageinterface::PlayProg);
     QCOMPARE(fav.count(), 0);
-
-    // The star carries the new state; the title stays silent.
-    click(entry.GetFavButtonObject());
-    click(entry.GetFavButtonObject());
-    QCOMPARE(fav.count(), 2);
-    QCOMPARE(fav.at(0).at(0).toBool(), true);
-    QCOMPARE(fav.at(0).at(1).value<Program *>(), &program);
-    QCOMPARE(fav.at(1).at(0).toBool(), false);
-    QCOMPARE(prog.count(), 1);
 }
 
 void TestWidgetKit::pinComparison_data()
