@@ -46,8 +46,7 @@ class TestFiring : public QObject
 private slots:
     void init();
 
-    void startRequestAndTheOneSecondLock();
-    void pressingStartAgainCallsItOff();
+    void startTheOneSecondLockAndCallingItOff();
     void preDrySteps();
     void delayedStart();
     void programPageIsRebuiltOnEntry();
@@ -107,7 +106,7 @@ void TestFiring::setDelayedStart()
     QVERIFY(m_panel->Widget("plainTextEdit_autostart") != nullptr);
 }
 
-void TestFiring::startRequestAndTheOneSecondLock()
+void TestFiring::startTheOneSecondLockAndCallingItOff()
 {
     openProgram(QStringLiteral("Speed"));
     m_panel->Tap("widget_playNewProg");
@@ -117,12 +116,7 @@ void TestFiring::startRequestAndTheOneSecondLock()
     QCOMPARE(send("temp==293"), QStringList{QStringLiteral("hpstart==Speed,0")});
     QVERIFY(!m_panel->Shown("widget_timerPlayProg"));
     QTRY_VERIFY_WITH_TIMEOUT(m_panel->Enabled("widget_playNewProg") && m_panel->Enabled("widget_doorPlayNewProg"), 3000);
-}
-
-void TestFiring::pressingStartAgainCallsItOff()
-{
-    openProgram(QStringLiteral("Speed"));
-    m_window->SlotGenerateProgRequest(); // unchecked: a cancel
+    m_panel->Tap("widget_playNewProg"); // pressed again: a cancel
     QCOMPARE(send("temp==293"), (QStringList{QStringLiteral("hpstop"), QStringLiteral("timer==")}));
     QVERIFY(m_panel->Shown("widget_timerPlayProg"));
 }
