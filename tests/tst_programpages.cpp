@@ -37,8 +37,7 @@ private slots:
     void init();
 
     void listsByClass();
-    void favouriteToggleTellsTheController();
-    void receivedFavouritesAreEchoed();
+    void favouritesToTheController();
     void filtersNarrowTheUserList();
     void showingAndDeletingAProgram();
     void replacedProgramOnAShownListStaysSafe();
@@ -85,8 +84,11 @@ void TestProgramPages::listsByClass()
     QVERIFY(m_window->GetProgramButtons().first()->IsFavChecked());
 }
 
-void TestProgramPages::favouriteToggleTellsTheController()
+void TestProgramPages::favouritesToTheController()
 {
+    // Every heatfile's favourite flag goes back to the controller as it was received.
+    QCOMPARE(send(heatfile(QStringLiteral("Neu"), QStringLiteral("user"), QStringLiteral("Zirkon"), false)),
+             QStringList{QStringLiteral("tofavorite==Neu,false")});
     send("guistate==10");
     ProgramButton *argon = m_window->GetProgramButtons().at(1);
     QTest::mouseClick(argon->GetFavButtonObject(), Qt::LeftButton);
@@ -95,13 +97,6 @@ void TestProgramPages::favouriteToggleTellsTheController()
     QCOMPARE(listed(), (QStringList{QStringLiteral("Mein Speed"), QStringLiteral("Mein Argon")}));
     QTest::mouseClick(m_window->GetProgramButtons().at(0)->GetFavButtonObject(), Qt::LeftButton);
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("tofavorite==Mein Speed,false")});
-}
-
-void TestProgramPages::receivedFavouritesAreEchoed()
-{
-    // Every heatfile's favourite flag goes back to the controller as it was received.
-    QCOMPARE(send(heatfile(QStringLiteral("Neu"), QStringLiteral("user"), QStringLiteral("Zirkon"), false)),
-             QStringList{QStringLiteral("tofavorite==Neu,false")});
 }
 
 void TestProgramPages::filtersNarrowTheUserList()
