@@ -1,11 +1,10 @@
 // Language and temperature unit: chosen by the controller and by the user, the texts of every
-// page and popup switched at once, and end to end against the simulator, the unit's limits in
-// the editor. Translations come from the build, copied into the panel's home.
+// page and popup switched at once, the controller's unit in the editor. Translations come from
+// the build, copied into the panel's home.
 #include "app/mainwindow.h"
 #include "panelharness.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
-#include "simulatorprocess.h"
 #include "widgets/button.h"
 
 #include <QAbstractButton>
@@ -77,7 +76,6 @@ private slots:
     void controllerChoosesTheLanguage();
     void chineseTappedThenSentBackByTheController();
     void everyTextOfEveryPageAndPopupFollows();
-    void simulatorSwitchesToSpanishAndUserPicksFrench();
     void controllerUnitSetsTheEditorLimits();
 
 private:
@@ -160,40 +158,6 @@ void TestLanguage::everyTextOfEveryPageAndPopupFollows()
     QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral(" | "))));
     QCOMPARE(title(), QStringLiteral("PROGRAM OPTIONS"));
     QCOMPARE(m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg")->GetSaveTitle(), QStringLiteral("Save program"));
-}
-
-void TestLanguage::simulatorSwitchesToSpanishAndUserPicksFrench()
-{
-    Simulator sim({QStringLiteral("--verbose")});
-    const QString slave = sim.SlavePath();
-    PanelHarness view(300, [&slave](ovra::GlobalElements::PanelOptions &options) { options.port = slave; });
-    InstallTranslations(view.Home());
-    // The controller's own "main menu" after the self-test, before the user starts tapping.
-    QTRY_VERIFY_WITH_TIMEOUT(view.CurrentPage() == Page::MainMenu && sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 15000);
-    QVERIFY(sim.Printed(QStringLiteral("language: deutsch")));
-
-    sim.Command("lang spanisch");
-    QTRY_COMPARE_WITH_TIMEOUT(view.Text("label_Name"), QStringLiteral("MENÚ PRINCIPAL"), 5000);
-    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("language: spanisch")), 5000);
-    const QList<QPair<QWidget *, QString>> steps = {
-        {view.Widget("widget_MainMenuButtonProgs"), QStringLiteral("OPCIONES DE PROGRAMA")},
-        {view.Widget("widget_ProgsButtonLists"), QStringLiteral("PROGRAMAS")},
-        {view.Widget("widget_exitLists"), QStringLiteral("MENÚ PRINCIPAL")},
-        {view.Widget("widget_MainMenuButtonSettings"), QStringLiteral("AJUSTES")},
-        {view.Widget("widget_SettingsButtonLangSelect"), QStringLiteral("IDIOMA")},
-    };
-    for (const auto &step : steps) {
-        PanelHarness::Click(step.first);
-        QCOMPARE(view.Text("label_Name"), step.second);
-    }
-    QVERIFY(view.Checked("widget_Lang4")); // Español
-
-    view.Tap("widget_Lang5");
-    QCOMPARE(view.Text("label_Name"), QStringLiteral("LANGUE"));
-    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("language: franzoesisch")), 5000);
-    view.Tap("widget_fwdLang");
-    QCOMPARE(view.Text("label_Name"), QStringLiteral("UNITÉ DE TEMPÉRATURE"));
-    QCOMPARE(view.Text("widget_UnitC"), QStringLiteral("°C  Celsius"));
 }
 
 void TestLanguage::controllerUnitSetsTheEditorLimits()
