@@ -311,8 +311,6 @@ void TstPopups::timerOkBuildsRequest_data()
     QTest::addColumn<QStringList>("fields");
 
     // The clock is pinned at 22.11.2026 10:00.
-    QTest::newRow("single digits padded") << "3.3.2027" << "9:5" << true << "timer==20270303,0905"
-                                          << QStringList{"03", "03", "2027", "09", "05"};
     QTest::newRow("31 April") << "31.04.2027" << "12:00" << true << "timer==20270430,1200"
                               << QStringList{"30", "04", "2027", "12", "00"};
     QTest::newRow("cancel sends nothing") << "31.04.2027" << "12:00" << false << ""
