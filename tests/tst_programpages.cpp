@@ -20,8 +20,6 @@ using ovra::Mainwindow::Page;
 namespace Frame = ovra::Communication::Frame;
 
 namespace {
-void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 QByteArray heatfile(const QString &name, const QString &maker, const QString &material, bool fav)
 {
     return QStringLiteral("heatfile==[metainfo];name=%1;manufacturer=%2;material=%3;favorite=%4;"
@@ -36,32 +34,23 @@ class TestProgramPages : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
-    void cleanup();
 
     void listsByClass();
-    void favouriteToggleTellsTheController();
-    void receivedFavouritesAreEchoed();
+    void favouritesToTheController();
     void filtersNarrowTheUserList();
     void showingAndDeletingAProgram();
     void replacedProgramOnAShownListStaysSafe();
     void resendIsAskedForTenTimesAtMost();
 
 private:
-    QStringList send(const QByteArray &fields);
+    QStringList send(const QByteArray &fields) { return m_panel->Send(fields); }
     QStringList listed() const;
-    void click(QWidget *kit);
+    static void click(QWidget *kit) { PanelHarness::Click(kit); }
 
     QScopedPointer<PanelHarness> m_panel;
     MainWindow *m_window = nullptr;
 };
-
-void TestProgramPages::initTestCase()
-{
-    Q_INIT_RESOURCE(resources);
-    qInstallMessageHandler(quiet);
-}
 
 void TestProgramPages::init()
 {
@@ -74,28 +63,12 @@ void TestProgramPages::init()
     send(heatfile(QStringLiteral("Kalibrierung"), QStringLiteral("service"), QStringLiteral("Zirkon"), false));
 }
 
-void TestProgramPages::cleanup()
-{
-    m_panel.reset();
-    m_window = nullptr;
-}
-
-QStringList TestProgramPages::send(const QByteArray &fields)
-{
-    return m_panel->Send(fields);
-}
-
 QStringList TestProgramPages::listed() const
 {
     QStringList names;
     for (const ProgramButton *button : m_window->GetProgramButtons())
         names << button->GetText();
     return names;
-}
-
-void TestProgramPages::click(QWidget *kit)
-{
-    PanelHarness::Click(kit);
 }
 
 void TestProgramPages::listsByClass()
@@ -111,8 +84,11 @@ void TestProgramPages::listsByClass()
     QVERIFY(m_window->GetProgramButtons().first()->IsFavChecked());
 }
 
-void TestProgramPages::favouriteToggleTellsTheController()
+void TestProgramPages::favouritesToTheController()
 {
+    // Every heatfile's favourite flag goes back to the controller as it was received.
+    QCOMPARE(send(heatfile(QStringLiteral("Neu"), QStringLiteral("user"), QStringLiteral("Zirkon"), false)),
+             QStringList{QStringLiteral("tofavorite==Neu,false")});
     send("guistate==10");
     ProgramButton *argon = m_window->GetProgramButtons().at(1);
     QTest::mouseClick(argon->GetFavButtonObject(), Qt::LeftButton);
@@ -121,13 +97,6 @@ void TestProgramPages::favouriteToggleTellsTheController()
     QCOMPARE(listed(), (QStringList{QStringLiteral("Mein Speed"), QStringLiteral("Mein Argon")}));
     QTest::mouseClick(m_window->GetProgramButtons().at(0)->GetFavButtonObject(), Qt::LeftButton);
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("tofavorite==Mein Speed,false")});
-}
-
-void TestProgramPages::receivedFavouritesAreEchoed()
-{
-    // Every heatfile's favourite flag goes back to the controller as it was received.
-    QCOMPARE(send(heatfile(QStringLiteral("Neu"), QStringLiteral("user"), QStringLiteral("Zirkon"), false)),
-             QStringList{QStringLiteral("tofavorite==Neu,false")});
 }
 
 void TestProgramPages::filtersNarrowTheUserList()
@@ -170,7 +139,7 @@ void TestProgramPages::showingAndDeletingAProgram()
     click(m_window->GetProgramButtons().at(0)); // Zirkon HT, a maker's program
     QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Zirkon HT")); // not in upper case
-    QVERIFY(!m_panel->Shown("widget_playProgChange"));
+    QVERIFY(!m_panel->Shown("widget_playProgChange") && !m_panel->Shown("widget_playProgDelete"));
     QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(), 4); // summary: (0,0) and three points
 
     m_panel->Tap("widget_backPlayNewProg");

@@ -22,8 +22,6 @@
 using ovra::Mainwindow::Page;
 
 namespace {
-void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 QByteArray Heatfile(const char *name, const char *maker)
 {
     return QByteArray("heatfile==[metainfo];name=") + name + ";manufacturer=" + maker
@@ -44,7 +42,6 @@ class TestService : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
     void startupScriptsGoIntoTheGivenHomeOnly();
     void factoryResetDeletesOwnProgramsFirst();
@@ -63,12 +60,6 @@ private:
     QScopedPointer<PanelHarness> m_panel;
     ovra::Popups::PopupUSB *m_usb = nullptr;
 };
-
-void TestService::initTestCase()
-{
-    Q_INIT_RESOURCE(resources);
-    qInstallMessageHandler(quiet);
-}
 
 void TestService::init()
 {
