@@ -1,6 +1,7 @@
 // Firings run end to end against the controller simulator, sped up: a start with pre-dry
 // through heat and hold to success and a firing stopped by the user, both on record; a
-// program name with an umlaut stored on the controller and read back after a restart.
+// program name with an umlaut stored on the controller and read back after a restart; the
+// language switched by the controller and by the user.
 #include "panelview.h"
 #include "app/mainwindow.h"
 #include "popups/popupstop.h"
@@ -12,6 +13,7 @@
 #include "simulatorprocess.h"
 #include "widgets/programbutton.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLineSeries>
 #include <QPushButton>
@@ -42,6 +44,7 @@ private slots:
     void initTestCase();
     void firings();
     void umlautNameSurvivesARestart();
+    void languageFromTheControllerAndFromTheUser();
 
 private:
     QTemporaryDir m_dir;
@@ -147,6 +150,45 @@ void TestFiringWithSimulator::umlautNameSurvivesARestart()
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("panel lost")), 10000);
     panel = std::make_unique<MainWindow>(options);
     QTRY_VERIFY_WITH_TIMEOUT(panel->GetProgramHandler()->GetProgramByName(name) != nullptr, 20000);
+}
+
+void TestFiringWithSimulator::languageFromTheControllerAndFromTheUser()
+{
+    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose")});
+    QTemporaryDir home;
+    const QString translations = home.path() + QStringLiteral("/Downloads/translations/");
+    QDir().mkpath(translations);
+    const QDir built(QStringLiteral(OVRA_BINARY_DIR "/translations"));
+    for (const QString &qm : built.entryList({QStringLiteral("*.qm")}))
+        QVERIFY(QFile::copy(built.filePath(qm), translations + qm));
+    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
+    options.port = sim.SlavePath();
+    options.selftestDelayMs = 200;
+    MainWindow window(options);
+    window.show();
+    PanelView view(&window);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(window.CurrentPage(), Page::MainMenu, 5000);
+
+    sim.Command("lang spanisch");
+    QTRY_COMPARE_WITH_TIMEOUT(view.Text("label_Name"), QStringLiteral("MENÚ PRINCIPAL"), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("language: spanisch")), 5000);
+    const QList<QPair<const char *, QString>> steps = {
+        {"widget_MainMenuButtonProgs", QStringLiteral("OPCIONES DE PROGRAMA")},
+        {"widget_ProgsButtonLists", QStringLiteral("PROGRAMAS")},
+        {"widget_exitLists", QStringLiteral("MENÚ PRINCIPAL")},
+        {"widget_MainMenuButtonSettings", QStringLiteral("AJUSTES")},
+        {"widget_SettingsButtonLangSelect", QStringLiteral("IDIOMA")},
+    };
+    for (const auto &step : steps) {
+        view.Tap(step.first);
+        QCOMPARE(view.Text("label_Name"), step.second);
+    }
+    QVERIFY(view.Checked("widget_Lang4")); // Español
+
+    view.Tap("widget_Lang5");
+    QCOMPARE(view.Text("label_Name"), QStringLiteral("LANGUE"));
+    QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("language: franzoesisch")), 5000);
 }
 
 QTEST_MAIN(TestFiringWithSimulator)
