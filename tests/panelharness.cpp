@@ -11,8 +11,7 @@ namespace {
 void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
 } // namespace
 
-PanelHarness::PanelHarness(int selftestDelayMs,
-                           const std::function<void(ovra::GlobalElements::PanelOptions &)> &adjust)
+PanelHarness::PanelHarness(int selftestDelayMs, const std::function<void(ovra::GlobalElements::PanelOptions &)> &adjust)
 {
     // Once per test program: the images and forms, and the window's log kept off the output.
     static const bool prepared = [] {

@@ -5,7 +5,6 @@
 #include <QString>
 #include <QWidget>
 
-
 namespace ovra {
 namespace Mainwindow {
 class MainWindow;

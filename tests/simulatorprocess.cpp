@@ -4,10 +4,9 @@
 
 Simulator::Simulator(const QStringList &arguments)
 {
-    m_process.start(QStringLiteral(OVRA_HX3SIM_BINARY),
-                    QStringList{QStringLiteral("--interval"), QStringLiteral("200"), QStringLiteral("--step-ms"),
-                                QStringLiteral("60")}
-                        + arguments);
+    m_process.start(QStringLiteral(OVRA_HX3SIM_BINARY), QStringList{QStringLiteral("--interval"), QStringLiteral("200"),
+                                                                    QStringLiteral("--step-ms"), QStringLiteral("60")} +
+                                                            arguments);
 }
 
 Simulator::~Simulator()

@@ -2,9 +2,9 @@
 // (any bytes, many clients at once, a client that never speaks) and the controller (every
 // keyword with empty, huge, non-numeric and negative values). The panel must answer as it
 // always does and stay reachable.
+#include "app/paths.h"
 #include "communication/frame.h"
 #include "communication/internalcommunicator.h"
-#include "app/paths.h"
 #include "communication/messagehandler.h"
 #include "programs/program.h"
 
@@ -74,7 +74,8 @@ void TestBadInput::keySocketManyClientsAndASilentOne()
         clients.back()->write("an");
     }
     for (auto &client : clients) {
-        QTRY_VERIFY_WITH_TIMEOUT(client->bytesAvailable() >= 3 || client->state() == QAbstractSocket::UnconnectedState, 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(client->bytesAvailable() >= 3 || client->state() == QAbstractSocket::UnconnectedState,
+                                 5000);
         if (client->bytesAvailable() > 0)
             QCOMPARE(client->readAll(), QByteArray("nak"));
         client->disconnectFromHost();
@@ -91,12 +92,41 @@ void TestBadInput::keySocketManyClientsAndASilentOne()
 void TestBadInput::controllerKeywordValues_data()
 {
     QTest::addColumn<QString>("keyword");
-    const QStringList keywords{"argon", "country", "date", "doorclose", "error", "esttime", "guistate",
-                               "hfcount", "hpfailed", "hpinfo", "hpsuccess", "hwver", "initialstart",
-                               "lang", "matchanged", "maxrate", "ophours", "reseterror", "serialno",
-                               "stage", "stargon", "stcooling", "stdoor", "stheater", "swver", "temp",
-                               "time", "unit", "usb", "update", "heatfile", "st",
-                               "waitforuserinteraction", "insulationmissing", "nosuchword"};
+    const QStringList keywords{"argon",
+                               "country",
+                               "date",
+                               "doorclose",
+                               "error",
+                               "esttime",
+                               "guistate",
+                               "hfcount",
+                               "hpfailed",
+                               "hpinfo",
+                               "hpsuccess",
+                               "hwver",
+                               "initialstart",
+                               "lang",
+                               "matchanged",
+                               "maxrate",
+                               "ophours",
+                               "reseterror",
+                               "serialno",
+                               "stage",
+                               "stargon",
+                               "stcooling",
+                               "stdoor",
+                               "stheater",
+                               "swver",
+                               "temp",
+                               "time",
+                               "unit",
+                               "usb",
+                               "update",
+                               "heatfile",
+                               "st",
+                               "waitforuserinteraction",
+                               "insulationmissing",
+                               "nosuchword"};
     for (const QString &k : keywords)
         QTest::newRow(qPrintable(k)) << k;
 }
@@ -104,23 +134,37 @@ void TestBadInput::controllerKeywordValues_data()
 void TestBadInput::controllerKeywordValues()
 {
     QFETCH(QString, keyword);
-    const QList<QByteArray> values{QByteArray(), QByteArray(100000, '9'), "abc", "-1", "-99999999999",
-                                   "1e9", "12:", "==", "[1];temp=-5;rate=;hold=x;", QByteArray(5000, ';')};
+    const QList<QByteArray> values{QByteArray(),
+                                   QByteArray(100000, '9'),
+                                   "abc",
+                                   "-1",
+                                   "-99999999999",
+                                   "1e9",
+                                   "12:",
+                                   "==",
+                                   "[1];temp=-5;rate=;hold=x;",
+                                   QByteArray(5000, ';')};
     std::vector<std::unique_ptr<ovra::GlobalElements::Program>> store;
     for (const QByteArray &value : values) {
         // A handler each time: "update==" turns every later frame into an update block.
         MessageHandler handler(ovra::GlobalElements::Paths(QStringLiteral("/nonexistent/ovra-home")));
         connect(&handler, &MessageHandler::SignalHeatfileReceived, this,
                 [&store](ovra::GlobalElements::Program *p) { store.emplace_back(p); });
-        const QByteArray answer = handler.HandleMessage(
-            QString::fromLatin1(Frame::Build(keyword.toLatin1() + "==" + value)));
+        const QByteArray answer =
+            handler.HandleMessage(QString::fromLatin1(Frame::Build(keyword.toLatin1() + "==" + value)));
         // Clock values the panel cannot set and unknown words are refused; any other value is
         // taken (numbers that are not numbers read as 0) or ignored by the page it is for.
         const bool refused = keyword == "date" || keyword == "time" || keyword == "nosuchword";
-        QVERIFY2(answer.startsWith(refused ? "\x02" "nack" : "\x02" "ack"), value.left(20).constData());
+        QVERIFY2(answer.startsWith(refused ? "\x02"
+                                             "nack"
+                                           : "\x02"
+                                             "ack"),
+                 value.left(20).constData());
         // And the next good frame is taken as ever, outside an update.
         if (keyword != QLatin1String("update"))
-            QVERIFY(handler.HandleMessage(QString::fromLatin1(Frame::Build("temp==1273"))).startsWith("\x02" "ack"));
+            QVERIFY(handler.HandleMessage(QString::fromLatin1(Frame::Build("temp==1273")))
+                        .startsWith("\x02"
+                                    "ack"));
     }
 }
 

@@ -16,7 +16,11 @@ namespace {
 
 struct FakeClock : HoldClock
 {
-    void Restart() override { elapsedMs = 0; ++restarts; }
+    void Restart() override
+    {
+        elapsedMs = 0;
+        ++restarts;
+    }
     qint64 ElapsedMs() const override { return elapsedMs; }
     qint64 elapsedMs = 0;
     int restarts = 0;
@@ -27,7 +31,10 @@ const geo::Matrix threeRows{{100, 500, 10}, {200, 1000, 30}, {50, 600, 0}};
 const geo::Profile detailed = geo::BuildProfile(threeRows, false, false);
 const geo::Profile summary = geo::BuildProfile(threeRows, true, false);
 
-geo::Report rep(unsigned int stage, const char *text) { return {stage, QString::fromLatin1(text)}; }
+geo::Report rep(unsigned int stage, const char *text)
+{
+    return {stage, QString::fromLatin1(text)};
+}
 
 int fillPixels(const QImage &image)
 {

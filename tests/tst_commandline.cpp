@@ -34,9 +34,8 @@ void TestCommandLine::defaultsAndOptions()
     QCOMPARE(options.home, QStringLiteral("/home/pi"));
     QCOMPARE(options.keyPort, quint16(6666));
 
-    QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--port"),
-                                 QStringLiteral("/tmp/line"), QStringLiteral("--home=/tmp/h"),
-                                 QStringLiteral("--key-port"), QStringLiteral("7001")},
+    QCOMPARE(CommandLine::Parse({QStringLiteral("ovra-panel"), QStringLiteral("--port"), QStringLiteral("/tmp/line"),
+                                 QStringLiteral("--home=/tmp/h"), QStringLiteral("--key-port"), QStringLiteral("7001")},
                                 options, text),
              CommandLine::Outcome::Run);
     QCOMPARE(options.port, QStringLiteral("/tmp/line"));
@@ -53,7 +52,8 @@ void TestCommandLine::badInput_data()
     QTest::addColumn<QStringList>("args");
     QTest::addColumn<QString>("message");
     QTest::newRow("unknown option") << QStringList{QStringLiteral("--colour")} << "Unknown option";
-    QTest::newRow("port not a number") << QStringList{QStringLiteral("--key-port"), QStringLiteral("x")} << "--key-port";
+    QTest::newRow("port not a number") << QStringList{QStringLiteral("--key-port"), QStringLiteral("x")}
+                                       << "--key-port";
     QTest::newRow("port too large") << QStringList{QStringLiteral("--key-port=65536")} << "--key-port";
     QTest::newRow("negative port") << QStringList{QStringLiteral("--key-port=-1")} << "--key-port";
     QTest::newRow("missing value") << QStringList{QStringLiteral("--port")} << "Missing value";

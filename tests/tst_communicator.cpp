@@ -11,12 +11,12 @@
 #include <QtTest>
 
 #include <cerrno>
-#include <utility>
 #include <fcntl.h>
 #include <pty.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utility>
 
 using ovra::Communication::Communicator;
 using ovra::Communication::MessageHandler;
@@ -169,14 +169,17 @@ void TestCommunicator::sendChunk(const QByteArray &chunk)
     QVERIFY(port != nullptr);
     QSignalSpy portRead(port, &QSerialPort::readyRead);
     QVERIFY(m_pty->write(chunk));
-    QTRY_VERIFY_WITH_TIMEOUT(portRead.count() > 0 && m_pty->unread() == 0
-                                 && port->bytesAvailable() == 0,
-                             5000);
+    QTRY_VERIFY_WITH_TIMEOUT(portRead.count() > 0 && m_pty->unread() == 0 && port->bytesAvailable() == 0, 5000);
 }
 
 QByteArray TestCommunicator::waitForAnswer()
 {
-    (void)QTest::qWaitFor([this] { m_received += m_pty->readAvailable(); return m_received.contains(Frame::endByte); }, 5000);
+    (void)QTest::qWaitFor(
+        [this] {
+            m_received += m_pty->readAvailable();
+            return m_received.contains(Frame::endByte);
+        },
+        5000);
     const int end = m_received.indexOf(Frame::endByte);
     if (end < 0)
         return QByteArray();
@@ -197,19 +200,22 @@ void TestCommunicator::chunkAssembly_data()
 {
     QTest::addColumn<QList<QByteArray>>("chunks");
     QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<QString>("temperature");  // empty: nothing acted on
+    QTest::addColumn<QString>("temperature"); // empty: nothing acted on
 
     const QByteArray frame = Frame::Build("temp==1473");
     const QByteArray open = frame.left(frame.size() - 1);
     const QByteArray end(1, Frame::endByte);
     const QByteArray other = Frame::Build("temp==300");
-    QTest::newRow("split over chunks") << QList<QByteArray>{frame.left(5), frame.mid(5, 4), frame.mid(9)} << Frame::Build("ack") << "1200";
+    QTest::newRow("split over chunks") << QList<QByteArray>{frame.left(5), frame.mid(5, 4), frame.mid(9)}
+                                       << Frame::Build("ack") << "1200";
     // A whole frame in one read waits for an end byte that comes alone.
     QTest::newRow("whole frame in one chunk") << QList<QByteArray>{frame, end} << Frame::Build("ack") << "1200";
-    QTest::newRow("new start drops the collected") << QList<QByteArray>{frame, "\x02x", other.left(other.size() - 1), end}
-                                                   << Frame::Build("ack") << "27";
-    QTest::newRow("bytes around the frame") << QList<QByteArray>{"noise" + open, end + "trailing"} << Frame::Build("ack") << "1200";
-    QTest::newRow("ends at a zero byte") << QList<QByteArray>{open + QByteArray(1, '\0') + "$$garbage", end} << Frame::Build("ack") << "1200";
+    QTest::newRow("new start drops the collected")
+        << QList<QByteArray>{frame, "\x02x", other.left(other.size() - 1), end} << Frame::Build("ack") << "27";
+    QTest::newRow("bytes around the frame")
+        << QList<QByteArray>{"noise" + open, end + "trailing"} << Frame::Build("ack") << "1200";
+    QTest::newRow("ends at a zero byte") << QList<QByteArray>{open + QByteArray(1, '\0') + "$$garbage", end}
+                                         << Frame::Build("ack") << "1200";
     // The start of the frame was lost on the line: what is left fails its checksum.
     QTest::newRow("end byte without start") << QList<QByteArray>{frame.mid(3)} << Frame::Build("nack") << "";
 }
@@ -233,7 +239,8 @@ void TestCommunicator::noAnswerWithoutAnEndByte()
 {
     // Requests never leave on their own: only a dispatched frame is answered.
     m_handler->SetRequest(QStringLiteral("doorclose"));
-    sendChunk(QByteArray("\x02" "temp==1473$$"));
+    sendChunk(QByteArray("\x02"
+                         "temp==1473$$"));
     sendChunk(QByteArray("-12"));
     QVERIFY(m_pty->readAvailable().isEmpty());
     QCOMPARE(countLog(QStringLiteral("Pis Answer: ")), 0);
@@ -285,7 +292,8 @@ void TestCommunicator::vanishedDeviceIsClosedAndReopened()
 void TestCommunicator::oversizedPartialFrameIsDropped()
 {
     QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
-    sendChunk(QByteArray("\x02" "temp==1"));
+    sendChunk(QByteArray("\x02"
+                         "temp==1"));
     const QByteArray filler(64 * 1024, '7');
     for (int sent = 0; sent <= Communicator::maxBufferBytes; sent += filler.size())
         sendChunk(filler);

@@ -17,13 +17,15 @@ public:
     QString waitFor(const QRegularExpression &pattern, int timeoutMs = 15000)
     {
         QString found;
-        (void)QTest::qWaitFor([&] {
-            while (m_process->canReadLine())
-                m_lines << QString::fromUtf8(m_process->readLine()).trimmed();
-            for (; found.isEmpty() && m_next < m_lines.size(); ++m_next)
-                found = pattern.match(m_lines.at(m_next)).hasMatch() ? m_lines.at(m_next) : QString();
-            return !found.isEmpty() || m_process->state() == QProcess::NotRunning;
-        }, timeoutMs);
+        (void)QTest::qWaitFor(
+            [&] {
+                while (m_process->canReadLine())
+                    m_lines << QString::fromUtf8(m_process->readLine()).trimmed();
+                for (; found.isEmpty() && m_next < m_lines.size(); ++m_next)
+                    found = pattern.match(m_lines.at(m_next)).hasMatch() ? m_lines.at(m_next) : QString();
+                return !found.isEmpty() || m_process->state() == QProcess::NotRunning;
+            },
+            timeoutMs);
         return found;
     }
 
@@ -69,13 +71,11 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
     QProcess panel;
     panel.setWorkingDirectory(root.path() + QStringLiteral("/run"));
     panel.start(QStringLiteral(OVRA_PANEL_BINARY),
-                {QStringLiteral("--port"), slave, QStringLiteral("--home"),
-                 root.path() + QStringLiteral("/home"), QStringLiteral("--key-port"),
-                 QStringLiteral("0")});
+                {QStringLiteral("--port"), slave, QStringLiteral("--home"), root.path() + QStringLiteral("/home"),
+                 QStringLiteral("--key-port"), QStringLiteral("0")});
     QVERIFY(panel.waitForStarted());
 
-    QVERIFY2(!simOut.waitFor(re(QStringLiteral("^panel connected"))).isEmpty(),
-             qPrintable(simOut.all()));
+    QVERIFY2(!simOut.waitFor(re(QStringLiteral("^panel connected"))).isEmpty(), qPrintable(simOut.all()));
     // Device data, language, unit, every sample program and its count, then status frames.
     QVERIFY(!simOut.waitFor(re(QStringLiteral("^tx: .*hfcount==\\d+"))).isEmpty());
     for (int i = 0; i < 5; ++i)
@@ -87,8 +87,9 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
     panel.kill();
     panel.waitForFinished(5000);
 
-    const QRegularExpressionMatch m = re(QStringLiteral(
-        "frames=(\\d+) answers=(\\d+) nacks=(\\d+) bad_checksum=(\\d+) timeouts=(\\d+)")).match(summary);
+    const QRegularExpressionMatch m =
+        re(QStringLiteral("frames=(\\d+) answers=(\\d+) nacks=(\\d+) bad_checksum=(\\d+) timeouts=(\\d+)"))
+            .match(summary);
     QVERIFY2(m.hasMatch(), qPrintable(summary));
     const int frames = m.captured(1).toInt();
     const int answers = m.captured(2).toInt();

@@ -2,9 +2,9 @@
 // result and stop, pre-dry steps, the delayed start, the door and its hot-door warning,
 // material change, door insulation and the argon check.
 #include "app/mainwindow.h"
-#include "panelharness.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
+#include "panelharness.h"
 #include "popups/popupargonfailure.h"
 #include "popups/popuptempwarning.h"
 #include "popups/timerpopup.h"
@@ -17,8 +17,8 @@
 #include "widgets/programbutton.h"
 
 #include <QLineSeries>
-#include <QPushButton>
 #include <QListView>
+#include <QPushButton>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
@@ -102,7 +102,8 @@ void TestFiring::setDelayedStart()
     m_window->GetTimerPopup()->SetClock([] { return QDateTime(QDate(2026, 11, 22), QTime(9, 0)); });
     m_panel->Tap("widget_timerPlayProg");
     QTRY_VERIFY(m_window->GetTimerPopup()->isVisible());
-    QTest::mouseClick(m_window->GetTimerPopup()->findChild<QPushButton *>(QStringLiteral("pushButton_ok")), Qt::LeftButton);
+    QTest::mouseClick(m_window->GetTimerPopup()->findChild<QPushButton *>(QStringLiteral("pushButton_ok")),
+                      Qt::LeftButton);
     QVERIFY(m_panel->Widget("plainTextEdit_autostart") != nullptr);
 }
 
@@ -115,7 +116,8 @@ void TestFiring::startTheOneSecondLockAndCallingItOff()
     m_panel->Tap("widget_playNewProg"); // the second tap within the second does nothing
     QCOMPARE(send("temp==293"), QStringList{QStringLiteral("hpstart==Speed,0")});
     QVERIFY(!m_panel->Shown("widget_timerPlayProg"));
-    QTRY_VERIFY_WITH_TIMEOUT(m_panel->Enabled("widget_playNewProg") && m_panel->Enabled("widget_doorPlayNewProg"), 3000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_panel->Enabled("widget_playNewProg") && m_panel->Enabled("widget_doorPlayNewProg"),
+                             3000);
     m_panel->Tap("widget_playNewProg"); // pressed again: a cancel
     QCOMPARE(send("temp==293"), (QStringList{QStringLiteral("hpstop"), QStringLiteral("timer==")}));
     QVERIFY(m_panel->Shown("widget_timerPlayProg"));
@@ -240,7 +242,8 @@ void TestFiring::resultAndStop()
     QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen\nFehler E201"));
 
     // A stop keeps a failure symbol that was shown before it.
-    m_panel->Widget("label_processResult")->setStyleSheet(QStringLiteral("background-image: url(:/Failure/schwer.png);"));
+    m_panel->Widget("label_processResult")
+        ->setStyleSheet(QStringLiteral("background-image: url(:/Failure/schwer.png);"));
     m_window->SlotReqStopHeatfile(false);
     QCOMPARE(send("temp==293"), QStringList());
     m_window->SlotReqStopHeatfile(true);
@@ -254,7 +257,8 @@ void TestFiring::resultAndStop()
 void TestFiring::chartOpensTheEditorOnlyWhileFiring()
 {
     send("hpinfo==Speed;95;1;heat");
-    QTest::mouseClick(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetView()->viewport(), Qt::LeftButton);
+    QTest::mouseClick(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetView()->viewport(),
+                      Qt::LeftButton);
     QVERIFY(m_window->IsEditMode());
     QCOMPARE(m_panel->ShownPageIndex(), int(Page::NewProg));
     // Progress reports leave the editor alone while the change is under way.
@@ -264,7 +268,8 @@ void TestFiring::chartOpensTheEditorOnlyWhileFiring()
     m_window->SlotExitButtonClicked();
     send("hpinfo==Speed;95;1;heat");
     send("hpsuccess");
-    QTest::mouseClick(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetView()->viewport(), Qt::LeftButton);
+    QTest::mouseClick(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetView()->viewport(),
+                      Qt::LeftButton);
     QVERIFY(!m_window->IsEditMode());
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
 }
@@ -325,8 +330,8 @@ void TestFiring::materialChangeAndInsulation()
     QVERIFY(m_panel->Style("page_MatChange").contains(QStringLiteral("url(:/Material/Argon.jpg);")));
     m_panel->Tap("widget_rejectMaterialChanged");
     QCOMPARE(int(m_panel->CurrentScreen()), 0);
-    QCOMPARE(send("temp==293"), (QStringList{QStringLiteral("matnotchanged"), QStringLiteral("hpstop"),
-                                             QStringLiteral("timer==")}));
+    QCOMPARE(send("temp==293"),
+             (QStringList{QStringLiteral("matnotchanged"), QStringLiteral("hpstop"), QStringLiteral("timer==")}));
     send("matchanged==Zirkon");
     QVERIFY(m_panel->Style("page_MatChange").contains(QStringLiteral("url(:/Material/Zirkon.jpg);")));
     QTRY_VERIFY_WITH_TIMEOUT(m_panel->Enabled("widget_acceptMaterialChanged"), 3000);

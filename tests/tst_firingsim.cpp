@@ -2,8 +2,8 @@
 // through heat and hold to success and a firing stopped by the user, both on record; a
 // program name with an umlaut stored on the controller and read back after a restart; the
 // language switched by the controller and by the user.
-#include "panelview.h"
 #include "app/mainwindow.h"
+#include "panelview.h"
 #include "popups/popupstop.h"
 #include "process/chart.h"
 #include "programs/program.h"
@@ -64,9 +64,10 @@ void TestFiringWithSimulator::initTestCase()
 void TestFiringWithSimulator::firings()
 {
     // 300 furnace seconds pass in one real second; a report every 100 ms is 30 s of furnace time.
-    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--speed"), QStringLiteral("300"),
-                   QStringLiteral("--door-ms"), QStringLiteral("200"), QStringLiteral("--verbose"),
-                   QStringLiteral("--programs"), m_dir.path() + QStringLiteral("/programs.txt")});
+    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--speed"),
+                   QStringLiteral("300"), QStringLiteral("--door-ms"), QStringLiteral("200"),
+                   QStringLiteral("--verbose"), QStringLiteral("--programs"),
+                   m_dir.path() + QStringLiteral("/programs.txt")});
     const QString slave = sim.SlavePath();
     QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
@@ -108,8 +109,8 @@ void TestFiringWithSimulator::firings()
     QCOMPARE(window.CurrentPage(), Page::PlayProg);
     QTRY_VERIFY_WITH_TIMEOUT(view.Enabled("widget_playNewProg"), 3000);
     view.Tap("widget_playNewProg");
-    QTRY_VERIFY_WITH_TIMEOUT(view.Shown("widget_stopProcessProg")
-                                 && window.CurrentPage() == Page::ProcessProg && frontX(chart) > 0.0,
+    QTRY_VERIFY_WITH_TIMEOUT(view.Shown("widget_stopProcessProg") && window.CurrentPage() == Page::ProcessProg &&
+                                 frontX(chart) > 0.0,
                              10000);
     view.Tap("widget_stopProcessProg");
     auto *stop = window.findChild<ovra::Popups::PopupStop *>();
@@ -130,8 +131,8 @@ void TestFiringWithSimulator::firings()
 
 void TestFiringWithSimulator::umlautNameSurvivesARestart()
 {
-    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose"), QStringLiteral("--programs"),
-                   m_dir.path() + QStringLiteral("/programs.txt")});
+    Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose"),
+                   QStringLiteral("--programs"), m_dir.path() + QStringLiteral("/programs.txt")});
     const QString slave = sim.SlavePath();
     QVERIFY(!slave.isEmpty());
     QTemporaryDir home;

@@ -17,11 +17,7 @@ using Phase = FurnaceModel::Phase;
 // A furnace on a clock of its own: minutes() moves furnace time on, whatever the speed.
 struct Bench
 {
-    explicit Bench(double factor = 1.0)
-        : speed(factor)
-        , model([this] { return nowMs; }, factor)
-    {
-    }
+    explicit Bench(double factor = 1.0) : speed(factor), model([this] { return nowMs; }, factor) {}
 
     void minutes(double furnaceMinutes)
     {
@@ -37,13 +33,15 @@ struct Bench
             if (event.kind == FurnaceModel::Event::Kind::Finished)
                 texts.append(QStringLiteral("done"));
             else
-                texts.append(QStringLiteral("%1 %2").arg(event.position.stage).arg(event.position.phase == Phase::Hold ? "hold" : "heat"));
+                texts.append(QStringLiteral("%1 %2")
+                                 .arg(event.position.stage)
+                                 .arg(event.position.phase == Phase::Hold ? "hold" : "heat"));
         }
         return texts;
     }
 
     double speed;
-    qint64 nowMs = 1000000;  // any start: only differences count
+    qint64 nowMs = 1000000; // any start: only differences count
     FurnaceModel model;
 };
 
@@ -52,7 +50,7 @@ bool near(double a, double b, double tolerance = 1e-6)
     return std::fabs(a - b) <= tolerance;
 }
 
-}  // namespace
+} // namespace
 
 class TestFurnaceModel : public QObject
 {
@@ -70,7 +68,7 @@ void TestFurnaceModel::firingTakesItsTime_data()
     QTest::addColumn<Segments>("segments");
     QTest::addColumn<int>("preDry");
     QTest::addColumn<double>("speed");
-    QTest::addColumn<double>("total");  // furnace minutes
+    QTest::addColumn<double>("total"); // furnace minutes
     QTest::addColumn<QStringList>("events");
 
     // At 60 times a real second is a furnace minute.
@@ -78,17 +76,21 @@ void TestFurnaceModel::firingTakesItsTime_data()
                                          << QStringList{QStringLiteral("1 heat"), QStringLiteral("done")};
     // A ramp to where the chamber stands and a hold of 0 take no time and are never reported.
     QTest::newRow("phases of no time") << 22.0 << Segments{{10, 22, 0}, {10, 122, 0}, {10, 122, 5}} << 0 << 1.0 << 15.0
-                                       << QStringList{QStringLiteral("2 heat"), QStringLiteral("3 hold"), QStringLiteral("done")};
+                                       << QStringList{QStringLiteral("2 heat"), QStringLiteral("3 hold"),
+                                                      QStringLiteral("done")};
     // Pre-dry first: up to 130 °C at 10/min (10.8 min), held 15 min, then the program.
     QTest::newRow("pre-dry from cold") << 22.0 << Segments{{20, 1000, 0}} << 15 << 1.0 << 10.8 + 15.0 + 43.5
-                                       << QStringList{QStringLiteral("0 heat"), QStringLiteral("0 hold"), QStringLiteral("1 heat"), QStringLiteral("done")};
+                                       << QStringList{QStringLiteral("0 heat"), QStringLiteral("0 hold"),
+                                                      QStringLiteral("1 heat"), QStringLiteral("done")};
     // Pre-dry never cools: a hot chamber is only held.
     QTest::newRow("pre-dry when hot") << 300.0 << Segments{{20, 1000, 0}} << 15 << 1.0 << 15.0 + 35.0
-                                      << QStringList{QStringLiteral("0 hold"), QStringLiteral("1 heat"), QStringLiteral("done")};
-    QTest::newRow("up, held, down, held") << 22.0 << Segments{{25, 900, 0}, {10, 1450, 120}, {25, 950, 10}} << 0 << 1.0
-                                          << 35.12 + 55.0 + 120.0 + 20.0 + 10.0
-                                          << QStringList{QStringLiteral("1 heat"), QStringLiteral("2 heat"), QStringLiteral("2 hold"),
-                                                         QStringLiteral("3 heat"), QStringLiteral("3 hold"), QStringLiteral("done")};
+                                      << QStringList{QStringLiteral("0 hold"), QStringLiteral("1 heat"),
+                                                     QStringLiteral("done")};
+    QTest::newRow("up, held, down, held")
+        << 22.0 << Segments{{25, 900, 0}, {10, 1450, 120}, {25, 950, 10}} << 0 << 1.0
+        << 35.12 + 55.0 + 120.0 + 20.0 + 10.0
+        << QStringList{QStringLiteral("1 heat"), QStringLiteral("2 heat"), QStringLiteral("2 hold"),
+                       QStringLiteral("3 heat"), QStringLiteral("3 hold"), QStringLiteral("done")};
 }
 
 void TestFurnaceModel::firingTakesItsTime()
@@ -103,7 +105,8 @@ void TestFurnaceModel::firingTakesItsTime()
     Bench bench(speed);
     bench.model.setChamberCelsius(from);
     bench.model.start(segments, preDry);
-    QVERIFY2(near(bench.model.remainingSeconds(), total * 60.0), qPrintable(QString::number(bench.model.remainingSeconds() / 60.0)));
+    QVERIFY2(near(bench.model.remainingSeconds(), total * 60.0),
+             qPrintable(QString::number(bench.model.remainingSeconds() / 60.0)));
 
     // The remaining minutes count down, rounded up, and never reach 0 while it fires.
     double elapsed = 0.0;
@@ -121,7 +124,8 @@ void TestFurnaceModel::firingTakesItsTime()
     QCOMPARE(bench.model.remainingMinutes(), 0);
     QCOMPARE(bench.events(), events);
     // It ends at the last target.
-    QVERIFY2(near(bench.model.chamberCelsius(), segments.last().tempCelsius, 0.5), qPrintable(QString::number(bench.model.chamberCelsius())));
+    QVERIFY2(near(bench.model.chamberCelsius(), segments.last().tempCelsius, 0.5),
+             qPrintable(QString::number(bench.model.chamberCelsius())));
 }
 
 void TestFurnaceModel::coolingTowardsRoom()

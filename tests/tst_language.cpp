@@ -157,7 +157,8 @@ void TestLanguage::everyTextOfEveryPageAndPopupFollows()
     }
     QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral(" | "))));
     QCOMPARE(title(), QStringLiteral("PROGRAM OPTIONS"));
-    QCOMPARE(m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg")->GetSaveTitle(), QStringLiteral("Save program"));
+    QCOMPARE(m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg")->GetSaveTitle(),
+             QStringLiteral("Save program"));
 }
 
 void TestLanguage::controllerUnitSetsTheEditorLimits()

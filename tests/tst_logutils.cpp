@@ -74,9 +74,8 @@ void TestLogUtils::fiveOldFilesAreKeptBesideTheNewOne()
 void TestLogUtils::ninePlusFilesKeepTheFiveNewest()
 {
     // Anything in the folder counts, hidden files and non-logs included; links do not.
-    const QStringList newest = {QStringLiteral("n1.txt"), QStringLiteral(".hidden"),
-                                QStringLiteral("notes.md"), QStringLiteral("n4.txt"),
-                                QStringLiteral("n5.txt")};
+    const QStringList newest = {QStringLiteral("n1.txt"), QStringLiteral(".hidden"), QStringLiteral("notes.md"),
+                                QStringLiteral("n4.txt"), QStringLiteral("n5.txt")};
     for (int i = 0; i < newest.size(); ++i)
         makeFile(newest.at(i), 10 + i);
     for (int i = 0; i < 4; ++i)
@@ -94,12 +93,15 @@ void TestLogUtils::ninePlusFilesKeepTheFiveNewest()
 void TestLogUtils::messageIsWrittenVerbatim()
 {
     logs::initLogging();
-    qDebug() << "received data: " << QByteArray("\x02" "ack\x03");
+    qDebug() << "received data: "
+             << QByteArray("\x02"
+                           "ack\x03");
     qWarning("second line");
     QFile file(logs::logFileName);
     QVERIFY(file.open(QIODevice::ReadOnly));
     // qDebug's own quoting: a hex escape followed by a hex digit closes and reopens the quotes.
-    QCOMPARE(file.readAll(), QByteArray(R"(received data:  "\x02""ack\x03")" "\nsecond line\n"));
+    QCOMPARE(file.readAll(), QByteArray(R"(received data:  "\x02""ack\x03")"
+                                        "\nsecond line\n"));
 }
 
 void TestLogUtils::rotatesOnlyPastTheLimit()

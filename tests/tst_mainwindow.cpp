@@ -1,15 +1,15 @@
 // The main window as the controller and the user drive it: start-up, the page state
 // machine's guards, navigation buttons, the display key and the self-test page.
 #include "app/mainwindow.h"
-#include "panelharness.h"
 #include "communication/frame.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
 #include "faults/errorhandler.h"
+#include "panelharness.h"
 
+#include <QProgressBar>
 #include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QProgressBar>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -129,7 +129,7 @@ void TestMainWindow::badGuiStateText()
     send("guistate==5");
     QCOMPARE(send("guistate==five"), QStringList{QStringLiteral("guistate==0")});
     QCOMPARE(m_panel->ShownPageIndex(), int(Page::StartUp));
-    QCOMPARE(send("guistate==-3"), QStringList());     // also reads as 0
+    QCOMPARE(send("guistate==-3"), QStringList());         // also reads as 0
     QCOMPARE(send("guistate==4294967296"), QStringList()); // out of range reads as 0
 }
 
@@ -155,9 +155,9 @@ void TestMainWindow::menuButtonsAndNavigation()
     QCOMPARE(m_window->CurrentPage(), Page::MainMenu);
 
     const QStringList requests = send("temp==300");
-    QCOMPARE(requests, (QStringList{QStringLiteral("guistate==6"), QStringLiteral("guistate==12"),
-                                    QStringLiteral("guistate==13"), QStringLiteral("unit==f"),
-                                    QStringLiteral("guistate==12"), QStringLiteral("guistate==3")}));
+    QCOMPARE(requests,
+             (QStringList{QStringLiteral("guistate==6"), QStringLiteral("guistate==12"), QStringLiteral("guistate==13"),
+                          QStringLiteral("unit==f"), QStringLiteral("guistate==12"), QStringLiteral("guistate==3")}));
 
     // Forward from the material filter leads to the program options.
     send("guistate==23");
@@ -247,7 +247,9 @@ void TestMainWindow::failuresShowTheWorstSymbol()
     send("date==20261122$$time==0905$$error==E123,E12");
     QVERIFY(m_panel->Shown("pushButton_infoMainMenu"));
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/schwer.png);"));
-    QVERIFY(m_panel->Find<QTextEdit>("textEdit_FailureList")->toPlainText().startsWith(QStringLiteral("22.11.2026, 09:05: E12\n")));
+    QVERIFY(m_panel->Find<QTextEdit>("textEdit_FailureList")
+                ->toPlainText()
+                .startsWith(QStringLiteral("22.11.2026, 09:05: E12\n")));
     send("reseterror==E12");
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/mittel.png);"));
 

@@ -62,27 +62,41 @@ void TestMessageHandler::checksumRules_data()
     QTest::newRow("correct") << controllerFrame("temp==1473") << true;
     QTest::newRow("off by one") << QStringLiteral("\x02temp==1473$$-1\x03") << false;
     // "\x80\x80" sums to 256: a checksum of 0 is right for it.
-    QTest::newRow("sum multiple of 256")
-        << QString::fromLatin1("\x02\x80\x80$$0\x03") << true;
-    QTest::newRow("positive checksum never valid") << QStringLiteral("\x02" "A$$65\x03") << false;
-    QTest::newRow("no separator, zero") << QStringLiteral("\x02" "0\x03") << true;
+    QTest::newRow("sum multiple of 256") << QString::fromLatin1("\x02\x80\x80$$0\x03") << true;
+    QTest::newRow("positive checksum never valid") << QStringLiteral("\x02"
+                                                                     "A$$65\x03")
+                                                   << false;
+    QTest::newRow("no separator, zero") << QStringLiteral("\x02"
+                                                          "0\x03")
+                                        << true;
     QTest::newRow("no separator, non-number reads 0") << QStringLiteral("\x02junk\x03") << true;
-    QTest::newRow("no separator, non-zero") << QStringLiteral("\x02" "-5\x03") << false;
-    QTest::newRow("checksum not a number") << QStringLiteral("\x02" "A$$x\x03") << false;
+    QTest::newRow("no separator, non-zero") << QStringLiteral("\x02"
+                                                              "-5\x03")
+                                            << false;
+    QTest::newRow("checksum not a number") << QStringLiteral("\x02"
+                                                             "A$$x\x03")
+                                           << false;
     QTest::newRow("separators not counted") << QStringLiteral("a$$b$$-195") << true;
     QTest::newRow("lone dollar counts") << controllerFrame("a$b") << true;
     // A name sent as UTF-8 is read as UTF-8 and summed over the bytes it came in; bytes that
     // are not UTF-8 are read one by one as before.
-    QTest::newRow("UTF-8 name") << Frame::ReceivedText(Frame::Build("name==Br\xC3\xBC" "cke")) << true;
-    QTest::newRow("Latin-1 name") << Frame::ReceivedText(Frame::Build("name==Br\xFC" "cke")) << true;
-    QTest::newRow("wide char counts as 0")
-        << (QStringLiteral("A") + QChar(0x20AC) + QStringLiteral("$$-65")) << true;
+    QTest::newRow("UTF-8 name") << Frame::ReceivedText(Frame::Build("name==Br\xC3\xBC"
+                                                                    "cke"))
+                                << true;
+    QTest::newRow("Latin-1 name") << Frame::ReceivedText(Frame::Build("name==Br\xFC"
+                                                                      "cke"))
+                                  << true;
+    QTest::newRow("wide char counts as 0") << (QStringLiteral("A") + QChar(0x20AC) + QStringLiteral("$$-65")) << true;
 }
 
 void TestMessageHandler::receivedText()
 {
-    QCOMPARE(Frame::ReceivedText("name==Br\xC3\xBC" "cke"), QStringLiteral("name==Br\u00FCcke"));
-    QCOMPARE(Frame::ReceivedText("name==Br\xFC" "cke"), QStringLiteral("name==Br\u00FCcke"));
+    QCOMPARE(Frame::ReceivedText("name==Br\xC3\xBC"
+                                 "cke"),
+             QStringLiteral("name==Br\u00FCcke"));
+    QCOMPARE(Frame::ReceivedText("name==Br\xFC"
+                                 "cke"),
+             QStringLiteral("name==Br\u00FCcke"));
     QCOMPARE(Frame::ReceivedText("a\xC3"), QStringLiteral("a\u00C3")); // cut short: not UTF-8
     QCOMPARE(Frame::ReceivedText(QByteArray("temp==1473\0junk", 15)), QStringLiteral("temp==1473"));
 }
@@ -97,7 +111,9 @@ void TestMessageHandler::checksumRules()
 
 void TestMessageHandler::answerCarriesQueuedRequestsOnce()
 {
-    QCOMPARE(Frame::Build("ack"), QByteArray("\x02" "ack$$-47" "\x03"));
+    QCOMPARE(Frame::Build("ack"), QByteArray("\x02"
+                                             "ack$$-47"
+                                             "\x03"));
     MessageHandler handler(nowhere);
     handler.SetRequest(QStringLiteral("a"));
     handler.SetRequest(QStringLiteral("b"));
@@ -110,8 +126,7 @@ void TestMessageHandler::answerCarriesQueuedRequestsOnce()
 
     // Requests leave even with a rejected frame: there is no retry.
     handler.SetRequest(QStringLiteral("doorclose"));
-    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1$$-1\x03"))),
-             QByteArray("nack$$doorclose"));
+    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1$$-1\x03"))), QByteArray("nack$$doorclose"));
     QCOMPARE(handler.GetActualRequests(), QString());
 }
 
@@ -122,8 +137,7 @@ void TestMessageHandler::badFramesAreNackedButOtherFieldsStillRun()
     QSignalSpy time(&handler, &MessageHandler::SignalTime);
 
     // Wrong checksum: nothing is acted on.
-    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1473$$-2\x03"))),
-             QByteArray("nack"));
+    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1473$$-2\x03"))), QByteArray("nack"));
     QCOMPARE(temperature.count(), 0);
 
     // Unknown second field: the first still acts, the whole frame is "nack".
@@ -133,7 +147,9 @@ void TestMessageHandler::badFramesAreNackedButOtherFieldsStillRun()
     QCOMPARE(time.count(), 1);
 
     // Empty body with a zero checksum is a valid, empty frame.
-    QCOMPARE(handler.HandleMessage(QStringLiteral("\x02" "0\x03")), Frame::Build("ack"));
+    QCOMPARE(handler.HandleMessage(QStringLiteral("\x02"
+                                                  "0\x03")),
+             Frame::Build("ack"));
     // An empty field between separators is rejected.
     QCOMPARE(answerBody(handler.HandleMessage(controllerFrame("temp==1473$$"))), QByteArray("nack"));
 }
@@ -187,9 +203,8 @@ void TestMessageHandler::textCommands_data()
     QTest::newRow("time too short") << "time==905" << time << "";
     QTest::newRow("dooropen reports the movement") << "dooropen" << door << "opening";
     QTest::newRow("doorclosed") << "doorclosed" << door << "closed";
-    QTest::newRow("swver adds panel version")
-        << "swver==1.2" << sig(&MessageHandler::SignalSWVersion)
-        << QStringLiteral("1.2 / ") + Pageinterface::versionInfo;
+    QTest::newRow("swver adds panel version") << "swver==1.2" << sig(&MessageHandler::SignalSWVersion)
+                                              << QStringLiteral("1.2 / ") + Pageinterface::versionInfo;
     QTest::newRow("hpsuccess") << "hpsuccess" << sig(&MessageHandler::SignalHeatfileProcess) << "hpsuccess";
     QTest::newRow("hpfailed") << "hpfailed" << sig(&MessageHandler::SignalHeatfileProcess) << "hpfailed";
     // Numbers that are not numbers read as 0 and are taken.
@@ -249,10 +264,14 @@ struct Received
 
 void collect(MessageHandler &handler, Received &into)
 {
-    QObject::connect(&handler, &MessageHandler::SignalHeatfileReceived, &handler,
-                     [&into](Program *p) { into.programs << p; into.order << QStringLiteral("received"); });
-    QObject::connect(&handler, &MessageHandler::SignalSetProgToFav, &handler,
-                     [&into](bool fav, Program *) { into.favs << fav; into.order << QStringLiteral("fav"); });
+    QObject::connect(&handler, &MessageHandler::SignalHeatfileReceived, &handler, [&into](Program *p) {
+        into.programs << p;
+        into.order << QStringLiteral("received");
+    });
+    QObject::connect(&handler, &MessageHandler::SignalSetProgToFav, &handler, [&into](bool fav, Program *) {
+        into.favs << fav;
+        into.order << QStringLiteral("fav");
+    });
 }
 } // namespace
 
@@ -283,31 +302,37 @@ void TestMessageHandler::heatfileEdgeCases_data()
     QTest::addColumn<bool>("fav");
     QTest::addColumn<Program::Matrix>("matrix");
 
-    QTest::newRow("nothing recognised") << "garbage;;;" << "default" << "user" << false
-                                        << Program::Matrix{{0u, 0u, 0u}};
-    QTest::newRow("favorite True is not true")
-        << "[metainfo];name=A;favorite=True;[1];rate=1;temp=1273;hold=60;" << "A" << "user" << false
-        << Program::Matrix{{1u, 1000u, 1u}};
-    QTest::newRow("temp 322 K raised to 50")
-        << "[1];rate=1;temp=322;" << "default" << "user" << false << Program::Matrix{{1u, 50u, 0u}};
-    QTest::newRow("temp 324 K is 51")
-        << "[1];rate=1;temp=324;" << "default" << "user" << false << Program::Matrix{{1u, 51u, 0u}};
-    QTest::newRow("temp below 273 K wraps")
-        << "[1];rate=1;temp=272;" << "default" << "user" << false
-        << Program::Matrix{{1u, 4294967295u, 0u}};
-    QTest::newRow("trailing zero-rate segment dropped")
-        << "[1];rate=5;temp=1273;[2];rate=0;temp=1373;hold=600;" << "default" << "user" << false
-        << Program::Matrix{{5u, 1000u, 0u}};
+    QTest::newRow("nothing recognised") << "garbage;;;"
+                                        << "default"
+                                        << "user" << false << Program::Matrix{{0u, 0u, 0u}};
+    QTest::newRow("favorite True is not true") << "[metainfo];name=A;favorite=True;[1];rate=1;temp=1273;hold=60;"
+                                               << "A"
+                                               << "user" << false << Program::Matrix{{1u, 1000u, 1u}};
+    QTest::newRow("temp 322 K raised to 50") << "[1];rate=1;temp=322;"
+                                             << "default"
+                                             << "user" << false << Program::Matrix{{1u, 50u, 0u}};
+    QTest::newRow("temp 324 K is 51") << "[1];rate=1;temp=324;"
+                                      << "default"
+                                      << "user" << false << Program::Matrix{{1u, 51u, 0u}};
+    QTest::newRow("temp below 273 K wraps") << "[1];rate=1;temp=272;"
+                                            << "default"
+                                            << "user" << false << Program::Matrix{{1u, 4294967295u, 0u}};
+    QTest::newRow("trailing zero-rate segment dropped") << "[1];rate=5;temp=1273;[2];rate=0;temp=1373;hold=600;"
+                                                        << "default"
+                                                        << "user" << false << Program::Matrix{{5u, 1000u, 0u}};
     QTest::newRow("first zero-rate segment kept")
-        << "[1];rate=0;temp=1273;[2];rate=3;temp=1373;hold=600;" << "default" << "user" << false
-        << Program::Matrix{{0u, 1000u, 0u}, {3u, 1100u, 10u}};
-    QTest::newRow("name value with dot")
-        << "[metainfo];name=Zirkon.fast;manufacturer=service;" << "Zirkon" << "service" << false
-        << Program::Matrix{{0u, 0u, 0u}};
-    QTest::newRow("segment key before any section ignored")
-        << "rate=9;[1];rate=2;" << "default" << "user" << false << Program::Matrix{{2u, 0u, 0u}};
-    QTest::newRow("hostile section number ignored")
-        << "[2000000000];rate=5;temp=1300;[1];rate=4;" << "default" << "user" << false << Program::Matrix{{4u, 0u, 0u}};
+        << "[1];rate=0;temp=1273;[2];rate=3;temp=1373;hold=600;"
+        << "default"
+        << "user" << false << Program::Matrix{{0u, 1000u, 0u}, {3u, 1100u, 10u}};
+    QTest::newRow("name value with dot") << "[metainfo];name=Zirkon.fast;manufacturer=service;"
+                                         << "Zirkon"
+                                         << "service" << false << Program::Matrix{{0u, 0u, 0u}};
+    QTest::newRow("segment key before any section ignored") << "rate=9;[1];rate=2;"
+                                                            << "default"
+                                                            << "user" << false << Program::Matrix{{2u, 0u, 0u}};
+    QTest::newRow("hostile section number ignored") << "[2000000000];rate=5;temp=1300;[1];rate=4;"
+                                                    << "default"
+                                                    << "user" << false << Program::Matrix{{4u, 0u, 0u}};
 }
 
 void TestMessageHandler::heatfileEdgeCases()

@@ -141,16 +141,22 @@ void TstNewProgram::entryLimitsWhileTyping_data()
 {
     QTest::addColumn<bool>("fahrenheit");
     QTest::addColumn<unsigned int>("maxRate"); // 0: the default
-    QTest::addColumn<int>("column"); // rate, temperature, time
+    QTest::addColumn<int>("column");           // rate, temperature, time
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
 
-    QTest::newRow("1651 °C") << false << 0u << 1 << "1651" << "1650";
-    QTest::newRow("3003 °F") << true << 0u << 1 << "3003" << "3002";
-    QTest::newRow("above default max") << false << 0u << 0 << "121" << "120";
-    QTest::newRow("above set max") << false << 60u << 0 << "61" << "60";
-    QTest::newRow("above °F limit") << true << 0u << 0 << "249" << "248";
-    QTest::newRow("°F limit truncated") << true << 1u << 0 << "34" << "33";
+    QTest::newRow("1651 °C") << false << 0u << 1 << "1651"
+                             << "1650";
+    QTest::newRow("3003 °F") << true << 0u << 1 << "3003"
+                             << "3002";
+    QTest::newRow("above default max") << false << 0u << 0 << "121"
+                                       << "120";
+    QTest::newRow("above set max") << false << 60u << 0 << "61"
+                                   << "60";
+    QTest::newRow("above °F limit") << true << 0u << 0 << "249"
+                                    << "248";
+    QTest::newRow("°F limit truncated") << true << 1u << 0 << "34"
+                                        << "33";
 }
 
 void TstNewProgram::entryLimitsWhileTyping()
@@ -316,8 +322,8 @@ void TstNewProgram::saveAtOnceEmitsWithoutShowingTheChart()
 void TstNewProgram::overrideQuestion()
 {
     QSignalSpy saved(m_editor, &NewProgram::SignalSaveNewProg);
-    Program stored(QStringLiteral("speed"), QStringLiteral("Zirkon"), Matrix{Row{10, 500, 5}},
-                   QStringLiteral("user"), false);
+    Program stored(QStringLiteral("speed"), QStringLiteral("Zirkon"), Matrix{Row{10, 500, 5}}, QStringLiteral("user"),
+                   false);
     PopupOverrideProg *question = m_editor->GetOverridePopup();
     const auto answer = [question](const char *name) {
         click(question->findChild<QPushButton *>(QString::fromLatin1(name)));

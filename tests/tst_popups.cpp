@@ -119,19 +119,19 @@ void TstPopups::confirmButtons_data()
 
     const auto row = [](const char *tag, const char *popup, const char *ok, const char *cancel, const char *signal,
                         const QVariantList &okArgs, const QVariant &cancelArg) {
-        QTest::newRow(tag) << QString::fromLatin1(popup) << QByteArray(ok) << QByteArray(cancel)
-                           << QByteArray(signal) << okArgs << cancelArg;
+        QTest::newRow(tag) << QString::fromLatin1(popup) << QByteArray(ok) << QByteArray(cancel) << QByteArray(signal)
+                           << okArgs << cancelArg;
     };
     const char *okButton = "pushButton_OK", *cancelButton = "pushButton_Cancel";
     row("stop", "PopupStop", okButton, cancelButton, SIGNAL(SignalPopupStopButton(bool)), {true}, false);
     // The factory-reset and override questions are answered in the service and editor tests.
     row("delete program", "PopupDeleteProgram", okButton, cancelButton, SIGNAL(SignalDeleteProgram()), {}, {});
-    row("quit program", "PopupQuitProgram", "pushButton_okQuit", "pushButton_nokQuit", SIGNAL(SignalQuitProgram()),
-        {}, {});
+    row("quit program", "PopupQuitProgram", "pushButton_okQuit", "pushButton_nokQuit", SIGNAL(SignalQuitProgram()), {},
+        {});
     row("delete failure list", "PopupDeleteFailureList", "pushButton_OKDel", "pushButton_XDel",
         SIGNAL(SignalPopupDeleteFailureListButton()), {}, {});
-    row("argon failure", "PopupArgonFailure", "pushButton_ArgonFailureOK", "", SIGNAL(SignalPopupArgonFailureOK()),
-        {}, {});
+    row("argon failure", "PopupArgonFailure", "pushButton_ArgonFailureOK", "", SIGNAL(SignalPopupArgonFailureOK()), {},
+        {});
 }
 
 void TstPopups::confirmButtons()
@@ -304,10 +304,11 @@ void TstPopups::timerOkBuildsRequest_data()
     QTest::addColumn<QStringList>("fields");
 
     // The clock is pinned at 22.11.2026 10:00.
-    QTest::newRow("31 April") << "31.04.2027" << "12:00" << true << "timer==20270430,1200"
+    QTest::newRow("31 April") << "31.04.2027"
+                              << "12:00" << true << "timer==20270430,1200"
                               << QStringList{"30", "04", "2027", "12", "00"};
-    QTest::newRow("cancel sends nothing") << "31.04.2027" << "12:00" << false << ""
-                                          << QStringList{"31", "04", "2027", "12", "00"};
+    QTest::newRow("cancel sends nothing") << "31.04.2027"
+                                          << "12:00" << false << "" << QStringList{"31", "04", "2027", "12", "00"};
 }
 
 void TstPopups::timerOkBuildsRequest()

@@ -33,11 +33,12 @@ void TestProcessTime::minutes_data()
     QTest::newRow("remainder dropped") << ProcessTime::Matrix{{7u, 1000u, 0u}} << 20 << 0u << false << qint64(140);
     QTest::newRow("fall counts") << ProcessTime::Matrix{{10u, 1000u, 0u}, {5u, 900u, 10u}} << 20 << 0u << false
                                  << qint64(98 + 20 + 10);
-    QTest::newRow("oven hotter than target") << ProcessTime::Matrix{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);
-    QTest::newRow("pre-dry hot oven, celsius") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << false
-                                               << qint64(0 + 15 - 7);
-    QTest::newRow("pre-dry hot oven, fahrenheit") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << true
-                                                  << qint64(15);
+    QTest::newRow("oven hotter than target")
+        << ProcessTime::Matrix{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);
+    QTest::newRow("pre-dry hot oven, celsius")
+        << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << false << qint64(0 + 15 - 7);
+    QTest::newRow("pre-dry hot oven, fahrenheit")
+        << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << true << qint64(15);
     QTest::newRow("pre-dry cold oven") << ProcessTime::Matrix{{10u, 20u, 0u}} << 20 << 30u << true << qint64(41);
     QTest::newRow("no pre-dry adds nothing") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 0u << false << qint64(0);
     QTest::newRow("zero rate is no time") << ProcessTime::Matrix{{0u, 1000u, 5u}} << 20 << 0u << false << qint64(5);

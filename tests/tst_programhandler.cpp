@@ -59,7 +59,8 @@ private slots:
 
 void TestProgramHandler::writerExamples()
 {
-    Program speed(QStringLiteral("Speed"), QStringLiteral("Argon"), {{10u, 1500u, 120u}}, QStringLiteral("user"), false);
+    Program speed(QStringLiteral("Speed"), QStringLiteral("Argon"), {{10u, 1500u, 120u}}, QStringLiteral("user"),
+                  false);
     QCOMPARE(HeatfileText::Write(speed),
              QStringLiteral("[metainfo];name=Speed;manufacturer=user;material=Argon;favorite=false;"
                             "[1];rate=10;temp=1773;hold=7200;argon=on;"));
@@ -69,7 +70,8 @@ void TestProgramHandler::writerExamples()
              QStringLiteral("[metainfo];name=E;manufacturer=x;material=argon;favorite=true;"));
 
     // Lower-case argon gets no argon elements; "Argon" gets one after every segment.
-    Program two(QStringLiteral("T"), QStringLiteral("argon"), {{1u, 50u, 0u}, {2u, 60u, 1u}}, QStringLiteral("u"), false);
+    Program two(QStringLiteral("T"), QStringLiteral("argon"), {{1u, 50u, 0u}, {2u, 60u, 1u}}, QStringLiteral("u"),
+                false);
     QVERIFY(!HeatfileText::Write(two).contains(QStringLiteral("argon=")));
     two.SetMaterial(QStringLiteral("Argon"));
     QCOMPARE(HeatfileText::Write(two).count(QStringLiteral("argon=on;")), 2);
@@ -138,8 +140,8 @@ void TestProgramHandler::savingATakenNameNeedsTheOverwriteQuestion()
 
     // Confirmed: replaced in place, keeps the old favourite flag, one heatfile, flag used up.
     store.SetChangeActive();
-    Program *second = new Program(QStringLiteral("Mine"), QStringLiteral("Zirkon"), {{5u, 900u, 3u}},
-                                  QStringLiteral("user"), false);
+    Program *second =
+        new Program(QStringLiteral("Mine"), QStringLiteral("Zirkon"), {{5u, 900u, 3u}}, QStringLiteral("user"), false);
     store.Slot_AddProgramToList(second);
     QCOMPARE(store.GetProgramList()->first(), second);
     QVERIFY(second->IsFav());
@@ -159,7 +161,8 @@ void TestProgramHandler::receivedProgramReplacesInPlace()
     store.Slot_AddReceivedProgram(make(QStringLiteral("C")));
     Program *fresh = make(QStringLiteral("B"), QStringLiteral("Zircos"));
     store.Slot_AddReceivedProgram(fresh);
-    QCOMPARE(names(*store.GetProgramList()), (QStringList{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+    QCOMPARE(names(*store.GetProgramList()),
+             (QStringList{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
     QCOMPARE(store.GetProgramList()->at(1), fresh);
     QCOMPARE(sent.count(), 0); // programs from the controller are only stored
 }

@@ -1,9 +1,9 @@
 // The program pages with a real window: programs from the controller are listed by class,
 // favoured, filtered, shown, deleted; short counts are asked for again, ten times at most.
 #include "app/mainwindow.h"
-#include "panelharness.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
+#include "panelharness.h"
 #include "process/chart.h"
 #include "programs/programhandler.h"
 #include "widgets/programbutton.h"
@@ -104,11 +104,13 @@ void TestProgramPages::filtersNarrowTheUserList()
     send(heatfile(QStringLiteral("Fremd"), QStringLiteral("user"), QStringLiteral("Glaskeramik"), false));
     send("guistate==22");
     QStringList makers;
-    for (auto *b : m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>())
+    for (auto *b :
+         m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>())
         makers << b->GetText();
     QCOMPARE(makers.size(), 4); // user, DentaCeram, Dental Werk, service
     send("guistate==23");
-    const auto materials = m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>();
+    const auto materials =
+        m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>();
     QCOMPARE(materials.size(), 3);
     for (auto *b : materials) {
         if (b->GetText() == QLatin1String("Zirkon"))
@@ -119,16 +121,20 @@ void TestProgramPages::filtersNarrowTheUserList()
 
     // Visiting the filter page again adds no second button for a known value.
     send("guistate==23");
-    QCOMPARE(m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>().size(), 3);
+    QCOMPARE(
+        m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>().size(), 3);
     // "Dental Werk" never matches its own button: with it checked nothing is listed.
     send("guistate==22");
-    for (auto *b : m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>()) {
+    for (auto *b :
+         m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>()) {
         if (b->GetText() == QLatin1String("Dental Werk"))
             click(b);
     }
     // ... and it gets another button on every visit.
     send("guistate==22");
-    QCOMPARE(m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>().size(), 6);
+    QCOMPARE(
+        m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>().size(),
+        6);
     send("guistate==10");
     QCOMPARE(listed(), QStringList());
 }
@@ -140,7 +146,8 @@ void TestProgramPages::showingAndDeletingAProgram()
     QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Zirkon HT")); // not in upper case
     QVERIFY(!m_panel->Shown("widget_playProgChange") && !m_panel->Shown("widget_playProgDelete"));
-    QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(), 4); // summary: (0,0) and three points
+    QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(),
+             4); // summary: (0,0) and three points
 
     m_panel->Tap("widget_backPlayNewProg");
     QCOMPARE(m_window->CurrentPage(), Page::FixProgs);

@@ -35,8 +35,7 @@ void TstProgramTable::conversionAndRateLimit()
     QCOMPARE(ToCelcius(100, true), 38u);  // 37.78
     // Below freezing there is nothing to store: the result must not wrap to a huge number.
     QCOMPARE(ToCelcius(31, true), 0u);
-    QCOMPARE(ToFahrenheit(std::numeric_limits<unsigned int>::max(), true),
-             std::numeric_limits<unsigned int>::max());
+    QCOMPARE(ToFahrenheit(std::numeric_limits<unsigned int>::max(), true), std::numeric_limits<unsigned int>::max());
     QCOMPARE(ToCelcius(31, false), 31u);
     // Every whole °C survives the round trip through the display.
     for (unsigned int c = 0; c <= maxCelsius; ++c)
@@ -71,12 +70,24 @@ void TstProgramTable::digitPad_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("key"); // a digit, or "C" for clear
     QTest::addColumn<QString>("after");
-    QTest::newRow("digit replaces a lone 0") << "0" << "7" << "7";
-    QTest::newRow("0 on 0 stays one 0") << "0" << "0" << "0";
-    QTest::newRow("digit is appended") << "12" << "0" << "120";
-    QTest::newRow("clear drops last digit") << "120" << "C" << "12";
-    QTest::newRow("clear on one digit gives 0") << "5" << "C" << "0";
-    QTest::newRow("clear on 0 stays") << "0" << "C" << "0";
+    QTest::newRow("digit replaces a lone 0") << "0"
+                                             << "7"
+                                             << "7";
+    QTest::newRow("0 on 0 stays one 0") << "0"
+                                        << "0"
+                                        << "0";
+    QTest::newRow("digit is appended") << "12"
+                                       << "0"
+                                       << "120";
+    QTest::newRow("clear drops last digit") << "120"
+                                            << "C"
+                                            << "12";
+    QTest::newRow("clear on one digit gives 0") << "5"
+                                                << "C"
+                                                << "0";
+    QTest::newRow("clear on 0 stays") << "0"
+                                      << "C"
+                                      << "0";
 }
 
 void TstProgramTable::digitPad()
@@ -90,8 +101,7 @@ void TstProgramTable::digitPad()
 void TstProgramTable::readRows()
 {
     // Zero rates are skipped wherever they stand; targets below 51 °C are raised to 50 °C.
-    QCOMPARE(ReadRows({{5, 800, 1}, {0, 900, 2}, {7, 1200, 3}}, false),
-             (Matrix{Row{5, 800, 1}, Row{7, 1200, 3}}));
+    QCOMPARE(ReadRows({{5, 800, 1}, {0, 900, 2}, {7, 1200, 3}}, false), (Matrix{Row{5, 800, 1}, Row{7, 1200, 3}}));
     QCOMPARE(ReadRows({{0, 900, 2}, {10, 30, 0}, {10, 51, 0}, {0, 0, 0}}, false),
              (Matrix{Row{10, 50, 0}, Row{10, 51, 0}}));
     // In °F rate and target are converted, the hold time is not; 32 °F/min is a zero rate.

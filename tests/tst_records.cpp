@@ -10,16 +10,16 @@
 #include "records/firingstore.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
-#include <QThread>
-#include <csignal>
-#include <cstdio>
-#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtTest>
+#include <csignal>
+#include <cstdio>
 
 using namespace ovra::Records;
 
@@ -80,7 +80,9 @@ void TestRecords::killedMidFiring()
     QTRY_VERIFY_WITH_TIMEOUT((said += child.readAllStandardOutput()).contains("recording"), 10000);
     ::kill(static_cast<pid_t>(child.processId()), SIGKILL);
     QVERIFY(child.waitForFinished(5000));
-    { FiringStore reopened(file); }
+    {
+        FiringStore reopened(file);
+    }
     QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
              QStringLiteral("earlier=success,killed=interrupted"));
     QVERIFY(scalar(file, QStringLiteral("SELECT COUNT(*) FROM samples")).toInt() >= FiringStore::batchSamples);

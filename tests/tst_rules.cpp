@@ -43,7 +43,8 @@ private slots:
         const PageTables::Redirect ready = PageTables::ResolveRequest(Page::OvenReady, Page::Selftest, true, false);
         QCOMPARE(ready.page, Page::MainMenu);
         QVERIFY(ready.showTemperature);
-        QCOMPARE(PageTables::ResolveRequest(Page::MainMenu, Page::LangSelect, true, true).action, Action::EndCommissioning);
+        QCOMPARE(PageTables::ResolveRequest(Page::MainMenu, Page::LangSelect, true, true).action,
+                 Action::EndCommissioning);
         QCOMPARE(PageTables::ResolveRequest(Page::OvenReady, Page::UnitSelect, true, true).page, Page::MainMenu);
         QCOMPARE(PageTables::ResolveRequest(Page::Settings, Page::LangSelect, true, true).page, Page::Settings);
     }
@@ -63,7 +64,8 @@ private slots:
         using ovra::GlobalElements::Program;
         QList<Program *> programs;
         for (const char *material : {"Zirkon", "Argon", "Zirkon", " Argon "})
-            programs << new Program(QStringLiteral("P"), QString::fromLatin1(material), {}, QStringLiteral("user"), false);
+            programs << new Program(QStringLiteral("P"), QString::fromLatin1(material), {}, QStringLiteral("user"),
+                                    false);
         // A value with blanks never matches its own button, so it gets one each time.
         QCOMPARE(ovra::GlobalElements::ProgramFilter::NewButtonValues(programs, false, {QStringLiteral("Argon")}),
                  (QStringList{QStringLiteral("Zirkon"), QStringLiteral(" Argon ")}));

@@ -24,7 +24,8 @@ void TestScreenshotTour::everyPageAndPopupIsRendered()
     Q_INIT_RESOURCE(resources);
     qInstallMessageHandler(quiet);
     QTemporaryDir home;
-    QVERIFY(ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_BINARY_DIR "/translations"), home.path()));
+    QVERIFY(
+        ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_BINARY_DIR "/translations"), home.path()));
     ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
 
     // Kept in the build folder so that a person can look at them after the run.
@@ -34,8 +35,8 @@ void TestScreenshotTour::everyPageAndPopupIsRendered()
     // full-screen notices, every popup of the window, and the main pages in each of the
     // tour's languages.
     const int popups = window.findChildren<QDialog *>().size();
-    const int languages = ovra::Tools::ScreenshotTour::TourLanguages().size()
-                          * ovra::Tools::ScreenshotTour::TourPages().size();
+    const int languages =
+        ovra::Tools::ScreenshotTour::TourLanguages().size() * ovra::Tools::ScreenshotTour::TourPages().size();
     QCOMPARE(files.size(), 1 + 26 + 11 + 1 + 2 + popups + languages);
     // The main menu in Spanish is not the German one, nor Japanese the Chinese one.
     auto picture = [&files](const QString &suffix) {

@@ -8,9 +8,9 @@
 #include "popups/popupqrcode.h"
 #include "popups/popupsettings.h"
 #include "popups/popupusb.h"
+#include "programs/programhandler.h"
 #include "records/firinghistory.h"
 #include "records/firingstore.h"
-#include "programs/programhandler.h"
 #include "simulatorprocess.h"
 
 #include <QDirIterator>
@@ -24,8 +24,8 @@ using ovra::Mainwindow::Page;
 namespace {
 QByteArray Heatfile(const char *name, const char *maker)
 {
-    return QByteArray("heatfile==[metainfo];name=") + name + ";manufacturer=" + maker
-           + ";material=Zirkon;favorite=false;[1];rate=10;temp=1173;hold=600;";
+    return QByteArray("heatfile==[metainfo];name=") + name + ";manufacturer=" + maker +
+           ";material=Zirkon;favorite=false;[1];rate=10;temp=1173;hold=600;";
 }
 
 void Tap(QDialog *popup, const char *button)
@@ -85,8 +85,9 @@ QString TestService::usbResult(QWidget *button)
 
 void TestService::startupScriptsGoIntoTheGivenHomeOnly()
 {
-    const QStringList device = {QStringLiteral("/home/pi/Downloads/makeExecutable.py"), QStringLiteral("/home/pi/autostartUserinterface.sh"),
-                                QStringLiteral("/home/pi/Downloads/decode_and_unzip_lin.py"), QStringLiteral("/home/pi/DispOn/dispOn.py")};
+    const QStringList device = {
+        QStringLiteral("/home/pi/Downloads/makeExecutable.py"), QStringLiteral("/home/pi/autostartUserinterface.sh"),
+        QStringLiteral("/home/pi/Downloads/decode_and_unzip_lin.py"), QStringLiteral("/home/pi/DispOn/dispOn.py")};
     QList<bool> onDevice;
     for (const QString &path : device)
         onDevice << QFile::exists(path);
@@ -168,7 +169,8 @@ void TestService::backupKeepsEveryFiringOnPaper()
     send("guistate==24");
     QCOMPARE(usbResult(m_panel->Widget("widget_USBMenuBackup")), QStringLiteral("  Erfolgreich."));
     QStringList reports;
-    for (QDirIterator it(m_stick.path(), {QStringLiteral("*.pdf")}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
+    for (QDirIterator it(m_stick.path(), {QStringLiteral("*.pdf")}, QDir::Files, QDirIterator::Subdirectories);
+         it.hasNext();)
         reports << it.next();
     QCOMPARE(reports.size(), 1);
     QVERIFY(reports[0].endsWith(QStringLiteral("/records/firing-1.pdf")));
@@ -220,7 +222,8 @@ void TestService::pinAndStickFromTheController()
 
     sim.Command("usb in");
     QTRY_COMPARE_WITH_TIMEOUT(panel.Window()->CurrentPage(), Page::USB, 5000);
-    for (QWidget *button : {view.Widget("widget_USBMenuSaveMyProgs"), view.Widget("widget_USBMenuLoadMyProgs"), view.Widget("widget_USBMenuFWUpdate")}) {
+    for (QWidget *button : {view.Widget("widget_USBMenuSaveMyProgs"), view.Widget("widget_USBMenuLoadMyProgs"),
+                            view.Widget("widget_USBMenuFWUpdate")}) {
         PanelHarness::Click(button);
         QTRY_COMPARE_WITH_TIMEOUT(usb->GetText(), QStringLiteral("  Erfolgreich."), 5000);
         usb->accept();

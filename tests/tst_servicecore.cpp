@@ -51,7 +51,9 @@ QByteArray Read(const QString &path)
 // Inode and modification time: equal only for a file nobody wrote.
 QPair<qint64, qint64> Stamp(const QString &path)
 {
-    struct stat st {};
+    struct stat st
+    {
+    };
     ::stat(QFile::encodeName(path).constData(), &st);
     return {qint64(st.st_ino), qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec};
 }
@@ -199,15 +201,17 @@ void TestServiceCore::loadingIsAllOrNothing()
     const UsbFiles files(stick.path());
     // A person's edits: each spoils the file it is in, wherever it stands.
     const QList<QPair<QByteArray, QByteArray>> spoilers = {
-        {"temp=1173", "temp=1924"},           // above 1650 °C
-        {"hold=1800", "hold=90"},             // not whole minutes
-        {"name=Zweite", "name=a$$b"},           // would split the frame
+        {"temp=1173", "temp=1924"},   // above 1650 °C
+        {"hold=1800", "hold=90"},     // not whole minutes
+        {"name=Zweite", "name=a$$b"}, // would split the frame
         {"manufacturer=user", "manufacturer=Zircos"},
-        {"name=Zweite", "name=Fremd"},          // a maker's program of that name
+        {"name=Zweite", "name=Fremd"}, // a maker's program of that name
         {"[1];rate=10;temp=1173;hold=1800;", ""},
     };
     for (const auto &spoiler : spoilers) {
-        QVERIFY(Write(files.ProgramsFile(), "# note\n" + good + "\n" + QByteArray(good).replace("Krone", "Zweite").replace(spoiler.first, spoiler.second)));
+        QVERIFY(Write(files.ProgramsFile(),
+                      "# note\n" + good + "\n" +
+                          QByteArray(good).replace("Krone", "Zweite").replace(spoiler.first, spoiler.second)));
         QList<Program *> loaded;
         QString error;
         QVERIFY2(!files.LoadPrograms({QStringLiteral("Fremd")}, &loaded, &error), spoiler.second.constData());
@@ -215,13 +219,16 @@ void TestServiceCore::loadingIsAllOrNothing()
         QVERIFY(loaded.isEmpty());
     }
     // What the panel saves it reads back; a person can read it too.
-    const Program bridge(QStringLiteral("Brücke"), QStringLiteral("Argon"), {{10, 900, 30}}, QStringLiteral("user"), true);
+    const Program bridge(QStringLiteral("Brücke"), QStringLiteral("Argon"), {{10, 900, 30}}, QStringLiteral("user"),
+                         true);
     QList<Program *> loaded;
     QString error;
     QVERIFY(files.SavePrograms({&bridge}, &error));
-    QVERIFY(QString::fromUtf8(Read(files.ProgramsFile())).contains(QStringLiteral("# Brücke | Argon | 10 °C/min to 900 °C, hold 30 min\n")));
+    QVERIFY(QString::fromUtf8(Read(files.ProgramsFile()))
+                .contains(QStringLiteral("# Brücke | Argon | 10 °C/min to 900 °C, hold 30 min\n")));
     QVERIFY(files.LoadPrograms({}, &loaded, &error) && loaded.size() == 1);
-    QCOMPARE(ovra::GlobalElements::HeatfileText::Write(*loaded.first()), ovra::GlobalElements::HeatfileText::Write(bridge));
+    QCOMPARE(ovra::GlobalElements::HeatfileText::Write(*loaded.first()),
+             ovra::GlobalElements::HeatfileText::Write(bridge));
     qDeleteAll(loaded);
     loaded.clear();
     QVERIFY(Write(files.ProgramsFile(), good + "\n" + good));
@@ -236,7 +243,8 @@ void TestServiceCore::stickFailuresAndBackup()
     QVERIFY(IsStickVolume(QStringLiteral("/dev/sda1"), QStringLiteral("/media/pi/STICK")));
     QVERIFY(!IsStickVolume(QStringLiteral("/dev/sda2"), QStringLiteral("/"))); // a board booted from USB
 
-    const Program crown(QStringLiteral("Krone"), QStringLiteral("Zirkon"), {{10, 900, 30}}, QStringLiteral("Zircos"), false);
+    const Program crown(QStringLiteral("Krone"), QStringLiteral("Zirkon"), {{10, 900, 30}}, QStringLiteral("Zircos"),
+                        false);
     QString error;
     QVERIFY(!UsbFiles(QString()).SavePrograms({&crown}, &error));
     QTemporaryDir stick;
@@ -247,8 +255,9 @@ void TestServiceCore::stickFailuresAndBackup()
 
     QTemporaryDir logs;
     QVERIFY(Write(logs.filePath(QStringLiteral("Log_1.txt")), "line\n"));
-    const QString folder = UsbFiles(stick.path()).Backup({&crown}, QStringLiteral("Model: X"), QStringLiteral("SN 42/7"),
-                                                         logs.path(), QDateTime(QDate(2026, 11, 23), QTime(9, 30, 5)), &error);
+    const QString folder = UsbFiles(stick.path())
+                               .Backup({&crown}, QStringLiteral("Model: X"), QStringLiteral("SN 42/7"), logs.path(),
+                                       QDateTime(QDate(2026, 11, 23), QTime(9, 30, 5)), &error);
     QCOMPARE(folder, stick.filePath(QStringLiteral("ovra/backup/SN_42_7_20261123_093005")));
     QVERIFY(Read(folder + QStringLiteral("/programs.txt")).contains("name=Krone;manufacturer=Zircos"));
     QCOMPARE(Read(folder + QStringLiteral("/device.txt")), QByteArray("Model: X\n"));

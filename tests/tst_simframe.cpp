@@ -22,7 +22,7 @@ QByteArray withChecksum(const QByteArray &body)
     return body + "$$" + simframe::checksumField(simframe::splitFields(body));
 }
 
-}  // namespace
+} // namespace
 
 class TestSimFrame : public QObject
 {
@@ -41,9 +41,9 @@ private slots:
 
 void TestSimFrame::checksum_data()
 {
-    QTest::addColumn<QByteArray>("body");      // body fields joined by "$$"
-    QTest::addColumn<QByteArray>("built");     // the checksum field the simulator makes for it
-    QTest::addColumn<QByteArray>("received");  // a checksum field as it may come in
+    QTest::addColumn<QByteArray>("body");     // body fields joined by "$$"
+    QTest::addColumn<QByteArray>("built");    // the checksum field the simulator makes for it
+    QTest::addColumn<QByteArray>("received"); // a checksum field as it may come in
     QTest::addColumn<bool>("valid");
 
     QTest::newRow("ack") << QByteArray("ack") << QByteArray("-47") << QByteArray("-47") << true;
@@ -74,9 +74,18 @@ void TestSimFrame::checksum()
 
 void TestSimFrame::framesAndAnswers()
 {
-    QCOMPARE(simframe::buildFrame({"ack"}), QByteArray("\x02" "ack$$-47" "\x03"));
+    QCOMPARE(simframe::buildFrame({"ack"}), QByteArray("\x02"
+                                                       "ack$$-47"
+                                                       "\x03"));
     // Out of a stream: noise and a frame cut off by a new start byte are dropped.
-    QByteArray buffer("noise\x03" "\x02" "ack$$gui" "\x02" "ack$$-47\x03" "\x02" "nack$$-", -1);
+    QByteArray buffer("noise\x03"
+                      "\x02"
+                      "ack$$gui"
+                      "\x02"
+                      "ack$$-47\x03"
+                      "\x02"
+                      "nack$$-",
+                      -1);
     QCOMPARE(simframe::takeFrames(buffer), Fields{"ack$$-47"});
     buffer += "50\x03";
     QCOMPARE(simframe::takeFrames(buffer), Fields{"nack$$-50"});
@@ -85,37 +94,45 @@ void TestSimFrame::framesAndAnswers()
     QVERIFY(nack.valid && nack.nack);
     QCOMPARE(nack.requests, (Fields{"guistate==1", "hfresend"}));
     // Only "ack" or "nack" with a right checksum is an answer.
-    for (const QByteArray &content : {QByteArray("ack"), QByteArray("ack$$guistate==1$$-1"), withChecksum("temp==295"), withChecksum("ACK")})
+    for (const QByteArray &content :
+         {QByteArray("ack"), QByteArray("ack$$guistate==1$$-1"), withChecksum("temp==295"), withChecksum("ACK")})
         QVERIFY2(!simframe::parseAnswer(content).valid, content.constData());
     // Heatfile texts carry single "=": only the first "==" separates.
-    QCOMPARE(simframe::splitCommand("heatfile==[metainfo];name=A;"), (std::pair<QByteArray, QByteArray>{"heatfile", "[metainfo];name=A;"}));
+    QCOMPARE(simframe::splitCommand("heatfile==[metainfo];name=A;"),
+             (std::pair<QByteArray, QByteArray>{"heatfile", "[metainfo];name=A;"}));
 }
 
 void TestSimFrame::heatfileTexts_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("expected");  // the first segment as rate/°C/minutes, or why it is refused (no "/")
+    QTest::addColumn<QString>("expected"); // the first segment as rate/°C/minutes, or why it is refused (no "/")
 
     // Kelvin and seconds on the line, argon after every hold of an argon program.
-    QTest::newRow("argon") << QByteArray("[metainfo];name=Ti Sinter 2;manufacturer=Metallix;material=Argon;favorite=true;"
-                                         "[1];rate=20;temp=1073;hold=600;argon=on;[2];rate=5;temp=1623;hold=0;argon=on;")
+    QTest::newRow("argon") << QByteArray(
+                                  "[metainfo];name=Ti Sinter 2;manufacturer=Metallix;material=Argon;favorite=true;"
+                                  "[1];rate=20;temp=1073;hold=600;argon=on;[2];rate=5;temp=1623;hold=0;argon=on;")
                            << QStringLiteral("20/800/10");
     // Everything the simulator hands over must read back.
     for (const heatfile::Program &program : sampleprograms::programs()) {
         const heatfile::Segment &first = program.segments.first();
-        QTest::newRow(qPrintable(program.name)) << heatfile::text(program)
-                                                << QStringLiteral("%1/%2/%3").arg(first.rate).arg(first.tempCelsius).arg(first.holdMinutes);
+        QTest::newRow(qPrintable(program.name))
+            << heatfile::text(program)
+            << QStringLiteral("%1/%2/%3").arg(first.rate).arg(first.tempCelsius).arg(first.holdMinutes);
     }
 
     const QByteArray head = "[metainfo];name=P;manufacturer=user;material=Zirkon;favorite=false;";
     const QByteArray segment = "[1];rate=10;temp=1273;hold=600;";
     QTest::newRow("last element open") << QByteArray(head + segment).chopped(1) << QStringLiteral("not closed");
-    QTest::newRow("file name") << QByteArray(QByteArray(head).replace("name=P", "name=P.hf") + segment) << QStringLiteral("contains \".\"");
-    QTest::newRow("celsius sent") << QByteArray(head + "[1];rate=10;temp=100;hold=600;") << QStringLiteral("temp=100 is below 273");
-    QTest::newRow("minutes sent") << QByteArray(head + "[1];rate=10;temp=1273;hold=90;") << QStringLiteral("hold=90 is not whole minutes");
+    QTest::newRow("file name") << QByteArray(QByteArray(head).replace("name=P", "name=P.hf") + segment)
+                               << QStringLiteral("contains \".\"");
+    QTest::newRow("celsius sent") << QByteArray(head + "[1];rate=10;temp=100;hold=600;")
+                                  << QStringLiteral("temp=100 is below 273");
+    QTest::newRow("minutes sent") << QByteArray(head + "[1];rate=10;temp=1273;hold=90;")
+                                  << QStringLiteral("hold=90 is not whole minutes");
     QTest::newRow("segment skipped") << QByteArray(head + segment + QByteArray(segment).replace("[1]", "[3]"))
                                      << QStringLiteral("expected [2], found [3]");
-    QTest::newRow("argon missing") << QByteArray(QByteArray(head).replace("Zirkon", "Argon") + segment + "[2];rate=1;temp=300;hold=0;argon=on;")
+    QTest::newRow("argon missing") << QByteArray(QByteArray(head).replace("Zirkon", "Argon") + segment +
+                                                 "[2];rate=1;temp=300;hold=0;argon=on;")
                                    << QStringLiteral("expected argon=on, found [2]");
 }
 
@@ -176,7 +193,8 @@ void TestSimFrame::rejectsBadArguments_data()
     QTest::newRow("interval zero") << QStringList{QStringLiteral("--interval"), QStringLiteral("0")};
     QTest::newRow("speed text") << QStringList{QStringLiteral("--speed"), QStringLiteral("fast")};
     QTest::newRow("unknown self-test row") << QStringList{QStringLiteral("--selftest-fail"), QStringLiteral("oven")};
-    QTest::newRow("missing program file") << QStringList{QStringLiteral("--programs"), QStringLiteral("/nonexistent/programs.txt")};
+    QTest::newRow("missing program file")
+        << QStringList{QStringLiteral("--programs"), QStringLiteral("/nonexistent/programs.txt")};
 }
 
 void TestSimFrame::rejectsBadArguments()

@@ -1,10 +1,10 @@
 // The panel's start-up against the controller simulator over a pseudo-terminal: splash,
 // device data, the automatic self-test, the main menu, and the commissioning walk.
-#include "panelview.h"
 #include "app/mainwindow.h"
-#include "simulatorprocess.h"
+#include "panelview.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
+#include "simulatorprocess.h"
 #include "widgets/programbutton.h"
 
 #include <QLineEdit>

@@ -60,8 +60,14 @@ public:
         handler.SetUnpackDelayMs(60 * 60 * 1000); // the script is not part of these cases
     }
 
-    QStringList send(const QString &text) { return answerFields(handler.HandleMessage(QLatin1Char('\x02') + text + QLatin1Char('\x03'))); }
-    QStringList command(const QByteArray &body) { return answerFields(handler.HandleMessage(QString::fromLatin1(Frame::Build(body)))); }
+    QStringList send(const QString &text)
+    {
+        return answerFields(handler.HandleMessage(QLatin1Char('\x02') + text + QLatin1Char('\x03')));
+    }
+    QStringList command(const QByteArray &body)
+    {
+        return answerFields(handler.HandleMessage(QString::fromLatin1(Frame::Build(body))));
+    }
     QByteArray written() const { return UpdateFiles::Read(home.path() + QStringLiteral("/Downloads/outfile.txt")); }
     void script(const QByteArray &text)
     {
@@ -158,9 +164,9 @@ void TestUpdateReception::damagedBlockFromTheStoreHoldsLaterBlocksBack()
     r.send(block(0));
     // Lost blocks are asked for in order, and later ones wait in memory until the gap is
     // filled; a damaged block is asked for again like a lost one.
-    QCOMPARE(r.send(damaged(2)), QStringList{"resend==1"});   // 1 lost, 2 kept as it came
-    QCOMPARE(r.send(block(1)), QStringList{"resend==2"});     // 2 turns out damaged
-    QCOMPARE(r.send(block(3)), QStringList());                // must not overtake 2
+    QCOMPARE(r.send(damaged(2)), QStringList{"resend==1"}); // 1 lost, 2 kept as it came
+    QCOMPARE(r.send(block(1)), QStringList{"resend==2"});   // 2 turns out damaged
+    QCOMPARE(r.send(block(3)), QStringList());              // must not overtake 2
     QCOMPARE(r.written(), Receiver::expected({0, 1}));
     QCOMPARE(r.send(block(2)), QStringList());
     QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3}));
@@ -225,8 +231,8 @@ void TestUpdateReception::scriptResultIsReported_data()
     QTest::newRow("not a number") << QByteArray("print('x')") << py << "done";
     QTest::newRow("says nothing, dies") << QByteArray("import sys; sys.exit(1)") << py << "failed";
     QTest::newRow("no interpreter") << QByteArray("print(0)") << QStringList{"/nonexistent/python"} << "failed";
-    QTest::newRow("second interpreter")
-        << QByteArray("print(0)") << QStringList{"/nonexistent/python", UpdateFiles::Python()} << "done";
+    QTest::newRow("second interpreter") << QByteArray("print(0)")
+                                        << QStringList{"/nonexistent/python", UpdateFiles::Python()} << "done";
 }
 
 void TestUpdateReception::scriptResultIsReported()

@@ -49,7 +49,8 @@ QByteArray TestUpdateScript::run()
     QProcess script;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     // A harmless stand-in for the reboot that leaves a trace.
-    env.insert(QStringLiteral("OVRA_REBOOT_COMMAND"), QStringLiteral("touch '%1'").arg(m_root->filePath(QStringLiteral("home/rebooted"))));
+    env.insert(QStringLiteral("OVRA_REBOOT_COMMAND"),
+               QStringLiteral("touch '%1'").arg(m_root->filePath(QStringLiteral("home/rebooted"))));
     script.setProcessEnvironment(env);
     script.start(UpdateFiles::Python(), {m_downloads + QStringLiteral("/decode_and_unzip_lin.py")});
     return script.waitForFinished(30000) ? script.readAllStandardOutput() : QByteArray("<timeout>");
@@ -76,7 +77,8 @@ void TestUpdateScript::refusedArchivesRestoreTheOldFolders()
 
     QCOMPARE(run(), QByteArray("3\n"));
     QCOMPARE(UpdateFiles::Read(m_downloads + QStringLiteral("/build/ovra-panel")), QByteArray("old program"));
-    QCOMPARE(UpdateFiles::Read(m_downloads + QStringLiteral("/translations/ovra_en.qm")), QByteArray("old translation"));
+    QCOMPARE(UpdateFiles::Read(m_downloads + QStringLiteral("/translations/ovra_en.qm")),
+             QByteArray("old translation"));
     QCOMPARE(QDir(m_downloads).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              (QStringList{"build", "build.zip", "decode_and_unzip_lin.py", "translations"}));
     QCOMPARE(QDir(m_root->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), (QStringList{"home", "outside"}));

@@ -58,11 +58,11 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
 
     QProcess sim;
     sim.start(QStringLiteral(OVRA_HX3SIM_BINARY),
-              {QStringLiteral("--interval"), QStringLiteral("200"),
-               QStringLiteral("--update"), zip, QStringLiteral("--update-block"), QStringLiteral("960"),
-               QStringLiteral("--update-drop"), QStringLiteral("5"), QStringLiteral("--update-corrupt"), QStringLiteral("5"),
-               QStringLiteral("--update-reorder"), QStringLiteral("2"), QStringLiteral("--update-seed"), QStringLiteral("11"),
-               QStringLiteral("--update-baud"), QStringLiteral("0")});
+              {QStringLiteral("--interval"), QStringLiteral("200"), QStringLiteral("--update"), zip,
+               QStringLiteral("--update-block"), QStringLiteral("960"), QStringLiteral("--update-drop"),
+               QStringLiteral("5"), QStringLiteral("--update-corrupt"), QStringLiteral("5"),
+               QStringLiteral("--update-reorder"), QStringLiteral("2"), QStringLiteral("--update-seed"),
+               QStringLiteral("11"), QStringLiteral("--update-baud"), QStringLiteral("0")});
     QVERIFY(sim.waitForStarted());
     QStringList printed;
     // Read as it comes: a full pipe would stall the simulator.
@@ -84,10 +84,13 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
     QByteArray received;
     // Queued: runs once the last block's frame is handled and the file closed, before the
     // script takes the file away.
-    connect(&handler, &MessageHandler::SignalUpdateProgress, this, [&](const QString &progress) {
-        if (progress == QLatin1String("100%"))
-            received = UpdateFiles::Read(downloads + QStringLiteral("/outfile.txt"));
-    }, Qt::QueuedConnection);
+    connect(
+        &handler, &MessageHandler::SignalUpdateProgress, this,
+        [&](const QString &progress) {
+            if (progress == QLatin1String("100%"))
+                received = UpdateFiles::Read(downloads + QStringLiteral("/outfile.txt"));
+        },
+        Qt::QueuedConnection);
     QSignalSpy usb(&handler, &MessageHandler::SignalUSB);
     Communicator link(&handler, nullptr, lineStartingWith(QStringLiteral("slave: ")).mid(7));
     QVERIFY(link.IsPortOpen());

@@ -48,7 +48,6 @@ private slots:
     void captionText_data();
     void captionText();
 
-
     void selftestIconTable_data();
     void selftestIconTable();
     void selftestRowMayBeDeletedByListener();
@@ -74,10 +73,14 @@ void TestWidgetKit::captionText_data()
 {
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("escaped ampersand") << "Datum && Uhrzeit" << "Datum & Uhrzeit";
-    QTest::newRow("mnemonic dropped") << "&Service" << "Service";
-    QTest::newRow("escaped, then mnemonic") << "A&&&B" << "A&B";
-    QTest::newRow("trailing ampersand") << "Ende&" << "Ende";
+    QTest::newRow("escaped ampersand") << "Datum && Uhrzeit"
+                                       << "Datum & Uhrzeit";
+    QTest::newRow("mnemonic dropped") << "&Service"
+                                      << "Service";
+    QTest::newRow("escaped, then mnemonic") << "A&&&B"
+                                            << "A&B";
+    QTest::newRow("trailing ampersand") << "Ende&"
+                                        << "Ende";
 }
 
 void TestWidgetKit::captionText()

@@ -61,10 +61,10 @@ QMap<QString, QByteArray> Snapshot(const QString &root)
 bool MakeHome(const QString &home)
 {
     const QString downloads = home + QStringLiteral("/Downloads");
-    return Write(downloads + QStringLiteral("/build/ovra-panel"), "old program")
-           && Write(downloads + QStringLiteral("/translations/ovra_en.qm"), "old translation")
-           && QFile::copy(QStringLiteral(OVRA_SOURCE_DIR "/resources/scripts/decode_and_unzip_lin.py"),
-                          downloads + QStringLiteral("/decode_and_unzip_lin.py"));
+    return Write(downloads + QStringLiteral("/build/ovra-panel"), "old program") &&
+           Write(downloads + QStringLiteral("/translations/ovra_en.qm"), "old translation") &&
+           QFile::copy(QStringLiteral(OVRA_SOURCE_DIR "/resources/scripts/decode_and_unzip_lin.py"),
+                       downloads + QStringLiteral("/decode_and_unzip_lin.py"));
 }
 
 } // namespace UpdateFiles
