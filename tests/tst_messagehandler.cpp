@@ -22,6 +22,12 @@ QString controllerFrame(const QByteArray &body)
     return QString::fromLatin1(Frame::Build(body));
 }
 
+// A frame exactly as written, checksum included: STX and ETX around it.
+QString wrapped(const char *inner)
+{
+    return QLatin1Char('\x02') + QString::fromLatin1(inner) + QLatin1Char('\x03');
+}
+
 QByteArray answerBody(const QByteArray &answer)
 {
     // 0x02 body $$ checksum 0x03
@@ -60,22 +66,14 @@ void TestMessageHandler::checksumRules_data()
     QTest::addColumn<bool>("valid");
 
     QTest::newRow("correct") << controllerFrame("temp==1473") << true;
-    QTest::newRow("off by one") << QStringLiteral("\x02temp==1473$$-1\x03") << false;
+    QTest::newRow("off by one") << wrapped("temp==1473$$-1") << false;
     // "\x80\x80" sums to 256: a checksum of 0 is right for it.
-    QTest::newRow("sum multiple of 256") << QString::fromLatin1("\x02\x80\x80$$0\x03") << true;
-    QTest::newRow("positive checksum never valid") << QStringLiteral("\x02"
-                                                                     "A$$65\x03")
-                                                   << false;
-    QTest::newRow("no separator, zero") << QStringLiteral("\x02"
-                                                          "0\x03")
-                                        << true;
-    QTest::newRow("no separator, non-number reads 0") << QStringLiteral("\x02junk\x03") << true;
-    QTest::newRow("no separator, non-zero") << QStringLiteral("\x02"
-                                                              "-5\x03")
-                                            << false;
-    QTest::newRow("checksum not a number") << QStringLiteral("\x02"
-                                                             "A$$x\x03")
-                                           << false;
+    QTest::newRow("sum multiple of 256") << wrapped("\x80\x80$$0") << true;
+    QTest::newRow("positive checksum never valid") << wrapped("A$$65") << false;
+    QTest::newRow("no separator, zero") << wrapped("0") << true;
+    QTest::newRow("no separator, non-number reads 0") << wrapped("junk") << true;
+    QTest::newRow("no separator, non-zero") << wrapped("-5") << false;
+    QTest::newRow("checksum not a number") << wrapped("A$$x") << false;
     QTest::newRow("separators not counted") << QStringLiteral("a$$b$$-195") << true;
     QTest::newRow("lone dollar counts") << controllerFrame("a$b") << true;
     // A name sent as UTF-8 is read as UTF-8 and summed over the bytes it came in; bytes that
@@ -126,7 +124,7 @@ void TestMessageHandler::answerCarriesQueuedRequestsOnce()
 
     // Requests leave even with a rejected frame: there is no retry.
     handler.SetRequest(QStringLiteral("doorclose"));
-    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1$$-1\x03"))), QByteArray("nack$$doorclose"));
+    QCOMPARE(answerBody(handler.HandleMessage(wrapped("temp==1$$-1"))), QByteArray("nack$$doorclose"));
     QCOMPARE(handler.GetActualRequests(), QString());
 }
 
@@ -137,7 +135,7 @@ void TestMessageHandler::badFramesAreNackedButOtherFieldsStillRun()
     QSignalSpy time(&handler, &MessageHandler::SignalTime);
 
     // Wrong checksum: nothing is acted on.
-    QCOMPARE(answerBody(handler.HandleMessage(QStringLiteral("\x02temp==1473$$-2\x03"))), QByteArray("nack"));
+    QCOMPARE(answerBody(handler.HandleMessage(wrapped("temp==1473$$-2"))), QByteArray("nack"));
     QCOMPARE(temperature.count(), 0);
 
     // Unknown second field: the first still acts, the whole frame is "nack".
@@ -147,9 +145,7 @@ void TestMessageHandler::badFramesAreNackedButOtherFieldsStillRun()
     QCOMPARE(time.count(), 1);
 
     // Empty body with a zero checksum is a valid, empty frame.
-    QCOMPARE(handler.HandleMessage(QStringLiteral("\x02"
-                                                  "0\x03")),
-             Frame::Build("ack"));
+    QCOMPARE(handler.HandleMessage(wrapped("0")), Frame::Build("ack"));
     // An empty field between separators is rejected.
     QCOMPARE(answerBody(handler.HandleMessage(controllerFrame("temp==1473$$"))), QByteArray("nack"));
 }
@@ -297,42 +293,27 @@ void TestMessageHandler::heatfileRecordIsParsed()
 void TestMessageHandler::heatfileEdgeCases_data()
 {
     QTest::addColumn<QString>("payload");
+    QTest::addColumn<Program::Matrix>("matrix");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("manufacturer");
-    QTest::addColumn<bool>("fav");
-    QTest::addColumn<Program::Matrix>("matrix");
-
-    QTest::newRow("nothing recognised") << "garbage;;;"
-                                        << "default"
-                                        << "user" << false << Program::Matrix{{0u, 0u, 0u}};
-    QTest::newRow("favorite True is not true") << "[metainfo];name=A;favorite=True;[1];rate=1;temp=1273;hold=60;"
-                                               << "A"
-                                               << "user" << false << Program::Matrix{{1u, 1000u, 1u}};
-    QTest::newRow("temp 322 K raised to 50") << "[1];rate=1;temp=322;"
-                                             << "default"
-                                             << "user" << false << Program::Matrix{{1u, 50u, 0u}};
-    QTest::newRow("temp 324 K is 51") << "[1];rate=1;temp=324;"
-                                      << "default"
-                                      << "user" << false << Program::Matrix{{1u, 51u, 0u}};
-    QTest::newRow("temp below 273 K wraps") << "[1];rate=1;temp=272;"
-                                            << "default"
-                                            << "user" << false << Program::Matrix{{1u, 4294967295u, 0u}};
-    QTest::newRow("trailing zero-rate segment dropped") << "[1];rate=5;temp=1273;[2];rate=0;temp=1373;hold=600;"
-                                                        << "default"
-                                                        << "user" << false << Program::Matrix{{5u, 1000u, 0u}};
-    QTest::newRow("first zero-rate segment kept")
-        << "[1];rate=0;temp=1273;[2];rate=3;temp=1373;hold=600;"
-        << "default"
-        << "user" << false << Program::Matrix{{0u, 1000u, 0u}, {3u, 1100u, 10u}};
-    QTest::newRow("name value with dot") << "[metainfo];name=Zirkon.fast;manufacturer=service;"
-                                         << "Zirkon"
-                                         << "service" << false << Program::Matrix{{0u, 0u, 0u}};
-    QTest::newRow("segment key before any section ignored") << "rate=9;[1];rate=2;"
-                                                            << "default"
-                                                            << "user" << false << Program::Matrix{{2u, 0u, 0u}};
-    QTest::newRow("hostile section number ignored") << "[2000000000];rate=5;temp=1300;[1];rate=4;"
-                                                    << "default"
-                                                    << "user" << false << Program::Matrix{{4u, 0u, 0u}};
+    const auto row = [](const char *tag, const char *payload, const Program::Matrix &matrix,
+                        const char *name = "default", const char *manufacturer = "user") {
+        QTest::newRow(tag) << QString::fromLatin1(payload) << matrix << QString::fromLatin1(name)
+                           << QString::fromLatin1(manufacturer);
+    };
+    row("nothing recognised", "garbage;;;", {{0u, 0u, 0u}});
+    row("favorite True is not true", "[metainfo];name=A;favorite=True;[1];rate=1;temp=1273;hold=60;", {{1u, 1000u, 1u}},
+        "A");
+    row("temp 322 K raised to 50", "[1];rate=1;temp=322;", {{1u, 50u, 0u}});
+    row("temp 324 K is 51", "[1];rate=1;temp=324;", {{1u, 51u, 0u}});
+    row("temp below 273 K wraps", "[1];rate=1;temp=272;", {{1u, 4294967295u, 0u}});
+    row("trailing zero-rate segment dropped", "[1];rate=5;temp=1273;[2];rate=0;temp=1373;hold=600;", {{5u, 1000u, 0u}});
+    row("first zero-rate segment kept", "[1];rate=0;temp=1273;[2];rate=3;temp=1373;hold=600;",
+        {{0u, 1000u, 0u}, {3u, 1100u, 10u}});
+    row("name value with dot", "[metainfo];name=Zirkon.fast;manufacturer=service;", {{0u, 0u, 0u}}, "Zirkon",
+        "service");
+    row("segment key before any section ignored", "rate=9;[1];rate=2;", {{2u, 0u, 0u}});
+    row("hostile section number ignored", "[2000000000];rate=5;temp=1300;[1];rate=4;", {{4u, 0u, 0u}});
 }
 
 void TestMessageHandler::heatfileEdgeCases()
@@ -346,7 +327,7 @@ void TestMessageHandler::heatfileEdgeCases()
     Program *p = got.programs.at(0);
     QTEST(p->GetName(), "name");
     QTEST(p->GetManufacturer(), "manufacturer");
-    QTEST(p->IsFav(), "fav");
+    QVERIFY(!p->IsFav());
     QTEST(*p->GetMatrix(), "matrix");
     QCOMPARE(p->GetPreDryInfo(), false);
 }
