@@ -58,7 +58,6 @@ private slots:
     void summaryStageMapping();
     void frontPosition_data();
     void frontPosition();
-    void latestYCapsTheIndex_data();
     void latestYCapsTheIndex();
     void flatRampHasNoPosition();
     void holdIsTimedFromItsFirstReport();
@@ -162,26 +161,18 @@ void TestChart::frontPosition()
     QCOMPARE(geo::FrontX(detailed, {stage, text}, temperature, elapsedMs), x);
 }
 
-void TestChart::latestYCapsTheIndex_data()
-{
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
-    QTest::newRow("inside ramp 2: its end") << 2.5 << 1000.0;
-    QTest::newRow("beyond: capped") << 9.5 << 600.0;
-    QTest::newRow("infinite: capped") << double(INFINITY) << 600.0;
-    QTest::newRow("not a number: first") << double(NAN) << 0.0;
-}
-
 void TestChart::latestYCapsTheIndex()
 {
-    QFETCH(double, x);
-    QFETCH(double, y);
     Chart chart;
     QtCharts::QLineSeries series;
     series.replace(detailed.points);
-    QCOMPARE(chart.CalculateLatestY(x, &series, QStringLiteral("heat"), 987), y);
-    QCOMPARE(chart.CalculateLatestY(x, &series, QStringLiteral("hold"), 987), 987.0);
-    QCOMPARE(chart.CalculateLatestY(x, nullptr, QStringLiteral("heat"), 987), 0.0);
+    // Inside ramp 2: its end; beyond or infinite: capped at the last; not a number: the first.
+    const QList<QPair<double, double>> cases = {{2.5, 1000.0}, {9.5, 600.0}, {INFINITY, 600.0}, {NAN, 0.0}};
+    for (const auto &[x, y] : cases) {
+        QCOMPARE(chart.CalculateLatestY(x, &series, QStringLiteral("heat"), 987), y);
+        QCOMPARE(chart.CalculateLatestY(x, &series, QStringLiteral("hold"), 987), 987.0);
+        QCOMPARE(chart.CalculateLatestY(x, nullptr, QStringLiteral("heat"), 987), 0.0);
+    }
 }
 
 void TestChart::flatRampHasNoPosition()
