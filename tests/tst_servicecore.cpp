@@ -8,6 +8,7 @@
 #include "programs/program.h"
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
+#include "updatefiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,6 +26,8 @@
 using ovra::Communication::InternalCommunicator;
 using ovra::GlobalElements::Program;
 using ovra::Settings::UsbFiles;
+using UpdateFiles::Read;
+using UpdateFiles::Write;
 
 namespace {
 // The server shares this thread: wait with the event loop running.
@@ -34,18 +37,6 @@ QByteArray Answer(QTcpSocket &socket, const QByteArray &message)
     QByteArray answer;
     (void)QTest::qWaitFor([&] { return (answer += socket.readAll()).size() >= 3; }, 5000);
     return answer;
-}
-
-bool Write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-QByteArray Read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
 }
 
 // Inode and modification time: equal only for a file nobody wrote.
