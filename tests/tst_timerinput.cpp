@@ -31,40 +31,27 @@ void TstTimerInput::correctTimerEntry_data()
     QTest::addColumn<QString>("entered"); // d.m.y h:m
     QTest::addColumn<QString>("request");
 
-    const QDate d(2026, 11, 22);
-    const QTime t(10, 0, 30);
-    QTest::newRow("future start, padded") << d << t << "3.3.2027 9:5"
-                                          << "timer==20270303,0905";
-    QTest::newRow("this minute is not past") << d << t << "22.11.2026 10:0"
-                                             << "timer==20261122,1000";
-    QTest::newRow("past year") << d << t << "1.12.2020 8:0"
-                               << "timer==20261201,0800";
-    QTest::newRow("past year, earlier month and day") << d << t << "5.3.2020 12:0"
-                                                      << "timer==20261122,1200";
-    QTest::newRow("empty year, non-digit minute") << d << t << "1.12. 8:x"
-                                                  << "timer==20261201,0800";
-    QTest::newRow("month above 12 next year") << d << t << "10.13.2027 8:0"
-                                              << "timer==20271110,0800";
-    QTest::newRow("month 0 next year") << d << t << "5.0.2027 8:0"
-                                       << "timer==20270105,0800";
-    QTest::newRow("31 April") << d << t << "31.4.2027 8:0"
-                              << "timer==20270430,0800";
-    QTest::newRow("29 February, no leap year") << d << t << "29.2.2027 8:0"
-                                               << "timer==20270228,0800";
-    QTest::newRow("30 February, leap year") << d << t << "30.2.2028 8:0"
-                                            << "timer==20280229,0800";
-    QTest::newRow("past day this month") << d << t << "10.11.2026 12:0"
-                                         << "timer==20261122,1200";
-    QTest::newRow("past time today") << d << t << "22.11.2026 9:59"
-                                     << "timer==20261123,0959";
-    QTest::newRow("past day, then past time") << d << t << "10.11.2026 8:0"
-                                              << "timer==20261123,0800";
-    QTest::newRow("past time on 31 December") << QDate(2026, 12, 31) << QTime(23, 0) << "31.12.2026 22:0"
-                                              << "timer==20270101,2200";
-    QTest::newRow("past time on 28 February, leap year") << QDate(2028, 2, 28) << QTime(12, 0) << "28.2.2028 11:0"
-                                                         << "timer==20280229,1100";
-    QTest::newRow("hour and minute out of range") << d << t << "1.12.2026 99:75"
-                                                  << "timer==20261201,2359";
+    const auto row = [](const char *tag, const char *entered, const char *request,
+                        const QDate &today = QDate(2026, 11, 22), const QTime &now = QTime(10, 0, 30)) {
+        QTest::newRow(tag) << today << now << QString::fromLatin1(entered) << QString::fromLatin1(request);
+    };
+    row("future start, padded", "3.3.2027 9:5", "timer==20270303,0905");
+    row("this minute is not past", "22.11.2026 10:0", "timer==20261122,1000");
+    row("past year", "1.12.2020 8:0", "timer==20261201,0800");
+    row("past year, earlier month and day", "5.3.2020 12:0", "timer==20261122,1200");
+    row("empty year, non-digit minute", "1.12. 8:x", "timer==20261201,0800");
+    row("month above 12 next year", "10.13.2027 8:0", "timer==20271110,0800");
+    row("month 0 next year", "5.0.2027 8:0", "timer==20270105,0800");
+    row("31 April", "31.4.2027 8:0", "timer==20270430,0800");
+    row("29 February, no leap year", "29.2.2027 8:0", "timer==20270228,0800");
+    row("30 February, leap year", "30.2.2028 8:0", "timer==20280229,0800");
+    row("past day this month", "10.11.2026 12:0", "timer==20261122,1200");
+    row("past time today", "22.11.2026 9:59", "timer==20261123,0959");
+    row("past day, then past time", "10.11.2026 8:0", "timer==20261123,0800");
+    row("past time on 31 December", "31.12.2026 22:0", "timer==20270101,2200", QDate(2026, 12, 31), QTime(23, 0));
+    row("past time on 28 February, leap year", "28.2.2028 11:0", "timer==20280229,1100", QDate(2028, 2, 28),
+        QTime(12, 0));
+    row("hour and minute out of range", "1.12.2026 99:75", "timer==20261201,2359");
 }
 
 void TstTimerInput::correctTimerEntry()
@@ -105,28 +92,19 @@ void TstTimerInput::invalidFields_data()
     QTest::addColumn<QString>("time");
     QTest::addColumn<DateTimeFields>("invalid");
 
-    const DateTimeFields none;
-    QTest::newRow("single digits") << "5.3.2027"
-                                   << "9:5" << none;
-    QTest::newRow("last moment") << "31.12.2099"
-                                 << "23:59" << none;
-    QTest::newRow("29 February 2000") << "29.02.2000"
-                                      << "10:00" << none;
-    QTest::newRow("29 February, no leap year") << "29.02.2027"
-                                               << "10:00" << DateTimeFields(DateTimeField::Day);
-    QTest::newRow("31 April") << "31.04.2027"
-                              << "10:00" << DateTimeFields(DateTimeField::Day);
-    QTest::newRow("month 13 only blames the month") << "31.13.2027"
-                                                    << "10:00" << DateTimeFields(DateTimeField::Month);
-    QTest::newRow("year 1999") << "01.01.1999"
-                               << "10:00" << DateTimeFields(DateTimeField::Year);
-    QTest::newRow("hour 24") << "01.01.2027"
-                             << "24:00" << DateTimeFields(DateTimeField::Hour);
-    QTest::newRow("minute 60") << "01.01.2027"
-                               << "23:60" << DateTimeFields(DateTimeField::Minute);
-    QTest::newRow("empty or not digits") << ".+5.2027"
-                                         << " 1:"
-                                         << (DateTimeField::Day | DateTimeField::Month | DateTimeField::Minute);
+    const auto row = [](const char *tag, const char *date, const char *time, DateTimeFields invalid) {
+        QTest::newRow(tag) << QString::fromLatin1(date) << QString::fromLatin1(time) << invalid;
+    };
+    row("single digits", "5.3.2027", "9:5", {});
+    row("last moment", "31.12.2099", "23:59", {});
+    row("29 February 2000", "29.02.2000", "10:00", {});
+    row("29 February, no leap year", "29.02.2027", "10:00", DateTimeField::Day);
+    row("31 April", "31.04.2027", "10:00", DateTimeField::Day);
+    row("month 13 only blames the month", "31.13.2027", "10:00", DateTimeField::Month);
+    row("year 1999", "01.01.1999", "10:00", DateTimeField::Year);
+    row("hour 24", "01.01.2027", "24:00", DateTimeField::Hour);
+    row("minute 60", "01.01.2027", "23:60", DateTimeField::Minute);
+    row("empty or not digits", ".+5.2027", " 1:", DateTimeField::Day | DateTimeField::Month | DateTimeField::Minute);
 }
 
 void TstTimerInput::invalidFields()
