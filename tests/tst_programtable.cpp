@@ -70,24 +70,15 @@ void TstProgramTable::digitPad_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("key"); // a digit, or "C" for clear
     QTest::addColumn<QString>("after");
-    QTest::newRow("digit replaces a lone 0") << "0"
-                                             << "7"
-                                             << "7";
-    QTest::newRow("0 on 0 stays one 0") << "0"
-                                        << "0"
-                                        << "0";
-    QTest::newRow("digit is appended") << "12"
-                                       << "0"
-                                       << "120";
-    QTest::newRow("clear drops last digit") << "120"
-                                            << "C"
-                                            << "12";
-    QTest::newRow("clear on one digit gives 0") << "5"
-                                                << "C"
-                                                << "0";
-    QTest::newRow("clear on 0 stays") << "0"
-                                      << "C"
-                                      << "0";
+    const auto row = [](const char *tag, const char *before, const char *key, const char *after) {
+        QTest::newRow(tag) << QString::fromLatin1(before) << QString::fromLatin1(key) << QString::fromLatin1(after);
+    };
+    row("digit replaces a lone 0", "0", "7", "7");
+    row("0 on 0 stays one 0", "0", "0", "0");
+    row("digit is appended", "12", "0", "120");
+    row("clear drops last digit", "120", "C", "12");
+    row("clear on one digit gives 0", "5", "C", "0");
+    row("clear on 0 stays", "0", "C", "0");
 }
 
 void TstProgramTable::digitPad()
