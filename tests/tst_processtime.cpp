@@ -29,19 +29,16 @@ void TestProcessTime::minutes_data()
     QTest::addColumn<bool>("fahrenheit");
     QTest::addColumn<qint64>("expected");
 
-    QTest::newRow("one segment") << ProcessTime::Matrix{{10u, 1000u, 30u}} << 20 << 0u << false << qint64(128);
-    QTest::newRow("remainder dropped") << ProcessTime::Matrix{{7u, 1000u, 0u}} << 20 << 0u << false << qint64(140);
-    QTest::newRow("fall counts") << ProcessTime::Matrix{{10u, 1000u, 0u}, {5u, 900u, 10u}} << 20 << 0u << false
-                                 << qint64(98 + 20 + 10);
-    QTest::newRow("oven hotter than target")
-        << ProcessTime::Matrix{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);
-    QTest::newRow("pre-dry hot oven, celsius")
-        << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << false << qint64(0 + 15 - 7);
-    QTest::newRow("pre-dry hot oven, fahrenheit")
-        << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 15u << true << qint64(15);
-    QTest::newRow("pre-dry cold oven") << ProcessTime::Matrix{{10u, 20u, 0u}} << 20 << 30u << true << qint64(41);
-    QTest::newRow("no pre-dry adds nothing") << ProcessTime::Matrix{{10u, 200u, 0u}} << 200 << 0u << false << qint64(0);
-    QTest::newRow("zero rate is no time") << ProcessTime::Matrix{{0u, 1000u, 5u}} << 20 << 0u << false << qint64(5);
+    using M = ProcessTime::Matrix;
+    QTest::newRow("one segment") << M{{10u, 1000u, 30u}} << 20 << 0u << false << qint64(128);
+    QTest::newRow("remainder dropped") << M{{7u, 1000u, 0u}} << 20 << 0u << false << qint64(140);
+    QTest::newRow("fall counts") << M{{10u, 1000u, 0u}, {5u, 900u, 10u}} << 20 << 0u << false << qint64(98 + 20 + 10);
+    QTest::newRow("oven hotter than target") << M{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);
+    QTest::newRow("pre-dry hot oven, celsius") << M{{10u, 200u, 0u}} << 200 << 15u << false << qint64(0 + 15 - 7);
+    QTest::newRow("pre-dry hot oven, fahrenheit") << M{{10u, 200u, 0u}} << 200 << 15u << true << qint64(15);
+    QTest::newRow("pre-dry cold oven") << M{{10u, 20u, 0u}} << 20 << 30u << true << qint64(41);
+    QTest::newRow("no pre-dry adds nothing") << M{{10u, 200u, 0u}} << 200 << 0u << false << qint64(0);
+    QTest::newRow("zero rate is no time") << M{{0u, 1000u, 5u}} << 20 << 0u << false << qint64(5);
 }
 
 void TestProcessTime::minutes()
