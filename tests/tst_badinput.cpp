@@ -92,42 +92,11 @@ void TestBadInput::keySocketManyClientsAndASilentOne()
 void TestBadInput::controllerKeywordValues_data()
 {
     QTest::addColumn<QString>("keyword");
-    const QStringList keywords{"argon",
-                               "country",
-                               "date",
-                               "doorclose",
-                               "error",
-                               "esttime",
-                               "guistate",
-                               "hfcount",
-                               "hpfailed",
-                               "hpinfo",
-                               "hpsuccess",
-                               "hwver",
-                               "initialstart",
-                               "lang",
-                               "matchanged",
-                               "maxrate",
-                               "ophours",
-                               "reseterror",
-                               "serialno",
-                               "stage",
-                               "stargon",
-                               "stcooling",
-                               "stdoor",
-                               "stheater",
-                               "swver",
-                               "temp",
-                               "time",
-                               "unit",
-                               "usb",
-                               "update",
-                               "heatfile",
-                               "st",
-                               "waitforuserinteraction",
-                               "insulationmissing",
-                               "nosuchword"};
-    for (const QString &k : keywords)
+    const QString keywords = QStringLiteral(
+        "argon country date doorclose error esttime guistate hfcount hpfailed hpinfo hpsuccess hwver initialstart lang "
+        "matchanged maxrate ophours reseterror serialno stage stargon stcooling stdoor stheater swver temp time unit "
+        "usb update heatfile st waitforuserinteraction insulationmissing nosuchword");
+    for (const QString &k : keywords.split(QLatin1Char(' ')))
         QTest::newRow(qPrintable(k)) << k;
 }
 
@@ -144,6 +113,7 @@ void TestBadInput::controllerKeywordValues()
                                    "==",
                                    "[1];temp=-5;rate=;hold=x;",
                                    QByteArray(5000, ';')};
+    const QByteArray ack = QByteArray(1, Frame::startByte) + "ack";
     std::vector<std::unique_ptr<ovra::GlobalElements::Program>> store;
     for (const QByteArray &value : values) {
         // A handler each time: "update==" turns every later frame into an update block.
@@ -155,16 +125,10 @@ void TestBadInput::controllerKeywordValues()
         // Clock values the panel cannot set and unknown words are refused; any other value is
         // taken (numbers that are not numbers read as 0) or ignored by the page it is for.
         const bool refused = keyword == "date" || keyword == "time" || keyword == "nosuchword";
-        QVERIFY2(answer.startsWith(refused ? "\x02"
-                                             "nack"
-                                           : "\x02"
-                                             "ack"),
-                 value.left(20).constData());
+        QVERIFY2(answer.startsWith(refused ? QByteArray("\x02nack") : ack), value.left(20).constData());
         // And the next good frame is taken as ever, outside an update.
         if (keyword != QLatin1String("update"))
-            QVERIFY(handler.HandleMessage(QString::fromLatin1(Frame::Build("temp==1273")))
-                        .startsWith("\x02"
-                                    "ack"));
+            QVERIFY(handler.HandleMessage(QString::fromLatin1(Frame::Build("temp==1273"))).startsWith(ack));
     }
 }
 
