@@ -74,17 +74,10 @@ void TestSimFrame::checksum()
 
 void TestSimFrame::framesAndAnswers()
 {
-    QCOMPARE(simframe::buildFrame({"ack"}), QByteArray("\x02"
-                                                       "ack$$-47"
-                                                       "\x03"));
+    QCOMPARE(simframe::buildFrame({"ack"}), QByteArray("\002ack$$-47\003"));
     // Out of a stream: noise and a frame cut off by a new start byte are dropped.
-    QByteArray buffer("noise\x03"
-                      "\x02"
-                      "ack$$gui"
-                      "\x02"
-                      "ack$$-47\x03"
-                      "\x02"
-                      "nack$$-",
+    QByteArray buffer("noise\003\002ack$$gui"
+                      "\002ack$$-47\003\002nack$$-",
                       -1);
     QCOMPARE(simframe::takeFrames(buffer), Fields{"ack$$-47"});
     buffer += "50\x03";
