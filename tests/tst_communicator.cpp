@@ -239,8 +239,7 @@ void TestCommunicator::noAnswerWithoutAnEndByte()
 {
     // Requests never leave on their own: only a dispatched frame is answered.
     m_handler->SetRequest(QStringLiteral("doorclose"));
-    sendChunk(QByteArray("\x02"
-                         "temp==1473$$"));
+    sendChunk(QByteArray("\002temp==1473$$"));
     sendChunk(QByteArray("-12"));
     QVERIFY(m_pty->readAvailable().isEmpty());
     QCOMPARE(countLog(QStringLiteral("Pis Answer: ")), 0);
@@ -292,8 +291,7 @@ void TestCommunicator::vanishedDeviceIsClosedAndReopened()
 void TestCommunicator::oversizedPartialFrameIsDropped()
 {
     QSignalSpy temperature(m_handler.data(), &MessageHandler::SignalTemperature);
-    sendChunk(QByteArray("\x02"
-                         "temp==1"));
+    sendChunk(QByteArray("\002temp==1"));
     const QByteArray filler(64 * 1024, '7');
     for (int sent = 0; sent <= Communicator::maxBufferBytes; sent += filler.size())
         sendChunk(filler);
