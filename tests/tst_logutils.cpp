@@ -93,9 +93,7 @@ void TestLogUtils::ninePlusFilesKeepTheFiveNewest()
 void TestLogUtils::messageIsWrittenVerbatim()
 {
     logs::initLogging();
-    qDebug() << "received data: "
-             << QByteArray("\x02"
-                           "ack\x03");
+    qDebug() << "received data: " << QByteArray("\002ack\003");
     qWarning("second line");
     QFile file(logs::logFileName);
     QVERIFY(file.open(QIODevice::ReadOnly));
