@@ -58,11 +58,10 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
 
     QProcess sim;
     sim.start(QStringLiteral(OVRA_HX3SIM_BINARY),
-              {QStringLiteral("--interval"), QStringLiteral("200"), QStringLiteral("--update"), zip,
-               QStringLiteral("--update-block"), QStringLiteral("960"), QStringLiteral("--update-drop"),
-               QStringLiteral("5"), QStringLiteral("--update-corrupt"), QStringLiteral("5"),
-               QStringLiteral("--update-reorder"), QStringLiteral("2"), QStringLiteral("--update-seed"),
-               QStringLiteral("11"), QStringLiteral("--update-baud"), QStringLiteral("0")});
+              QStringList{QStringLiteral("--update"), zip} +
+                  QStringLiteral("--interval 200 --update-block 960 --update-drop 5 --update-corrupt 5 "
+                                 "--update-reorder 2 --update-seed 11 --update-baud 0")
+                      .split(QLatin1Char(' ')));
     QVERIFY(sim.waitForStarted());
     QStringList printed;
     // Read as it comes: a full pipe would stall the simulator.
