@@ -4,9 +4,8 @@
 
 Simulator::Simulator(const QStringList &arguments)
 {
-    m_process.start(QStringLiteral(OVRA_HX3SIM_BINARY), QStringList{QStringLiteral("--interval"), QStringLiteral("200"),
-                                                                    QStringLiteral("--step-ms"), QStringLiteral("60")} +
-                                                            arguments);
+    m_process.start(QStringLiteral(OVRA_HX3SIM_BINARY),
+                    QStringLiteral("--interval 200 --step-ms 60").split(QLatin1Char(' ')) + arguments);
 }
 
 Simulator::~Simulator()
