@@ -1,5 +1,6 @@
 // Rotating log files: naming, trimming of the folder, rotation past the size limit.
 #include "app/logutils.h"
+#include "updatefiles.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -95,22 +96,15 @@ void TestLogUtils::messageIsWrittenVerbatim()
     logs::initLogging();
     qDebug() << "received data: " << QByteArray("\002ack\003");
     qWarning("second line");
-    QFile file(logs::logFileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
     // qDebug's own quoting: a hex escape followed by a hex digit closes and reopens the quotes.
-    QCOMPARE(file.readAll(), QByteArray(R"(received data:  "\x02""ack\x03")"
-                                        "\nsecond line\n"));
+    QCOMPARE(UpdateFiles::Read(logs::logFileName), QByteArray(R"(received data:  "\x02""ack\x03")"
+                                                              "\nsecond line\n"));
 }
 
 void TestLogUtils::rotatesOnlyPastTheLimit()
 {
-    QDir().mkpath(logs::logFolderName);
     const QString first = logs::logFolderName + QStringLiteral("/Log_2000_01_01__00_00_00_000.txt");
-    {
-        QFile file(first);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(logs::logFileMaxBytes, 'x'));
-    }
+    QVERIFY(UpdateFiles::Write(first, QByteArray(logs::logFileMaxBytes, 'x')));
     logs::logFileName = first;
     const QMessageLogContext context;
 
@@ -122,9 +116,7 @@ void TestLogUtils::rotatesOnlyPastTheLimit()
     // Now beyond it: this message begins a new file named by its own time.
     logs::myMessageHandler(QtDebugMsg, context, QStringLiteral("past the limit"));
     QVERIFY(logs::logFileName != first);
-    QFile next(logs::logFileName);
-    QVERIFY(next.open(QIODevice::ReadOnly));
-    QCOMPARE(next.readAll(), QByteArray("past the limit\n"));
+    QCOMPARE(UpdateFiles::Read(logs::logFileName), QByteArray("past the limit\n"));
     QCOMPARE(QFileInfo(first).size(), logs::logFileMaxBytes + 13);
 }
 
