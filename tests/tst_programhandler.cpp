@@ -127,13 +127,13 @@ void TestProgramHandler::savingATakenNameNeedsTheOverwriteQuestion()
     ProgramHandler store;
     QSignalSpy sent(&store, &ProgramHandler::SignalSendProgToHX3);
     QSignalSpy shown(&store, &ProgramHandler::SignalShowProg);
-    Program *first = make(QStringLiteral("Mine"), QStringLiteral("user"), QStringLiteral("Zirkon"), true);
+    Program *first = make("Mine", "user", "Zirkon", true);
     store.Slot_AddProgramToList(first);
     QCOMPARE(sent.count(), 1);
     QCOMPARE(shown.count(), 1);
 
     // Same name, no overwrite confirmed: nothing stored, nothing sent.
-    store.Slot_AddProgramToList(make(QStringLiteral("Mine")));
+    store.Slot_AddProgramToList(make("Mine"));
     QCOMPARE(sent.count(), 1);
     QCOMPARE(store.GetProgramList()->size(), 1);
     QCOMPARE(store.GetProgramList()->first(), first);
@@ -148,7 +148,7 @@ void TestProgramHandler::savingATakenNameNeedsTheOverwriteQuestion()
     QCOMPARE(sent.count(), 2);
     QVERIFY(sent.last().at(0).toString().contains(QStringLiteral("favorite=true;[1];rate=5;temp=1173;hold=180;")));
     QVERIFY(!store.IsChangeActive());
-    store.Slot_AddProgramToList(make(QStringLiteral("Mine")));
+    store.Slot_AddProgramToList(make("Mine"));
     QCOMPARE(sent.count(), 2);
 }
 
@@ -156,13 +156,12 @@ void TestProgramHandler::receivedProgramReplacesInPlace()
 {
     ProgramHandler store;
     QSignalSpy sent(&store, &ProgramHandler::SignalSendProgToHX3);
-    store.Slot_AddReceivedProgram(make(QStringLiteral("A")));
-    store.Slot_AddReceivedProgram(make(QStringLiteral("B")));
-    store.Slot_AddReceivedProgram(make(QStringLiteral("C")));
-    Program *fresh = make(QStringLiteral("B"), QStringLiteral("Zircos"));
+    store.Slot_AddReceivedProgram(make("A"));
+    store.Slot_AddReceivedProgram(make("B"));
+    store.Slot_AddReceivedProgram(make("C"));
+    Program *fresh = make("B", "Zircos");
     store.Slot_AddReceivedProgram(fresh);
-    QCOMPARE(names(*store.GetProgramList()),
-             (QStringList{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+    QCOMPARE(names(*store.GetProgramList()), (QStringList{"A", "B", "C"}));
     QCOMPARE(store.GetProgramList()->at(1), fresh);
     QCOMPARE(sent.count(), 0); // programs from the controller are only stored
 }
@@ -170,17 +169,17 @@ void TestProgramHandler::receivedProgramReplacesInPlace()
 void TestProgramHandler::favourites()
 {
     ProgramHandler store;
-    Program *a = make(QStringLiteral("A"));
-    Program *b = make(QStringLiteral("B"));
+    Program *a = make("A");
+    Program *b = make("B");
     store.Slot_AddReceivedProgram(a);
     store.Slot_AddReceivedProgram(b);
     store.Slot_SetProgramToFav(b);
     store.Slot_SetProgramToFav(a);
     // Program-list order, decided by the flags.
-    QCOMPARE(names(store.GetFavoriteProgramList()), (QStringList{QStringLiteral("A"), QStringLiteral("B")}));
+    QCOMPARE(names(store.GetFavoriteProgramList()), (QStringList{"A", "B"}));
 
     // Turning off a program that is not on the favourites list leaves its flag alone.
-    Program *c = make(QStringLiteral("C"), QStringLiteral("user"), QStringLiteral("Zirkon"), true);
+    Program *c = make("C", "user", "Zirkon", true);
     store.Slot_AddReceivedProgram(c);
     store.Slot_DeleteProgramFromFavoriteList(c);
     QVERIFY(c->IsFav());
@@ -190,7 +189,7 @@ void TestProgramHandler::favourites()
 
     // A favourite replaced from the controller: the favourites list follows the new record,
     // so turning it off afterwards works and nothing points at the retired one.
-    Program *b2 = make(QStringLiteral("B"));
+    Program *b2 = make("B");
     b2->SetFav(true);
     store.Slot_AddReceivedProgram(b2);
     store.ReleaseRetired();
@@ -205,15 +204,15 @@ void TestProgramHandler::deleteByName()
     store.Slot_DeleteProgramFromList(QStringLiteral("nothing"));
     QCOMPARE(requests.count(), 0);
 
-    Program *x1 = make(QStringLiteral("X"));
-    Program *x2 = make(QStringLiteral("X"));
+    Program *x1 = make("X");
+    Program *x2 = make("X");
     store.GetProgramList()->append(x1); // two adjacent records of one name
     store.GetProgramList()->append(x2);
-    store.Slot_AddReceivedProgram(make(QStringLiteral("Y")));
+    store.Slot_AddReceivedProgram(make("Y"));
     store.Slot_SetProgramToFav(x1);
     store.Slot_DeleteProgramFromList(QStringLiteral("X"));
     // The second of two adjacent records of the name is skipped.
-    QCOMPARE(names(*store.GetProgramList()), (QStringList{QStringLiteral("X"), QStringLiteral("Y")}));
+    QCOMPARE(names(*store.GetProgramList()), (QStringList{"X", "Y"}));
     QCOMPARE(store.GetProgramList()->first(), x2);
     QCOMPARE(requests.count(), 1);
     QCOMPARE(requests.at(0).at(0).toString(), QStringLiteral("hpdelete==X"));
@@ -225,12 +224,12 @@ void TestProgramHandler::replacedRecordsStayUntilReleased()
     // A page may still show a button for a replaced or deleted record: it must stay readable
     // until the store is told the pages are rebuilt (checked under the sanitizer build).
     auto *store = new ProgramHandler;
-    Program *old = make(QStringLiteral("P"));
+    Program *old = make("P");
     store->Slot_AddReceivedProgram(old);
-    store->Slot_AddReceivedProgram(make(QStringLiteral("P")));
-    store->Slot_AddReceivedProgram(make(QStringLiteral("Q")));
+    store->Slot_AddReceivedProgram(make("P"));
+    store->Slot_AddReceivedProgram(make("Q"));
     store->Slot_DeleteProgramFromList(QStringLiteral("Q"));
-    store->Slot_AddProgramToList(make(QStringLiteral("P"))); // refused: retired too
+    store->Slot_AddProgramToList(make("P")); // refused: retired too
     QCOMPARE(store->RetiredCount(), 3);
     QCOMPARE(old->GetName(), QStringLiteral("P"));
     store->ReleaseRetired();
