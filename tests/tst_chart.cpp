@@ -54,7 +54,6 @@ class TestChart : public QObject
 private slots:
     void profileAndAxes();
     void summaryProfile();
-    void summaryStageMapping_data();
     void summaryStageMapping();
     void frontPosition_data();
     void frontPosition();
@@ -110,27 +109,19 @@ void TestChart::summaryProfile()
     }
 }
 
-void TestChart::summaryStageMapping_data()
-{
-    QTest::addColumn<unsigned int>("stage");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<unsigned int>("mappedStage");
-    QTest::addColumn<QString>("mappedText");
-    QTest::newRow("before") << 1u << "hold" << 1u << "heat";
-    QTest::newRow("hottest keeps its text") << 2u << "hold" << 1u << "hold";
-    QTest::newRow("after, even done") << 89u << "done" << 2u << "heat";
-    QTest::newRow("90 and above untouched") << 90u << "cool" << 90u << "cool";
-}
-
 void TestChart::summaryStageMapping()
 {
-    QFETCH(unsigned int, stage);
-    QFETCH(QString, text);
-    QFETCH(unsigned int, mappedStage);
-    QFETCH(QString, mappedText);
-    QCOMPARE(geo::MapStage(summary, {stage, text}).stage, mappedStage);
-    QCOMPARE(geo::MapStage(summary, {stage, text}).text, mappedText);
-    QCOMPARE(geo::MapStage(detailed, {stage, text}).stage, stage);
+    // Before the hottest stage: heat; the hottest keeps its text; after it, even done: heat of
+    // stage 2; 90 and above untouched. The detailed profile keeps every stage.
+    const QList<QPair<geo::Report, geo::Report>> cases = {{rep(1, "hold"), rep(1, "heat")},
+                                                          {rep(2, "hold"), rep(1, "hold")},
+                                                          {rep(89, "done"), rep(2, "heat")},
+                                                          {rep(90, "cool"), rep(90, "cool")}};
+    for (const auto &[report, mapped] : cases) {
+        QCOMPARE(geo::MapStage(summary, report).stage, mapped.stage);
+        QCOMPARE(geo::MapStage(summary, report).text, mapped.text);
+        QCOMPARE(geo::MapStage(detailed, report).stage, report.stage);
+    }
 }
 
 void TestChart::frontPosition_data()
