@@ -18,23 +18,17 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <functional>
 #include <memory>
 
 using namespace ovra::Popups;
 
 namespace {
 
-std::unique_ptr<QDialog> makePopup(const QString &name, QWidget *parent)
+using Factory = QDialog *(*)(QWidget *);
+template <class T>
+QDialog *create(QWidget *parent)
 {
-    static const QMap<QString, std::function<QDialog *(QWidget *)>> factories = {
-        {QStringLiteral("PopupDeleteFailureList"), [](QWidget *p) { return new PopupDeleteFailureList(p); }},
-        {QStringLiteral("PopupStop"), [](QWidget *p) { return new PopupStop(p); }},
-        {QStringLiteral("PopupDeleteProgram"), [](QWidget *p) { return new PopupDeleteProgram(p); }},
-        {QStringLiteral("PopupQuitProgram"), [](QWidget *p) { return new PopupQuitProgram(p); }},
-        {QStringLiteral("PopupArgonFailure"), [](QWidget *p) { return new PopupArgonFailure(p); }},
-    };
-    return std::unique_ptr<QDialog>(factories.value(name)(parent));
+    return new T(parent);
 }
 
 QLineEdit *field(QWidget *popup, const char *name)
@@ -61,6 +55,8 @@ bool isCurrent(QLineEdit *f)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Factory)
 
 class TstPopups : public QObject
 {
@@ -109,33 +105,33 @@ void TstPopups::cleanup()
 
 void TstPopups::confirmButtons_data()
 {
-    QTest::addColumn<QString>("name");
+    QTest::addColumn<Factory>("create");
     QTest::addColumn<QByteArray>("okName");
     QTest::addColumn<QByteArray>("cancelName"); // empty: there is none
     QTest::addColumn<QByteArray>("signal");
     QTest::addColumn<QVariantList>("okArgs");
     QTest::addColumn<QVariant>("cancelArg"); // invalid: cancel sends nothing
 
-    const auto row = [](const char *tag, const char *popup, const char *ok, const char *cancel, const char *signal,
+    const auto row = [](const char *tag, Factory popup, const char *ok, const char *cancel, const char *signal,
                         const QVariantList &okArgs, const QVariant &cancelArg) {
-        QTest::newRow(tag) << QString::fromLatin1(popup) << QByteArray(ok) << QByteArray(cancel) << QByteArray(signal)
-                           << okArgs << cancelArg;
+        QTest::newRow(tag) << popup << QByteArray(ok) << QByteArray(cancel) << QByteArray(signal) << okArgs
+                           << cancelArg;
     };
     const char *okButton = "pushButton_OK", *cancelButton = "pushButton_Cancel";
-    row("stop", "PopupStop", okButton, cancelButton, SIGNAL(SignalPopupStopButton(bool)), {true}, false);
+    row("stop", create<PopupStop>, okButton, cancelButton, SIGNAL(SignalPopupStopButton(bool)), {true}, false);
     // The factory-reset and override questions are answered in the service and editor tests.
-    row("delete program", "PopupDeleteProgram", okButton, cancelButton, SIGNAL(SignalDeleteProgram()), {}, {});
-    row("quit program", "PopupQuitProgram", "pushButton_okQuit", "pushButton_nokQuit", SIGNAL(SignalQuitProgram()), {},
-        {});
-    row("delete failure list", "PopupDeleteFailureList", "pushButton_OKDel", "pushButton_XDel",
+    row("delete program", create<PopupDeleteProgram>, okButton, cancelButton, SIGNAL(SignalDeleteProgram()), {}, {});
+    row("quit program", create<PopupQuitProgram>, "pushButton_okQuit", "pushButton_nokQuit",
+        SIGNAL(SignalQuitProgram()), {}, {});
+    row("delete failure list", create<PopupDeleteFailureList>, "pushButton_OKDel", "pushButton_XDel",
         SIGNAL(SignalPopupDeleteFailureListButton()), {}, {});
-    row("argon failure", "PopupArgonFailure", "pushButton_ArgonFailureOK", "", SIGNAL(SignalPopupArgonFailureOK()), {},
-        {});
+    row("argon failure", create<PopupArgonFailure>, "pushButton_ArgonFailureOK", "",
+        SIGNAL(SignalPopupArgonFailureOK()), {}, {});
 }
 
 void TstPopups::confirmButtons()
 {
-    QFETCH(QString, name);
+    QFETCH(Factory, create);
     QFETCH(QByteArray, okName);
     QFETCH(QByteArray, cancelName);
     QFETCH(QByteArray, signal);
@@ -146,7 +142,7 @@ void TstPopups::confirmButtons()
         if (!ok && cancelName.isEmpty())
             break;
         // Without a window to live in, a popup is a window of its own and answers the same.
-        auto popup = makePopup(name, ok ? m_host.get() : nullptr);
+        std::unique_ptr<QDialog> popup(create(ok ? m_host.get() : nullptr));
         QSignalSpy spy(popup.get(), signal.constData());
         QVERIFY(showPopup(popup.get()));
         click(popup.get(), (ok ? okName : cancelName).constData());
