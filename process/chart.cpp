@@ -1,4 +1,5 @@
 #include "process/chart.h"
+#include "process/chartcolors.h"
 
 #include "process/chartview.h"
 #include "ui_chart.h"
@@ -18,11 +19,11 @@ using namespace QtCharts;
 
 namespace {
 
-const QColor fillColor(255, 166, 0);
-const QColor axisColor(83, 88, 91);
-const QColor profileColor(34, 49, 63);
-const QColor gridColor(214, 219, 223);
-const QColor plotColor(244, 246, 247);
+const QColor &fillColor = ChartColors::fill;
+const QColor &axisColor = ChartColors::axis;
+const QColor &profileColor = ChartColors::profile;
+const QColor &gridColor = ChartColors::grid;
+const QColor &plotColor = ChartColors::plot;
 
 constexpr int xLabelPoints = 12;
 constexpr int yLabelPixels = 15;

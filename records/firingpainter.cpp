@@ -1,5 +1,6 @@
 #include "records/firingpainter.h"
 
+#include "process/chartcolors.h"
 #include "process/chartgeometry.h"
 
 #include <QFontMetricsF>
@@ -15,10 +16,10 @@ const QColor green(0x2E, 0x9E, 0x5B);
 const QColor red(0xD6, 0x45, 0x45);
 const QColor amber(0xE0, 0xA1, 0x00);
 const QColor grey(0x8A, 0x97, 0xA6);
-const QColor slate(0x22, 0x31, 0x3F);
+const QColor &slate = GlobalElements::ChartColors::profile;
 const QColor orange(0xE8, 0x70, 0x2A);
-const QColor gridColor(214, 219, 223);
-const QColor plotColor(244, 246, 247);
+const QColor &gridColor = GlobalElements::ChartColors::grid;
+const QColor &plotColor = GlobalElements::ChartColors::plot;
 } // namespace
 
 void FiringPainter::Symbol(QPainter *painter, const QRectF &box, const QString &resultWord)

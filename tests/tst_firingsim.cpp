@@ -34,6 +34,15 @@ double frontX(ovra::GlobalElements::Chart *chart)
     const auto *progress = chart->GetProgressSeries();
     return progress->count() > 1 ? progress->at(1).x() : 0.0;
 }
+// The panel on the simulator's line, its self-test and one-second lock shortened.
+ovra::GlobalElements::PanelOptions onLine(const QTemporaryDir &home, Simulator &sim)
+{
+    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
+    options.port = sim.SlavePath();
+    options.selftestDelayMs = 200;
+    options.playLockMs = 20;
+    return options;
+}
 } // namespace
 
 class TestFiringWithSimulator : public QObject
@@ -68,13 +77,9 @@ void TestFiringWithSimulator::firings()
                    QStringLiteral("300"), QStringLiteral("--door-ms"), QStringLiteral("200"),
                    QStringLiteral("--verbose"), QStringLiteral("--programs"),
                    m_dir.path() + QStringLiteral("/programs.txt")});
-    const QString slave = sim.SlavePath();
-    QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
-    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
-    options.port = slave;
-    options.selftestDelayMs = 200;
-    options.playLockMs = 20;
+    const ovra::GlobalElements::PanelOptions options = onLine(home, sim);
+    QVERIFY(!options.port.isEmpty());
     MainWindow window(options);
     window.show();
     PanelView view(&window);
@@ -133,12 +138,9 @@ void TestFiringWithSimulator::umlautNameSurvivesARestart()
 {
     Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose"),
                    QStringLiteral("--programs"), m_dir.path() + QStringLiteral("/programs.txt")});
-    const QString slave = sim.SlavePath();
-    QVERIFY(!slave.isEmpty());
     QTemporaryDir home;
-    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
-    options.port = slave;
-    options.selftestDelayMs = 200;
+    const ovra::GlobalElements::PanelOptions options = onLine(home, sim);
+    QVERIFY(!options.port.isEmpty());
     const QString name = QStringLiteral("Br\u00FCcke");
     auto panel = std::make_unique<MainWindow>(options);
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
@@ -162,10 +164,7 @@ void TestFiringWithSimulator::languageFromTheControllerAndFromTheUser()
     const QDir built(QStringLiteral(OVRA_BINARY_DIR "/translations"));
     for (const QString &qm : built.entryList({QStringLiteral("*.qm")}))
         QVERIFY(QFile::copy(built.filePath(qm), translations + qm));
-    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
-    options.port = sim.SlavePath();
-    options.selftestDelayMs = 200;
-    MainWindow window(options);
+    MainWindow window(onLine(home, sim));
     window.show();
     PanelView view(&window);
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
