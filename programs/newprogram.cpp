@@ -7,11 +7,10 @@
 #include "programs/tablerow.h"
 #include "ui_newprogram.h"
 #include "widgets/iconbutton.h"
-#include "widgets/iconcache.h"
+#include "widgets/buttonkit.h"
 #include "widgets/keyboard.h"
 
 #include <QEvent>
-#include <QFile>
 #include <QIcon>
 #include <QLineEdit>
 #include <QPointer>
@@ -26,17 +25,7 @@ namespace GlobalElements {
 namespace {
 
 const QString gasMaterial = QStringLiteral("Argon");
-
-void SetKeyFace(QPushButton *key, const QString &iconPath, const QString &fallback)
-{
-    if (QFile::exists(iconPath)) {
-        key->setIcon(GlobalElements::IconCache::Get(iconPath));
-        key->setIconSize(QSize(40, 40));
-        key->setText(QString());
-    } else {
-        key->setText(fallback);
-    }
-}
+constexpr int padIconSide = 40;
 
 } // namespace
 
@@ -109,8 +98,10 @@ void NewProgram::SetupDigitPad()
         if (digit.size() == 1)
             connect(key, &QPushButton::clicked, this, [this, digit] { OnPadDigit(digit.at(0)); });
     }
-    SetKeyFace(ui->pushButton_padClear, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"));
-    SetKeyFace(ui->pushButton_padEnter, QStringLiteral(":/Icons/enter.png"), QStringLiteral("\u21B5"));
+    ButtonKit::SetKeyFace(ui->pushButton_padClear, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"),
+                          padIconSide);
+    ButtonKit::SetKeyFace(ui->pushButton_padEnter, QStringLiteral(":/Icons/enter.png"), QStringLiteral("\u21B5"),
+                          padIconSide);
     // Holding clear empties a field quickly, as on the name keyboard.
     ui->pushButton_padClear->setAutoRepeat(true);
     connect(ui->pushButton_padClear, &QPushButton::clicked, this, &NewProgram::OnPadClear);

@@ -40,7 +40,7 @@ QString Button::GetText() const
 void Button::SetIcon(const QString &resourcePath)
 {
     m_iconPath = resourcePath;
-    m_button->setIcon(IconCache::Get(resourcePath));
+    m_button->setIcon(IconCache::Get(resourcePath, iconSide));
     RefitCaption();
 }
 

@@ -47,7 +47,7 @@ QRect ButtonKit::CaptionRoom(QPushButton *button)
 void ButtonKit::SetKeyFace(QAbstractButton *key, const QString &iconPath, const QString &fallback, int iconSide)
 {
     if (QFile::exists(iconPath)) {
-        key->setIcon(IconCache::Get(iconPath));
+        key->setIcon(IconCache::Get(iconPath, iconSide));
         key->setIconSize(QSize(iconSide, iconSide));
         key->setText(QString());
     } else {

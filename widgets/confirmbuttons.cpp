@@ -22,7 +22,7 @@ void ConfirmButtons::Setup(QPushButton *ok, QPushButton *cancel)
 
 void ConfirmButtons::SetupOne(QPushButton *button, const QString &iconPath, const char *role)
 {
-    const QIcon icon = IconCache::Get(iconPath);
+    const QIcon icon = IconCache::Get(iconPath, iconSide);
     button->setText(QString());
     button->setIcon(icon);
     button->setIconSize(QSize(iconSide, iconSide));

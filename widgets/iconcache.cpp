@@ -1,6 +1,7 @@
 #include "widgets/iconcache.h"
 
 #include <QApplication>
+#include <QDebug>
 #include <QHash>
 #include <QIconEngine>
 #include <QImageReader>
@@ -63,18 +64,38 @@ private:
 
 } // namespace
 
-QIcon IconCache::Get(const QString &resourcePath)
+QIcon IconCache::Get(const QString &resourcePath, int side)
 {
     if (resourcePath.isEmpty())
         return QIcon();
     // Widgets live on the GUI thread only, so one table without a lock is enough.
-    static QHash<QString, QIcon> icons;
-    auto it = icons.find(resourcePath);
-    if (it == icons.end()) {
-        const bool photo = resourcePath.endsWith(QLatin1String(".jpg"), Qt::CaseInsensitive);
-        it = icons.insert(resourcePath, photo ? QIcon(new DeferredPhotoEngine(resourcePath)) : QIcon(resourcePath));
-    }
+    static QHash<QPair<QString, int>, QIcon> icons;
+    const bool photo = resourcePath.endsWith(QLatin1String(".jpg"), Qt::CaseInsensitive);
+    const QPair<QString, int> key(resourcePath, photo ? 0 : side);
+    auto it = icons.find(key);
+    if (it == icons.end())
+        it = icons.insert(key, photo ? QIcon(new DeferredPhotoEngine(resourcePath)) : Decode(resourcePath, key.second));
     return *it;
+}
+
+QIcon IconCache::Decode(const QString &resourcePath, int side)
+{
+    if (side <= 0)
+        return QIcon(resourcePath);
+    // The drawings are made for the largest tiles; a button that always shows its icon at one
+    // small size keeps only that size instead of the large original plus a scaled copy.
+    QImageReader reader(resourcePath);
+    const QSize natural = reader.size();
+    if (natural.width() > side || natural.height() > side)
+        reader.setScaledSize(natural.scaled(side, side, Qt::KeepAspectRatio));
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        qWarning() << "icon could not be read:" << resourcePath << reader.errorString();
+        return QIcon();
+    }
+    QIcon icon;
+    icon.addPixmap(QPixmap::fromImage(image));
+    return icon;
 }
 
 } // namespace ovra::GlobalElements

@@ -12,7 +12,11 @@ namespace ovra::GlobalElements {
 class IconCache
 {
 public:
-    static QIcon Get(const QString &resourcePath);
+    // side > 0: the picture is only ever shown at that size (or smaller), so only that is kept.
+    static QIcon Get(const QString &resourcePath, int side = 0);
+
+private:
+    static QIcon Decode(const QString &resourcePath, int side);
 };
 
 } // namespace ovra::GlobalElements
