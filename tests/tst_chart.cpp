@@ -1,4 +1,5 @@
 // The temperature chart: its geometry checked directly, then the widget drawn and tapped.
+#include "fakeholdclock.h"
 #include "process/chart.h"
 #include "process/chartgeometry.h"
 #include "process/chartview.h"
@@ -13,18 +14,6 @@ using namespace ovra::GlobalElements;
 namespace geo = ovra::GlobalElements::ChartGeometry;
 
 namespace {
-
-struct FakeClock : HoldClock
-{
-    void Restart() override
-    {
-        elapsedMs = 0;
-        ++restarts;
-    }
-    qint64 ElapsedMs() const override { return elapsedMs; }
-    qint64 elapsedMs = 0;
-    int restarts = 0;
-};
 
 // 0 -> 500 °C (hold 10 min) -> 1000 °C (hold 30) -> down to 600 °C (hold 0).
 const geo::Matrix threeRows{{100, 500, 10}, {200, 1000, 30}, {50, 600, 0}};
@@ -75,13 +64,10 @@ void TestChart::profileAndAxes()
     // Not brought back down: the profile ends at the last target.
     QCOMPARE(detailed.points.last(), QPointF(6, 600));
 
-    // Fahrenheit: points from 32 °F, the summary falls back to 32 °F, labels and range in °F.
+    // Fahrenheit: points from 32 °F, the summary falls back to 32 °F, the labels in °F.
     QCOMPARE(geo::BuildProfile({{100, 1000, 5}}, false, true).points, (geo::Points{{0, 32}, {1, 1832}, {2, 1832}}));
     QCOMPARE(geo::BuildProfile({{100, 1000, 5}}, true, true).points.last(), QPointF(3, 32));
-    QCOMPARE(geo::YLabels(false).last().text, QStringLiteral("1750°C  "));
     QCOMPARE(geo::YLabels(true).at(1).text, QStringLiteral("662°F  "));
-    QCOMPARE(geo::YRange(true).min, 32.0);
-    QCOMPARE(geo::YRange(true).max, 3812.0);
 }
 
 void TestChart::summaryProfile()
@@ -189,8 +175,8 @@ void TestChart::flatRampHasNoPosition()
 
 void TestChart::holdIsTimedFromItsFirstReport()
 {
-    auto owned = std::make_unique<FakeClock>();
-    FakeClock *clock = owned.get();
+    auto owned = std::make_unique<FakeHoldClock>();
+    FakeHoldClock *clock = owned.get();
     ChartProgress progress(std::move(owned));
 
     QCOMPARE(progress.Update(detailed, 1, QStringLiteral("hold"), 500).x, 1.0);
