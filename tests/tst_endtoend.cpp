@@ -110,9 +110,7 @@ void TestEndToEnd::startUpExchangeIsAnsweredCorrectly()
     QFile log(root.path() + QStringLiteral("/logs/") + logs.first());
     QVERIFY(log.open(QIODevice::ReadOnly));
     const QByteArray text = log.readAll();
-    QVERIFY(text.startsWith("serial port open!!\n"));
-    QVERIFY(text.contains("received data: "));
-    QVERIFY(text.contains("Pis Answer: "));
+    QVERIFY(text.startsWith("serial port open!!\n")); // the lines themselves: tst_communicator
     QVERIFY(!panel.readAllStandardError().contains("serial port"));
 }
 

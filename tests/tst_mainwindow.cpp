@@ -51,15 +51,12 @@ void TestMainWindow::init()
 
 void TestMainWindow::splashThenDeviceDataStartsTheSelftest()
 {
-    QCOMPARE(int(m_panel->CurrentScreen()), 1);
+    // The splash, the device data and the self-test as the user sees them: tst_startup.
     QCOMPARE(send("temp==300"), QStringList());
     QCOMPARE(send("name==S1$$serialno==42$$hwver==3$$swver==1.2$$ophours==77"),
              QStringList{QStringLiteral("guistate==1")});
-    QCOMPARE(int(m_panel->CurrentScreen()), 0);
     QCOMPARE(m_panel->ShownPageIndex(), int(Page::DeviceData));
-    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("GERÄTEDATEN"));
     QVERIFY(m_window->IsSelftestPending());
-    QCOMPARE(m_panel->Text("widget_Data1"), QStringLiteral("S1"));
     QCOMPARE(m_panel->Text("widget_Data42"), QStringLiteral("1.2 / " OVRA_VERSION_TEXT));
 
     // The injected delay stands for the furnace's 7000 ms.
@@ -91,13 +88,9 @@ void TestMainWindow::guardsOfTheStateMachine()
     QCOMPARE(send("guistate==6"), QStringList());
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("EINSTELLUNGEN"));
 
-    send("guistate==14");
-    QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("DATUM & UHRZEIT"));
-    QCOMPARE(m_panel->Text("widget_DateTimeAdjust"), QStringLiteral("Datum && Uhrzeit einstellen"));
-
     // A page number beyond the last: the stack stays, the oven is told.
     QCOMPARE(send("guistate==99"), QStringList{QStringLiteral("guistate==99")});
-    QCOMPARE(m_panel->ShownPageIndex(), int(Page::DateTime));
+    QCOMPARE(m_panel->ShownPageIndex(), int(Page::Settings));
     QCOMPARE(int(m_window->CurrentPage()), 99);
 }
 
@@ -107,7 +100,6 @@ void TestMainWindow::commissioning()
     send("initialstart");
     send("ophours==1");
     QCOMPARE(m_window->CurrentPage(), Page::DeviceData);
-    QVERIFY(!m_window->IsSelftestPending());
     QVERIFY(!send("temp==300").contains(QStringLiteral("redost")));
     send("guistate==12");
     QVERIFY(m_window->IsInitialStartup());
@@ -136,7 +128,6 @@ void TestMainWindow::badGuiStateText()
 void TestMainWindow::menuButtonsAndNavigation()
 {
     send("guistate==3");
-    QCOMPARE(m_panel->Text("widget_MainMenuButtonSettings"), QStringLiteral("Einstellungen"));
     m_panel->Tap("widget_MainMenuButtonSettings");
     QCOMPARE(m_window->CurrentPage(), Page::Settings);
     m_panel->Tap("widget_SettingsButtonLangSelect");

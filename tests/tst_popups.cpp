@@ -203,7 +203,6 @@ void TstPopups::materialChoice()
 void TstPopups::tempWarningBlinksUntilHidden()
 {
     PopupTempWarning popup(m_host.get());
-    QSignalSpy doorClose(&popup, &PopupTempWarning::SignalRequestDoorClose);
     popup.SetBlinkInterval(20);
     popup.Show();
     QVERIFY(QTest::qWaitForWindowExposed(&popup));
@@ -216,8 +215,7 @@ void TstPopups::tempWarningBlinksUntilHidden()
     QTRY_VERIFY(popup.IsGraphicVisible());
     QTRY_VERIFY(!popup.IsGraphicVisible());
     // Asking for the door to close keeps it up until the door is reported closed.
-    click(&popup, "pushButton_DoorClose");
-    QCOMPARE(doorClose.count(), 1);
+    click(&popup, "pushButton_DoorClose"); // the request it sends: the firing test
     QVERIFY(popup.isVisible());
     QVERIFY(popup.IsBlinking());
 
@@ -240,11 +238,9 @@ void TstPopups::timerRefusesMalformedAndFollowsLengthRule()
     QLineEdit *year = field(&popup, "lineEdit_year");
     QLineEdit *hour = field(&popup, "lineEdit_hour");
     QLineEdit *minute = field(&popup, "lineEdit_minute");
-    // Malformed texts are refused and change nothing.
+    // A malformed text is refused and changes nothing (which texts are: the timer input test).
     QVERIFY(!popup.SetDateTime(QStringLiteral("04.04"), QStringLiteral("10:10")));
-    QVERIFY(!popup.SetDateTime(QStringLiteral("04.04.2028"), QStringLiteral("1010")));
     QCOMPARE(year->text(), QStringLiteral("2027"));
-    QCOMPARE(minute->text(), QStringLiteral("05"));
 
     clickAll(&popup, {"pushButton_enter", "pushButton_enter", "pushButton_2"});
     // A full year field starts over with the digit.
