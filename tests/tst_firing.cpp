@@ -62,8 +62,6 @@ void TestFiring::init()
     send("time==1000$$date==20261122$$temp==293");
     send("heatfile==[metainfo];name=Speed;manufacturer=user;material=Zirkon;favorite=false;"
          "[1];rate=10;temp=1273;hold=1800;[2];rate=5;temp=1773;hold=600;");
-    send("heatfile==[metainfo];name=Glanz;manufacturer=DentaCeram;material= Argon ;favorite=false;"
-         "[1];rate=20;temp=1073;hold=60;");
 }
 
 QStringList TestFiring::send(const QByteArray &fields)

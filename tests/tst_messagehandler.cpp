@@ -85,10 +85,10 @@ void TestMessageHandler::checksumRules_data()
 
 void TestMessageHandler::receivedText()
 {
-    QCOMPARE(Frame::ReceivedText("name==Br\303\274cke"), QStringLiteral("name==Br\u00FCcke"));
+    // UTF-8 names: the umlaut stored on the simulated controller; a zero byte ends the frame:
+    // the communicator test. Here what is not UTF-8.
     QCOMPARE(Frame::ReceivedText("name==Br\374cke"), QStringLiteral("name==Br\u00FCcke"));
     QCOMPARE(Frame::ReceivedText("a\xC3"), QStringLiteral("a\u00C3")); // cut short: not UTF-8
-    QCOMPARE(Frame::ReceivedText(QByteArray("temp==1473\0junk", 15)), QStringLiteral("temp==1473"));
 }
 
 void TestMessageHandler::checksumRules()
