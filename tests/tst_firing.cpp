@@ -14,6 +14,7 @@
 #include "programs/programhandler.h"
 #include "records/firingdetailview.h"
 #include "records/firinghistoryview.h"
+#include "touch.h"
 #include "widgets/iconbutton.h"
 #include "widgets/programbutton.h"
 
@@ -87,8 +88,7 @@ void TestFiring::setDelayedStart()
     m_window->GetTimerPopup()->SetClock([] { return QDateTime(QDate(2026, 11, 22), QTime(9, 0)); });
     m_panel->Tap("widget_timerPlayProg");
     QTRY_VERIFY(m_window->GetTimerPopup()->isVisible());
-    QTest::mouseClick(m_window->GetTimerPopup()->findChild<QPushButton *>(QStringLiteral("pushButton_ok")),
-                      Qt::LeftButton);
+    Tap(m_window->GetTimerPopup(), "pushButton_ok");
     QVERIFY(m_panel->Widget("plainTextEdit_autostart") != nullptr);
 }
 
@@ -263,8 +263,7 @@ void TestFiring::hotDoorWarning()
     QVERIFY(warning->isVisible());
 
     // The warning's own button asks the controller to close the door.
-    auto *button = warning->findChild<QPushButton *>(QStringLiteral("pushButton_DoorClose"));
-    QTest::mouseClick(button, Qt::LeftButton);
+    Tap(warning, "pushButton_DoorClose");
     QCOMPARE(send("doorclosed"), QStringList{QStringLiteral("doorclose")});
     QVERIFY(!warning->isVisible());
 

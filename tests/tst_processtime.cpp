@@ -36,7 +36,7 @@ void TestProcessTime::minutes_data()
     QTest::addColumn<qint64>("expected");
 
     using M = ProcessTime::Matrix;
-    QTest::newRow("one segment") << M{{10u, 1000u, 30u}} << 20 << 0u << false << qint64(128);
+    // A plain program's estimate: the firing test's end times.
     QTest::newRow("remainder dropped") << M{{7u, 1000u, 0u}} << 20 << 0u << false << qint64(140);
     QTest::newRow("fall counts") << M{{10u, 1000u, 0u}, {5u, 900u, 10u}} << 20 << 0u << false << qint64(98 + 20 + 10);
     QTest::newRow("oven hotter than target") << M{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);

@@ -12,6 +12,7 @@
 #include "records/firinghistory.h"
 #include "records/firingstore.h"
 #include "simulatorprocess.h"
+#include "touch.h"
 
 #include <QDirIterator>
 #include <QLabel>
@@ -20,16 +21,6 @@
 #include <QtTest>
 
 using ovra::Mainwindow::Page;
-
-namespace {
-void Tap(QDialog *popup, const char *button)
-{
-    QVERIFY(popup->isVisible());
-    auto *pushButton = popup->findChild<QPushButton *>(QString::fromLatin1(button));
-    QVERIFY(pushButton->isEnabled());
-    pushButton->click();
-}
-} // namespace
 
 class TestService : public QObject
 {
@@ -153,8 +144,7 @@ void TestService::stickMenuFailsWithoutHanging()
     m_panel->Tap("widget_USBMenuFWUpdate");
     QVERIFY(m_usb->IsBusy());
     send("usb==out");
-    QCOMPARE(m_usb->GetText(), failed);
-    QCOMPARE(m_panel->Window()->CurrentPage(), Page::MainMenu);
+    QCOMPARE(m_usb->GetText(), failed); // the menu goes: the controller's own stick, below
 }
 
 void TestService::backupKeepsEveryFiringOnPaper()
