@@ -3,6 +3,7 @@
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 
+#include <QDir>
 #include <QtTest>
 
 namespace Frame = ovra::Communication::Frame;
@@ -39,4 +40,19 @@ QStringList PanelHarness::Send(const QByteArray &fields)
     parts.removeLast();  // checksum
     parts.removeFirst(); // ack / nack
     return parts;
+}
+
+void PanelHarness::InstallTranslations() const
+{
+    const QString folder = Home() + QStringLiteral("/Downloads/translations/");
+    QDir().mkpath(folder);
+    const QDir built(QStringLiteral(OVRA_BINARY_DIR "/translations"));
+    for (const QString &qm : built.entryList({QStringLiteral("*.qm")}))
+        QVERIFY(QFile::copy(built.filePath(qm), folder + qm));
+}
+
+QByteArray PanelHarness::Heatfile(const char *name, const char *maker, const char *material, bool fav)
+{
+    return QByteArray("heatfile==[metainfo];name=") + name + ";manufacturer=" + maker + ";material=" + material +
+           ";favorite=" + (fav ? "true" : "false") + ";[1];rate=10;temp=1273;hold=600;[2];rate=5;temp=1723;hold=1800;";
 }

@@ -25,6 +25,11 @@ public:
     // Feeds one frame; returns the requests that went out with the answer, or
     // "<bad answer>" when the answer's checksum is wrong.
     QStringList Send(const QByteArray &fields);
+    // A program as the controller sends it: 10 °C/min to 1000 °C held 10 minutes, then
+    // 5 °C/min to 1450 °C held 30.
+    static QByteArray Heatfile(const char *name, const char *maker, const char *material = "Zirkon", bool fav = false);
+    // Copies the built translations to where the panel loads them from.
+    void InstallTranslations() const;
 
 private:
     QTemporaryDir m_home;

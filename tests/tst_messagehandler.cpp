@@ -85,10 +85,10 @@ void TestMessageHandler::checksumRules_data()
 
 void TestMessageHandler::receivedText()
 {
-    QCOMPARE(Frame::ReceivedText("name==Br\303\274cke"), QStringLiteral("name==Br\u00FCcke"));
+    // UTF-8 names: the umlaut stored on the simulated controller; a zero byte ends the frame:
+    // the communicator test. Here what is not UTF-8.
     QCOMPARE(Frame::ReceivedText("name==Br\374cke"), QStringLiteral("name==Br\u00FCcke"));
     QCOMPARE(Frame::ReceivedText("a\xC3"), QStringLiteral("a\u00C3")); // cut short: not UTF-8
-    QCOMPARE(Frame::ReceivedText(QByteArray("temp==1473\0junk", 15)), QStringLiteral("temp==1473"));
 }
 
 void TestMessageHandler::checksumRules()
@@ -149,7 +149,6 @@ void TestMessageHandler::fieldSplitting_data()
     QTest::newRow("blanks only") << QStringLiteral("   ") << false;
     QTest::newRow("line ends only") << QStringLiteral(" \r\\r ") << false;
     QTest::newRow("parameter missing") << QStringLiteral("temp") << false;
-    QTest::newRow("unknown keyword") << QStringLiteral("bogus==1") << false;
     QTest::newRow("line key is no command") << QStringLiteral("favorite==1") << false;
     QTest::newRow("no prefix match") << QStringLiteral("stX==1") << false;
     QTest::newRow("case sensitive") << QStringLiteral("Temp==300") << false;
@@ -172,40 +171,30 @@ void TestMessageHandler::textCommands_data()
     QTest::addColumn<QByteArray>("signal");
     QTest::addColumn<QString>("text"); // empty: rejected, no signal; "-": a signal without value
 
-    // Plain texts are passed on as they come; the end-to-end tests see them on the pages.
+    // Plain texts are passed on as they come; the window and end-to-end tests see them on the
+    // pages (temperature, date, time, versions, results, PIN, door closed): here the rest.
     auto sig = [](auto signal) { return QMetaMethod::fromSignal(signal).methodSignature(); };
     const QByteArray date = sig(&MessageHandler::SignalDate);
     const QByteArray time = sig(&MessageHandler::SignalTime);
     const QByteArray temp = sig(&MessageHandler::SignalTemperature);
     const QByteArray door = sig(&MessageHandler::SignalDoor);
 
-    QTest::newRow("temp 1473") << "temp==1473" << temp << "1200";
     QTest::newRow("temp 273") << "temp==273" << temp << "0";
     QTest::newRow("temp wraps below 273") << "temp==272" << temp << "4294967295";
     QTest::newRow("temp not a number") << "temp==hot" << temp << "4294967023";
-    QTest::newRow("date") << "date==20240131" << date << "31.01.2024";
-    QTest::newRow("time") << "time==0905" << time << "09:05";
     QTest::newRow("date too short") << "date==2024131" << date << "";
     QTest::newRow("time too short") << "time==905" << time << "";
     QTest::newRow("dooropen reports the movement") << "dooropen" << door << "opening";
-    QTest::newRow("doorclosed") << "doorclosed" << door << "closed";
-    QTest::newRow("swver adds panel version") << "swver==1.2" << sig(&MessageHandler::SignalSWVersion)
-                                              << QStringLiteral("1.2 / ") + Pageinterface::versionInfo;
-    QTest::newRow("hpsuccess") << "hpsuccess" << sig(&MessageHandler::SignalHeatfileProcess) << "hpsuccess";
-    QTest::newRow("hpfailed") << "hpfailed" << sig(&MessageHandler::SignalHeatfileProcess) << "hpfailed";
     // Numbers that are not numbers read as 0 and are taken.
     QTest::newRow("maxrate") << "maxrate==45" << sig(&MessageHandler::SignalMaxRate) << "45";
     QTest::newRow("maxrate not a number") << "maxrate==fast" << sig(&MessageHandler::SignalMaxRate) << "0";
-    QTest::newRow("code") << "code==4711" << sig(&MessageHandler::SignalServicePin) << "4711";
     QTest::newRow("hfcount negative") << "hfcount==-3" << sig(&MessageHandler::SignalHeatfileCount) << "-3";
     QTest::newRow("hfcount not a number") << "hfcount==many" << sig(&MessageHandler::SignalHeatfileCount) << "0";
     // Commands without a parameter ignore one that comes anyway.
     QTest::newRow("doorclose with a parameter") << "doorclose==x" << door << "closing";
     QTest::newRow("ack") << "ack" << sig(&MessageHandler::SignalAcknowledge) << "-";
-    QTest::newRow("insulationmissing") << "insulationmissing" << sig(&MessageHandler::SignalInsulationMissing) << "-";
     QTest::newRow("waitforuserinteraction with a parameter")
         << "waitforuserinteraction==now" << sig(&MessageHandler::SignalUserInteractionRequest) << "-";
-    QTest::newRow("initialstart") << "initialstart" << sig(&MessageHandler::SignalSetInitalStartup) << "-";
 }
 
 void TestMessageHandler::textCommands()
@@ -271,13 +260,10 @@ void TestMessageHandler::heatfileRecordIsParsed()
                             "favorite=true;[1];rate=10;temp=1773;hold=7259;argon=on;[2];rate=5;temp=1273;hold=0;";
     QCOMPARE(handler.HandleMessage(controllerFrame(body)), Frame::Build("ack"));
     QCOMPARE(got.order, (QStringList{QStringLiteral("received"), QStringLiteral("fav")}));
-    Program *p = got.programs.at(0);
-    QCOMPARE(p->GetName(), QStringLiteral("Speed"));
-    QCOMPARE(p->GetManufacturer(), QStringLiteral("DentaCeram"));
-    QCOMPARE(p->GetMaterial(), QStringLiteral("Argon"));
-    QVERIFY(p->IsFav());
+    // Kelvin to °C, seconds to whole minutes, argon elements skipped; the other fields and the
+    // ".hf" ending: the round trip of the store test and the edge cases below.
     QCOMPARE(got.favs.at(0), true);
-    QCOMPARE(*p->GetMatrix(), (Program::Matrix{{10u, 1500u, 120u}, {5u, 1000u, 0u}}));
+    QCOMPARE(*got.programs.at(0)->GetMatrix(), (Program::Matrix{{10u, 1500u, 120u}, {5u, 1000u, 0u}}));
 }
 
 void TestMessageHandler::heatfileEdgeCases_data()

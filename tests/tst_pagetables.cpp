@@ -28,45 +28,37 @@ void TestPageTables::unknownPagesFallBack()
 
 void TestPageTables::backFollowsOrigins()
 {
-    PageOrigins o;
-    o.hitlistOrigin = P::Lists;
-    QCOMPARE(PageTables::BackTarget(P::MyHitlist, o), P::Lists);
-    o.hitlistOrigin = P::PlayProg;
-    QCOMPARE(PageTables::BackTarget(P::MyHitlist, o), P::MainMenu);
-
-    // Device data steps back through the commissioning order unless the service opened it.
-    o.deviceDataOrigin = P::Settings;
-    QCOMPARE(PageTables::BackTarget(P::DeviceData2, o), P::DateTime);
-    o.deviceDataOrigin = P::Service;
-    QCOMPARE(PageTables::BackTarget(P::DeviceData2, o), P::Service);
-
-    for (P origin : {P::MyProgs, P::PlayProg, P::ProcessProg}) {
-        o.editorOrigin = origin;
-        QCOMPARE(PageTables::BackTarget(P::NewProg, o), origin);
+    struct Case
+    {
+        Page PageOrigins::*origin;
+        P from; // where the page was entered from
+        P shown;
+        P back;
+    };
+    // Device data's two origins are tapped through by the window test.
+    const Case cases[] = {
+        {&PageOrigins::hitlistOrigin, P::Lists, P::MyHitlist, P::Lists},
+        {&PageOrigins::hitlistOrigin, P::PlayProg, P::MyHitlist, P::MainMenu},
+        {&PageOrigins::editorOrigin, P::MyProgs, P::NewProg, P::MyProgs},
+        {&PageOrigins::editorOrigin, P::PlayProg, P::NewProg, P::PlayProg},
+        {&PageOrigins::editorOrigin, P::ProcessProg, P::NewProg, P::ProcessProg},
+        {&PageOrigins::editorOrigin, P::Progs, P::NewProg, P::Progs},
+        {&PageOrigins::editorOrigin, P::MainMenu, P::NewProg, P::Progs},
+        {&PageOrigins::playOrigin, P::MyHitlist, P::PlayProg, P::MyHitlist},
+        {&PageOrigins::playOrigin, P::FixProgs, P::PlayProg, P::FixProgs},
+        {&PageOrigins::playOrigin, P::ServiceProgs, P::PlayProg, P::ServiceProgs},
+        {&PageOrigins::playOrigin, P::NewProg, P::PlayProg, P::MyProgs}, // from the editor: the user's programs
+        {&PageOrigins::playOrigin, P::MyProgs, P::PlayProg, P::MyProgs},
+        {&PageOrigins::playOrigin, P::StartUp, P::PlayProg, P::MainMenu},
+        {&PageOrigins::filterOrigin, P::Settings, P::DisplayOptions, P::Settings},
+        {&PageOrigins::filterOrigin, P::Progs, P::DisplayOptions, P::Progs},
+        {&PageOrigins::filterOrigin, P::Lists, P::DisplayOptions, P::MainMenu},
+    };
+    for (const Case &c : cases) {
+        PageOrigins o;
+        o.*c.origin = c.from;
+        QCOMPARE(PageTables::BackTarget(c.shown, o), c.back);
     }
-    o.editorOrigin = P::Progs;
-    QCOMPARE(PageTables::BackTarget(P::NewProg, o), P::Progs);
-    o.editorOrigin = P::MainMenu;
-    QCOMPARE(PageTables::BackTarget(P::NewProg, o), P::Progs);
-
-    for (P origin : {P::MyHitlist, P::FixProgs, P::ServiceProgs}) {
-        o.playOrigin = origin;
-        QCOMPARE(PageTables::BackTarget(P::PlayProg, o), origin);
-    }
-    // Entered from the editor, back leads to the user's programs.
-    o.playOrigin = P::NewProg;
-    QCOMPARE(PageTables::BackTarget(P::PlayProg, o), P::MyProgs);
-    o.playOrigin = P::MyProgs;
-    QCOMPARE(PageTables::BackTarget(P::PlayProg, o), P::MyProgs);
-    o.playOrigin = P::StartUp;
-    QCOMPARE(PageTables::BackTarget(P::PlayProg, o), P::MainMenu);
-
-    o.filterOrigin = P::Settings;
-    QCOMPARE(PageTables::BackTarget(P::DisplayOptions, o), P::Settings);
-    o.filterOrigin = P::Progs;
-    QCOMPARE(PageTables::BackTarget(P::DisplayOptions, o), P::Progs);
-    o.filterOrigin = P::Lists;
-    QCOMPARE(PageTables::BackTarget(P::DisplayOptions, o), P::MainMenu);
 }
 
 QTEST_GUILESS_MAIN(TestPageTables)

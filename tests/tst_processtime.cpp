@@ -1,5 +1,8 @@
-// The end-time estimate and the temperature text: integer minutes, falls timed like rises,
-// the pre-dry term's unit asymmetry, the 24-hour wrap.
+// The firing page's arithmetic and rules without a window: the end-time estimate (integer
+// minutes, falls timed like rises, the pre-dry term's unit asymmetry, the 24-hour wrap), the
+// temperature text, and the odd cases of the progress report, the door, the argon test, the
+// pre-dry step and the autostart note. What the window does with them: tst_firing.
+#include "process/firingrules.h"
 #include "process/processtime.h"
 #include "process/temperaturetext.h"
 
@@ -19,6 +22,9 @@ private slots:
     void startClockOfADelayedStart();
     void ovenTemperatureFromTheDisplay();
     void temperatureText();
+    void progressReport();
+    void doorAndArgon();
+    void preDryStepAndAutostartNote();
 };
 
 void TestProcessTime::minutes_data()
@@ -30,7 +36,7 @@ void TestProcessTime::minutes_data()
     QTest::addColumn<qint64>("expected");
 
     using M = ProcessTime::Matrix;
-    QTest::newRow("one segment") << M{{10u, 1000u, 30u}} << 20 << 0u << false << qint64(128);
+    // A plain program's estimate: the firing test's end times.
     QTest::newRow("remainder dropped") << M{{7u, 1000u, 0u}} << 20 << 0u << false << qint64(140);
     QTest::newRow("fall counts") << M{{10u, 1000u, 0u}, {5u, 900u, 10u}} << 20 << 0u << false << qint64(98 + 20 + 10);
     QTest::newRow("oven hotter than target") << M{{10u, 500u, 0u}} << 800 << 0u << false << qint64(30);
@@ -57,7 +63,6 @@ void TestProcessTime::endOfDay_data()
     QTest::addColumn<qint64>("minutes");
     QTest::addColumn<QString>("end");
     QTest::newRow("past midnight") << "23:30" << qint64(90) << "01:00";
-    QTest::newRow("same day") << "09:05" << qint64(128) << "11:13";
     QTest::newRow("whole day") << "10:00" << qint64(1440) << "10:00";
     QTest::newRow("negative estimate") << "00:10" << qint64(-20) << "23:50";
     QTest::newRow("unreadable clock") << "" << qint64(65) << "01:05";
@@ -98,6 +103,33 @@ void TestProcessTime::temperatureText()
     const TemperatureText wrapped = TemperatureText::FromCelsiusText(QStringLiteral("4294967295"), true);
     QCOMPARE(wrapped.text, QStringLiteral("2147483647°F"));
     QCOMPARE(TemperatureText::FromCelsiusText(QStringLiteral("hot"), true).text, QStringLiteral("32°F"));
+}
+
+void TestProcessTime::progressReport()
+{
+    const HeatInfo pre = ParseHeatInfo(QStringLiteral("Speed;95;pre;pre"));
+    QVERIFY(pre.preDrying);
+    QCOMPARE(pre.stage, 0u);
+    const HeatInfo heat = ParseHeatInfo(QStringLiteral("Zirkon HT;80;3;hold;extra"));
+    QCOMPARE(heat.program, QStringLiteral("Zirkon HT"));
+    QCOMPARE(heat.minutesLeft, QStringLiteral("80"));
+    QCOMPARE(heat.stage, 3u);
+    QCOMPARE(heat.stageText, QStringLiteral("hold"));
+    QCOMPARE(ParseHeatInfo(QStringLiteral("X;1;two;heat")).stage, 0u); // not a number reads as 0
+}
+
+void TestProcessTime::doorAndArgon()
+{
+    QCOMPARE(Door::FromReport(QStringLiteral("Closed")), Door::State::Unknown); // case counts
+    QVERIFY(Door::Icon(Door::State::Unknown).isEmpty());
+    QVERIFY(IsArgon(QStringLiteral(" Argon ")) && !IsArgon(QStringLiteral("argon")));
+}
+
+void TestProcessTime::preDryStepAndAutostartNote()
+{
+    QCOMPARE(NextPreDryStep(7).minutes, 0u); // off the 15-minute steps
+    QCOMPARE(AutostartNote(QStringLiteral("timer==20261224,0730")),
+             QStringLiteral("      Autostart: \n      07:30\n      24/12/2026"));
 }
 
 QTEST_GUILESS_MAIN(TestProcessTime)

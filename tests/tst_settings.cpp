@@ -22,39 +22,20 @@ void TestSettings::choices_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("reported");
     QTest::addColumn<QString>("remembered");
-    QTest::newRow("controller: case matters") << false << "Deutsch"
-                                              << "translation_en_US.qm"
-                                              << "Deutsch"
-                                              << "Deutsch";
-    QTest::newRow("controller: its Chinese") << false << "chinesishc"
-                                             << "translation_cn.qm"
-                                             << "chinesishc"
-                                             << "chinesishc";
-    QTest::newRow("controller: the panel's Chinese") << false << "chinesisch"
-                                                     << "translation_en_US.qm"
-                                                     << "chinesisch"
-                                                     << "chinesisch";
-    QTest::newRow("tap: blanks ignored") << true << " English UK "
-                                         << "translation_en_UK.qm"
-                                         << "englischUK"
-                                         << "englischUK";
-    QTest::newRow("tap: Chinese") << true << "中國"
-                                  << "translation_cn.qm"
-                                  << "chinesisch"
-                                  << "chinesishc";
-    QTest::newRow("tap: Portuguese") << true << "Português"
-                                     << "translation_br.qm"
-                                     << "portugisisch"
-                                     << "portugisisch";
+    // The choice is remembered under the keyword it is reported by, but for the tapped Chinese.
+    const auto row = [](const char *tag, bool tapped, const char *text, const char *file, const char *reported,
+                        const char *remembered = nullptr) {
+        QTest::newRow(tag) << tapped << QString::fromUtf8(text) << QString::fromLatin1(file)
+                           << QString::fromLatin1(reported) << QString::fromLatin1(remembered ? remembered : reported);
+    };
+    row("controller: case matters", false, "Deutsch", "translation_en_US.qm", "Deutsch");
+    row("controller: its Chinese", false, "chinesishc", "translation_cn.qm", "chinesishc");
+    row("tap: blanks ignored", true, " English UK ", "translation_en_UK.qm", "englischUK");
+    row("tap: Chinese", true, "中國", "translation_cn.qm", "chinesisch", "chinesishc");
+    row("tap: Portuguese", true, "Português", "translation_br.qm", "portugisisch");
     // The button's label begins with a Latin P; a Cyrillic Р is another label.
-    QTest::newRow("tap: Russian, Latin P") << true << "Pусский"
-                                           << "translation_ru.qm"
-                                           << "russisch"
-                                           << "russisch";
-    QTest::newRow("tap: Russian, Cyrillic Р") << true << "Русский"
-                                              << "translation_en_US.qm"
-                                              << "englischUS"
-                                              << "englischUS";
+    row("tap: Russian, Latin P", true, "Pусский", "translation_ru.qm", "russisch");
+    row("tap: Russian, Cyrillic Р", true, "Русский", "translation_en_US.qm", "englischUS");
 }
 
 void TestSettings::choices()

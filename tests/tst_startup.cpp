@@ -1,7 +1,7 @@
 // The panel's start-up against the controller simulator over a pseudo-terminal: splash,
 // device data, the automatic self-test, the main menu, and the commissioning walk.
 #include "app/mainwindow.h"
-#include "panelview.h"
+#include "panelharness.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
 #include "simulatorprocess.h"
@@ -10,54 +10,28 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
 using ovra::Mainwindow::Page;
-
-namespace {
-void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
-
-} // namespace
 
 class TestStartUp : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void selftestThenAProgramTypedOnThePanelReachesTheController();
     void commissioningWalksTheSettingsPages();
-
-private:
-    MainWindow *makeWindow(const QString &port, QTemporaryDir &home);
 };
-
-void TestStartUp::initTestCase()
-{
-    Q_INIT_RESOURCE(resources);
-    qInstallMessageHandler(quiet);
-}
-
-MainWindow *TestStartUp::makeWindow(const QString &port, QTemporaryDir &home)
-{
-    ovra::GlobalElements::PanelOptions options = ovra::GlobalElements::PanelOptions::Sandbox(home.path());
-    options.port = port;
-    options.selftestDelayMs = 300; // stands for the furnace's 7000 ms
-    auto *window = new MainWindow(options);
-    window->show();
-    return window;
-}
 
 void TestStartUp::selftestThenAProgramTypedOnThePanelReachesTheController()
 {
     Simulator sim({QStringLiteral("--verbose")});
     const QString slave = sim.SlavePath();
     QVERIFY(!slave.isEmpty());
-    QTemporaryDir home;
-    QScopedPointer<MainWindow> window(makeWindow(slave, home));
-    PanelView view(window.data());
+    // 300 ms stand for the furnace's 7000 ms before the self-test.
+    PanelHarness view(300, [&slave](auto &options) { options.port = slave; });
+    MainWindow *window = view.Window();
     QCOMPARE(int(view.CurrentScreen()), 1); // the splash until the oven speaks
 
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::DeviceData, 10000);
@@ -121,9 +95,8 @@ void TestStartUp::commissioningWalksTheSettingsPages()
     Simulator sim({QStringLiteral("--commissioning")});
     const QString slave = sim.SlavePath();
     QVERIFY(!slave.isEmpty());
-    QTemporaryDir home;
-    QScopedPointer<MainWindow> window(makeWindow(slave, home));
-    PanelView view(window.data());
+    PanelHarness view(300, [&slave](auto &options) { options.port = slave; });
+    MainWindow *window = view.Window();
 
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::LangSelect, 10000);
     QVERIFY(window->IsInitialStartup());

