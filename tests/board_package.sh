@@ -41,7 +41,16 @@ if [ "$mode" = files ]; then
   [ -z "$stray" ] || fail "files outside the layout: $stray"
   unit=$tmp/root/lib/systemd/system/ovra-panel.service
   grep -qx 'Restart=always' "$unit" || fail "unit does not restart"
-  grep -q 'libqt5serialport5' <(dpkg-deb -f "$deb" Depends) || fail "Depends lacks the Qt runtime"
+  # Every library the panel links against, and the SQLite plug-in it loads, must come with
+  # a package the board is told to install.
+  depends=$(dpkg-deb -f "$deb" Depends | sed 's/ *([^)]*)//g; s/, */\n/g')
+  triplet=$(gcc -print-multiarch)
+  for lib in $(objdump -p "$tmp/root/home/pi/Downloads/build/ovra-panel" | awk '/NEEDED/ {print $2}'); do
+    pkg=$(dpkg -S "*/$triplet/$lib" 2>/dev/null | head -n 1 | cut -d: -f1)
+    case $pkg in "" | libc6 | libgcc-s1) continue ;; esac
+    grep -qxF "$pkg" <<<"$depends" || fail "Depends lacks $pkg (for $lib)"
+  done
+  grep -qxF libqt5sql5-sqlite <<<"$depends" || fail "Depends lacks the SQLite driver"
   dpkg-deb -e "$deb" "$tmp/control" && [ -x "$tmp/control/postinst" ] || fail "no postinst"
   echo "package $(basename "$deb"): ${#expected[@]} files and $qm translations in place"
   exit 0
