@@ -1,6 +1,7 @@
 // The failure list and the severity of its codes, without a window.
 #include "faults/errorhandler.h"
 #include "faults/failureseverity.h"
+#include "faults/selftestprogress.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -15,6 +16,7 @@ class TestFaults : public QObject
 private slots:
     void worstCodeGivesTheSymbol();
     void reportWithdrawAndDelete();
+    void selftestRowsCountOncePerEntry();
 };
 
 void TestFaults::worstCodeGivesTheSymbol()
@@ -47,6 +49,17 @@ void TestFaults::reportWithdrawAndDelete()
     errors.DeleteProcessErrorList();
     QCOMPARE(errors.GetErrorList() + errors.GetProcessErrorList(), QString());
     QCOMPARE(changed.count(), 10);
+}
+
+// A row the controller reports twice moves the self-test bar once.
+void TestFaults::selftestRowsCountOncePerEntry()
+{
+    using Row = ovra::GlobalElements::SelftestProgress::Row;
+    ovra::GlobalElements::SelftestProgress progress;
+    QCOMPARE(progress.Count(Row::Door) + progress.Count(Row::Heater) + progress.Count(Row::Door), 50);
+    QCOMPARE(progress.Count(Row::Cooling), 25);
+    progress.Reset();
+    QCOMPARE(progress.Count(Row::Door), 25);
 }
 
 QTEST_APPLESS_MAIN(TestFaults)

@@ -14,6 +14,7 @@ class TestPageTables : public QObject
 private slots:
     void unknownPagesFallBack();
     void backFollowsOrigins();
+    void startUpRedirects();
 };
 
 // Pages the tables do not know fall back to the main menu instead of indexing past a table.
@@ -59,6 +60,21 @@ void TestPageTables::backFollowsOrigins()
         o.*c.origin = c.from;
         QCOMPARE(PageTables::BackTarget(c.shown, o), c.back);
     }
+}
+
+// Where a page request lands while the panel starts and while the oven is commissioned.
+void TestPageTables::startUpRedirects()
+{
+    using Action = PageTables::Redirect::Action;
+    // Before the start-up page the oven-ready page is shown as it is.
+    QCOMPARE(PageTables::ResolveRequest(P::OvenReady, P::StartUp, false, false).page, P::OvenReady);
+    QCOMPARE(PageTables::ResolveRequest(P::DeviceData, P::MainMenu, true, false).action, Action::Ignore);
+    const PageTables::Redirect ready = PageTables::ResolveRequest(P::OvenReady, P::Selftest, true, false);
+    QCOMPARE(ready.page, P::MainMenu);
+    QVERIFY(ready.showTemperature);
+    QCOMPARE(PageTables::ResolveRequest(P::MainMenu, P::LangSelect, true, true).action, Action::EndCommissioning);
+    QCOMPARE(PageTables::ResolveRequest(P::OvenReady, P::UnitSelect, true, true).page, P::MainMenu);
+    QCOMPARE(PageTables::ResolveRequest(P::Settings, P::LangSelect, true, true).page, P::Settings);
 }
 
 QTEST_GUILESS_MAIN(TestPageTables)

@@ -122,6 +122,9 @@ void TestProcessTime::doorAndArgon()
 {
     QCOMPARE(Door::FromReport(QStringLiteral("Closed")), Door::State::Unknown); // case counts
     QVERIFY(Door::Icon(Door::State::Unknown).isEmpty());
+    QVERIFY(!Door::WarnHot(300, 300, Door::State::Opening)); // strictly above
+    QVERIFY(Door::WarnHot(301, 300, Door::State::Closing));  // closing is not closed
+    QVERIFY(!Door::WarnHot(900, 300, Door::State::Closed));
     QVERIFY(IsArgon(QStringLiteral(" Argon ")) && !IsArgon(QStringLiteral("argon")));
 }
 
