@@ -231,6 +231,7 @@ private:
     void RetranslateWindow();
     void ClearProgramButtons();
     void FillProgramList(QVBoxLayout *layout, QList<GlobalElements::Program *> *programs);
+    void AddProgramRows(int count);
     void AddFilterButtons(QVBoxLayout *layout, QList<GlobalElements::Button *> &buttons, bool byManufacturer);
     void CheckForFilterOption(QList<GlobalElements::Program *> &programs) const;
     void ConnectPrograms();
@@ -314,6 +315,9 @@ private:
 
     // Program pages.
     QList<GlobalElements::ProgramButton *> m_programButtons;
+    // The list rows not built yet, and the list they go to.
+    QList<GlobalElements::Program *> m_pendingPrograms;
+    QVBoxLayout *m_pendingLayout = nullptr;
     QList<GlobalElements::Button *> m_manufacturerButtons;
     QList<GlobalElements::Button *> m_materialButtons;
     quint16 m_hfresendCount = 0;

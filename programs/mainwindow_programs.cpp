@@ -14,6 +14,10 @@
 #include "widgets/programbutton.h"
 
 #include <QScroller>
+#include <QTimer>
+
+#include <algorithm>
+#include <limits>
 
 namespace ovra {
 namespace Mainwindow {
@@ -22,6 +26,13 @@ using GlobalElements::Button;
 using GlobalElements::Program;
 using GlobalElements::ProgramButton;
 using ProgramHandler::ProgramHandler;
+
+namespace {
+// Five rows fill the list page; the first rows cover a flick down as well. The rest come in
+// one go: every batch into a shown list lays out all its rows again.
+constexpr int firstListRows = 24;
+constexpr int listRowsPerBatch = std::numeric_limits<int>::max();
+} // namespace
 
 void MainWindow::ConnectPrograms()
 {
@@ -73,6 +84,8 @@ void MainWindow::ReleaseListScrolling()
 
 void MainWindow::ClearProgramButtons()
 {
+    // A batch still queued for the old list finds nothing left, or the new list's rows.
+    m_pendingPrograms.clear();
     for (ProgramButton *button : qAsConst(m_programButtons)) {
         button->hide();
         button->deleteLater();
@@ -85,21 +98,36 @@ void MainWindow::ClearProgramButtons()
 void MainWindow::FillProgramList(QVBoxLayout *layout, QList<Program *> *programs)
 {
     ClearProgramButtons();
-    // One repaint for the whole list, not one per row.
-    QWidget *list = layout->parentWidget();
+    m_pendingLayout = layout;
+    m_pendingPrograms = *programs;
+    delete programs;
+    // A row costs a quarter of a millisecond here and more on the board. A screenful and
+    // more is built before the page shows, so the tap is answered at once however long the
+    // list; the rest follows as soon as the page is up.
+    AddProgramRows(firstListRows);
+}
+
+void MainWindow::AddProgramRows(int count)
+{
+    if (m_pendingPrograms.isEmpty())
+        return;
+    // One repaint for the whole batch, not one per row.
+    QWidget *list = m_pendingLayout->parentWidget();
     list->setUpdatesEnabled(false);
-    int at = layout->count() - 1; // before the closing spacer
-    for (Program *program : qAsConst(*programs)) {
+    int at = m_pendingLayout->count() - 1; // before the closing spacer
+    for (; count > 0 && !m_pendingPrograms.isEmpty(); --count) {
         auto *button = new ProgramButton();
-        button->SetButtonProgram(program); // shows the name and the favourite state too
-        layout->insertWidget(at++, button);
+        button->SetButtonProgram(m_pendingPrograms.takeFirst()); // shows the name and the favourite state too
+        m_pendingLayout->insertWidget(at++, button);
         connect(button, &ProgramButton::SignalProgButtonClicked, this,
                 [this](Program *p) { Slot_ShowChoosenProgram(p, Page::PlayProg); });
         connect(button, &ProgramButton::SignalSetProgToFav, this, &MainWindow::SlotSetProgToFav);
         m_programButtons.append(button);
     }
     list->setUpdatesEnabled(true);
-    delete programs;
+    if (m_pendingPrograms.isEmpty())
+        return;
+    QTimer::singleShot(0, this, [this] { AddProgramRows(listRowsPerBatch); });
 }
 
 void MainWindow::PreparePageMyHitlist()
@@ -190,6 +218,9 @@ void MainWindow::SlotDeleteProg()
 {
     const QString name = ui->label_Name->text();
     m_programHandler->Slot_DeleteProgramFromList(name);
+    m_pendingPrograms.erase(std::remove_if(m_pendingPrograms.begin(), m_pendingPrograms.end(),
+                                           [&name](const Program *p) { return p->GetName() == name; }),
+                            m_pendingPrograms.end());
     for (int i = m_programButtons.size() - 1; i >= 0; --i) {
         if (m_programButtons.at(i)->GetText() == name) {
             m_programButtons.at(i)->hide();

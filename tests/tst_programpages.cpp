@@ -31,6 +31,7 @@ private slots:
     void filtersNarrowTheUserList();
     void showingAndDeletingAProgram();
     void replacedProgramOnAShownListStaysSafe();
+    void longListFollowsItsFirstRows();
     void resendIsAskedForTenTimesAtMost();
 
 private:
@@ -173,6 +174,24 @@ void TestProgramPages::resendIsAskedForTenTimesAtMost()
         asked += send("hfcount==9").count(QStringLiteral("hfresend"));
     QCOMPARE(asked, 10);
     QCOMPARE(send("hfcount==5"), QStringList()); // as many as stored: nothing to ask
+}
+
+void TestProgramPages::longListFollowsItsFirstRows()
+{
+    for (int i = 0; i < 30; ++i)
+        send(PanelHarness::Heatfile(qPrintable(QStringLiteral("Serie %1").arg(i)), "user"));
+    send("guistate==10");
+    // The tap is answered with the first rows; the others follow once the page is up.
+    QVERIFY(listed().size() < 32);
+    QTRY_COMPARE(listed().size(), 32);
+    QCOMPARE(listed().last(), QStringLiteral("Serie 29"));
+    // Rows still to come for a list the user has left never reach the next list.
+    send("guistate==11");
+    send("guistate==10");
+    send("guistate==11");
+    for (int turn = 0; turn < 3; ++turn)
+        QCoreApplication::processEvents();
+    QCOMPARE(listed(), (QStringList{QStringLiteral("Zirkon HT"), QStringLiteral("Glanz")}));
 }
 
 QTEST_MAIN(TestProgramPages)
