@@ -85,8 +85,8 @@ void TestBadInput::keySocketManyClientsAndASilentOne()
     QTcpSocket key;
     key.connectToHost(QHostAddress::LocalHost, server.Port());
     key.write("aus");
-    QEXPECT_FAIL("", "after a burst of clients the server can stay paused: open", Abort);
-    QTRY_COMPARE_WITH_TIMEOUT(key.readAll(), QByteArray("ack"), 2000);
+    QByteArray answer;
+    QTRY_COMPARE_WITH_TIMEOUT((answer += key.readAll()), QByteArray("ack"), 2000);
 }
 
 void TestBadInput::controllerKeywordValues_data()
