@@ -14,8 +14,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <functional>
 #include <fcntl.h>
+#include <functional>
 #include <pty.h>
 #include <sys/ioctl.h>
 #include <termios.h>
@@ -37,7 +37,8 @@ class ControllerSide
 {
 public:
     ControllerSide(int master, int slave, std::function<qint64()> bufferedByReader)
-        : m_master(master), m_slave(slave), m_buffered(std::move(bufferedByReader)), m_answers(master, QSocketNotifier::Read)
+        : m_master(master), m_slave(slave), m_buffered(std::move(bufferedByReader)),
+          m_answers(master, QSocketNotifier::Read)
     {
         QObject::connect(&m_answers, &QSocketNotifier::activated, [this] { Read(); });
     }
@@ -155,12 +156,15 @@ int main(int argc, char *argv[])
     const QByteArray frame = Frame::Build("time==1405$$date==20261122$$temp==1473");
     const QByteArray body = frame.left(frame.size() - 1);
     int round = 0;
-    std::function<void()> next = [&] {
+    // Panel, bare reader, panel, ...: a millisecond apart, as frames come on the line.
+    std::function<void()> next;
+    const auto toBare = [&] { bareLine.Send(body, [&] { QTimer::singleShot(1, next); }); };
+    next = [&] {
         if (round++ >= rounds) {
             app.quit();
             return;
         }
-        panelLine.Send(body, [&] { QTimer::singleShot(1, [&] { bareLine.Send(body, [&] { QTimer::singleShot(1, next); }); }); });
+        panelLine.Send(body, [&] { QTimer::singleShot(1, toBare); });
     };
     QTimer::singleShot(0, next);
     const int rc = app.exec();

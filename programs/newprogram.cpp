@@ -6,8 +6,8 @@
 #include "programs/tablehead.h"
 #include "programs/tablerow.h"
 #include "ui_newprogram.h"
-#include "widgets/iconbutton.h"
 #include "widgets/buttonkit.h"
+#include "widgets/iconbutton.h"
 #include "widgets/keyboard.h"
 
 #include <QEvent>
