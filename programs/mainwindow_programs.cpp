@@ -17,7 +17,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <limits>
 
 namespace ovra {
 namespace Mainwindow {
@@ -31,7 +30,6 @@ namespace {
 // Five rows fill the list page; the first rows cover a flick down as well. The rest come in
 // one go: every batch into a shown list lays out all its rows again.
 constexpr int firstListRows = 24;
-constexpr int listRowsPerBatch = std::numeric_limits<int>::max();
 } // namespace
 
 void MainWindow::ConnectPrograms()
@@ -127,7 +125,7 @@ void MainWindow::AddProgramRows(int count)
     list->setUpdatesEnabled(true);
     if (m_pendingPrograms.isEmpty())
         return;
-    QTimer::singleShot(0, this, [this] { AddProgramRows(listRowsPerBatch); });
+    QTimer::singleShot(0, this, [this] { AddProgramRows(m_pendingPrograms.size()); });
 }
 
 void MainWindow::PreparePageMyHitlist()
