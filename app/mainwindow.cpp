@@ -90,6 +90,29 @@ MainWindow::~MainWindow()
     delete ui;
 }
 
+void MainWindow::DrawDevice()
+{
+    const GlobalElements::DeviceInfo &d = m_furnace.Device();
+    const QList<QPair<QString, QPair<GlobalElements::DisplayElement *, GlobalElements::DisplayElement *>>> fields = {
+        {d.type, {ui->widget_Data1, ui->widget_Data12}},     {d.serial, {ui->widget_Data2, ui->widget_Data22}},
+        {d.hardware, {ui->widget_Data3, ui->widget_Data32}}, {d.software, {ui->widget_Data4, ui->widget_Data42}},
+        {d.hours, {ui->widget_Data5, ui->widget_Data52}},
+    };
+    for (const auto &field : fields) {
+        field.second.first->SetText(field.first);
+        field.second.second->SetText(field.first);
+    }
+}
+
+void MainWindow::DrawClock()
+{
+    ui->label_Time->setText(m_furnace.Time());
+    ui->widget_time->SetText(m_furnace.Time());
+    ui->widget_showTime->SetText(m_furnace.Time());
+    ui->label_Date->setText(m_furnace.Date());
+    ui->widget_showDate->SetText(m_furnace.Date());
+}
+
 bool MainWindow::IsSelftestPending() const
 {
     return m_selftestStartTimer->isActive();
@@ -242,46 +265,36 @@ void MainWindow::SetUpIcons()
 void MainWindow::ConnectOvenLink()
 {
     MessageHandler *h = m_messageHandler;
-    using GlobalElements::DisplayElement;
-    const QList<QPair<void (MessageHandler::*)(const QString &), QPair<DisplayElement *, DisplayElement *>>>
-        deviceData = {
-            {&MessageHandler::SignalTypeModelSeries, {ui->widget_Data1, ui->widget_Data12}},
-            {&MessageHandler::SignalSerialNumber, {ui->widget_Data2, ui->widget_Data22}},
-            {&MessageHandler::SignalHWVersion, {ui->widget_Data3, ui->widget_Data32}},
-            {&MessageHandler::SignalSWVersion, {ui->widget_Data4, ui->widget_Data42}},
-            {&MessageHandler::SignalOperatingHours, {ui->widget_Data5, ui->widget_Data52}},
-        };
-    for (const auto &entry : deviceData) {
-        connect(h, entry.first, entry.second.first, &DisplayElement::SetText);
-        connect(h, entry.first, entry.second.second, &DisplayElement::SetText);
-    }
+    m_furnace.Follow(h);
+    connect(&m_furnace, &GlobalElements::FurnaceState::DeviceChanged, this, &MainWindow::DrawDevice);
+    connect(&m_furnace, &GlobalElements::FurnaceState::ClockChanged, this, &MainWindow::DrawClock);
     connect(h, &MessageHandler::SignalGuiState, this, &MainWindow::SlotSetRecvGuiState);
-    connect(h, &MessageHandler::SignalTime, ui->label_Time, &QLabel::setText);
-    connect(h, &MessageHandler::SignalTime, ui->widget_time, &GlobalElements::DisplayElementIcon::SetText);
-    connect(h, &MessageHandler::SignalTime, ui->widget_showTime, &GlobalElements::DisplayElementIcon::SetText);
-    connect(h, &MessageHandler::SignalDate, ui->label_Date, &QLabel::setText);
-    connect(h, &MessageHandler::SignalDate, ui->widget_showDate, &GlobalElements::DisplayElementIcon::SetText);
     // The controller's "esttime" is the clock time the firing ends at, and says so.
-    connect(h, &MessageHandler::SignalRemainingTime, this, [this](const QString &end) {
+    connect(&m_furnace, &GlobalElements::FurnaceState::FiringEndChanged, this, [this](const QString &end) {
         const QString text = Caption(Captions::EndeUm).arg(end);
         ui->widget_showPlayTime->SetText(text);
         ui->widget_showProcessTime->SetText(text);
     });
     connect(h, &MessageHandler::SignalOvenConnected, this, &MainWindow::Statemachine);
-    connect(h, &MessageHandler::SignalSelftestDoor, ui->widget_testDoor,
-            &GlobalElements::TestDisplayElement::SetIconResult);
-    connect(h, &MessageHandler::SignalSelftestHeater, ui->widget_testHeatsystem,
-            &GlobalElements::TestDisplayElement::SetIconResult);
-    connect(h, &MessageHandler::SignalSelftestCooling, ui->widget_testCooling,
-            &GlobalElements::TestDisplayElement::SetIconResult);
-    connect(h, &MessageHandler::SignalSelftestResult, this, &MainWindow::SlotSelftestResult);
+    connect(&m_furnace, &GlobalElements::FurnaceState::SelftestChanged, this,
+            [this](GlobalElements::FurnaceState::SelftestRow row, const QString &result) {
+                using Row = GlobalElements::FurnaceState::SelftestRow;
+                if (row == Row::Door)
+                    ui->widget_testDoor->SetIconResult(result);
+                else if (row == Row::Heater)
+                    ui->widget_testHeatsystem->SetIconResult(result);
+                else if (row == Row::Cooling)
+                    ui->widget_testCooling->SetIconResult(result);
+                else if (row == Row::Overall)
+                    SlotSelftestResult(result);
+            });
     connect(h, &MessageHandler::SignalFailure, this, &MainWindow::SlotErrorHandling);
     connect(h, &MessageHandler::SignalResetFailure, this, &MainWindow::SlotResetError);
     connect(h, &MessageHandler::SignalServicePin, ui->widget_numpad, &GlobalElements::NumPad::SetCode);
     connect(h, &MessageHandler::SignalUserInteractionRequest, this, &MainWindow::SlotUserInteractionRequest);
     connect(h, &MessageHandler::SignalSetLanguage, this, &MainWindow::SlotSetLanguage);
-    connect(h, &MessageHandler::SignalSetUnit, this, &MainWindow::SlotSetUnit);
     connect(h, &MessageHandler::SignalSetInitalStartup, this, &MainWindow::SlotSetInitialStartup);
+    connect(h, &MessageHandler::SignalSetUnit, this, &MainWindow::SlotSetUnit);
     connect(h, &MessageHandler::SignalUpdateProgress, m_popupUSB, &Popups::PopupUSB::SlotUpdateProgress);
     connect(h, &MessageHandler::SignalUSB, this, &MainWindow::SlotCheckUsbStick);
     // An update that makes progress is not waiting for an answer.
@@ -395,7 +408,7 @@ void MainWindow::SlotSetRecvGuiState(const QString &state)
 
 void MainWindow::SlotSetInitialStartup()
 {
-    m_initialStartup = true;
+    m_furnace.SetCommissioning(true);
 }
 
 void MainWindow::SlotUserInteractionRequest()
@@ -408,7 +421,7 @@ void MainWindow::Slot_SetTouchEnable(bool enable)
 {
     ui->stackedWidget_main->setEnabled(enable);
     // A door left open is closed when the display goes dark, but never during a firing.
-    if (!enable && !m_heatProgramInProgress)
+    if (!enable && !m_furnace.IsFiring())
         m_messageHandler->SetRequest(Communication::Requests::CloseDoor());
 }
 
@@ -431,7 +444,7 @@ void MainWindow::PulsePreDryButton(bool run)
 
 void MainWindow::PulsePreDryTimeout()
 {
-    m_messageHandler->SetRequest(Communication::Requests::GuiState(m_currentPage));
+    m_messageHandler->SetRequest(Communication::Requests::GuiState(m_furnace.CurrentPage()));
 }
 
 void MainWindow::RewriteExternalScripts()

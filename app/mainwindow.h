@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/commandline.h"
+#include "app/furnacestate.h"
 #include "app/pageinterface.h"
 #include "app/pagetables.h"
 #include "app/paths.h"
@@ -81,15 +82,11 @@ public:
     const QList<GlobalElements::ProgramButton *> &GetProgramButtons() const { return m_programButtons; }
     Ui::MainWindow *GetUi() const { return ui; }
     const GlobalElements::Paths &GetPaths() const { return m_paths; }
-    Page CurrentPage() const { return m_currentPage; }
+    Page CurrentPage() const { return m_furnace.CurrentPage(); }
     bool IsEditMode() const { return m_editMode; }
-    bool IsInitialStartup() const { return m_initialStartup; }
     bool IsStartupShown() const { return m_startupShown; }
     const PageOrigins &Origins() const { return m_origins; }
-    // A firing is running; the display key then leaves the door alone.
-    void SetHeatProgramInProgress(bool running) { m_heatProgramInProgress = running; }
-    bool IsFahrenheit() const { return m_fahrenheit; }
-    bool IsHeatProgramInProgress() const { return m_heatProgramInProgress; }
+    const GlobalElements::FurnaceState &Furnace() const { return m_furnace; }
     unsigned int PreDryMinutes() const { return m_preDryMinutes; }
     Popups::TimerPopup *GetTimerPopup() const { return m_timerPopup; }
     Popups::PopupTempWarning *GetTempWarning() const { return m_popupTempWarning; }
@@ -135,13 +132,13 @@ public slots:
 
     // Firing: start, progress, result, stop, end-time estimate, pre-dry and delayed start.
     void SlotGenerateProgRequest();
-    void SlotHeatfileInProgress(const QString &info);
-    void SlotSetHeatProcessResult(const QString &result);
+    void SlotHeatfileInProgress();
+    void SlotSetHeatProcessResult(ovra::Communication::FiringResult result);
     void SlotReqStopHeatfile(bool confirmed);
     void SlotChartClicked();
     void CalculateProcessTime(ovra::GlobalElements::Program *program, unsigned short preDry, const QString &timer);
     void UpdateProcessTime();
-    void DisplayRemainingTime(const QString &minutes);
+    void DisplayRemainingTime(qint64 minutes);
     void SlotIncPreDryTime();
     void Slot_ShowTimerPopup();
 
@@ -154,9 +151,9 @@ public slots:
     void SlotDoorIsolationInsert();
 
     // Temperature and door.
-    void SlotTempReceived(const QString &temperature);
+    void SlotTempReceived();
     void CheckTempDoor();
-    void SlotDoor(const QString &state);
+    void SlotDoor(ovra::Communication::DoorState state);
     void SlotMoveDoor();
     void SlotRequestDoorClose();
 
@@ -189,6 +186,8 @@ private:
     QList<GlobalElements::Iconbutton *> PageButtons() const;
     void ConnectPageButtons();
     void ConnectProcessLink();
+    void DrawDevice();
+    void DrawClock();
     void ApplyStyle();
 
     QString Caption(const char *source) const;
@@ -223,6 +222,7 @@ private:
     void PreparePageProcess(int from);
     // The caption under the result symbol, in the language now shown; none without a result.
     void ShowResultCaption(const char *source);
+    void ShowProcessEndButtons();
     void SetPlayButtonCaptions();
     void SetDeviceDataCaptions();
     void SetSelftestCaptions();
@@ -249,8 +249,12 @@ private:
     Ui::MainWindow *ui;
     GlobalElements::PanelOptions m_options;
     const GlobalElements::Paths m_paths;
-    // Firing records: fed from the firing slots, never seen by the controller.
+    // Firing records: they observe the furnace, and are never seen by the controller.
     Records::FiringRecorder m_firingRecorder{m_paths.Home()};
+    // What the panel knows of the furnace; declared after the recorder that observes it.
+    GlobalElements::FurnaceState m_furnace;
+    // The page title as shown: the program's name on the program, process and editor pages.
+    QString m_title;
     Records::FiringStart DescribeFiring(const QString &program) const;
     // The firing history, shown over the current page (records/mainwindow_records.cpp).
     void ConnectRecords();
@@ -289,9 +293,8 @@ private:
 
     QStringList m_externalScripts;
 
-    // Language: the current keyword (empty until a translation has loaded), the file whose
-    // texts show (empty: the German source texts), and the one translator.
-    QString m_language;
+    // Language: the file whose texts show (empty: the German source texts), and the one
+    // translator; the keyword is the furnace model's.
     QString m_languageFile;
     QTranslator m_translator;
     // Caption of the page title, re-applied on a language change; none for a program's name.
@@ -303,14 +306,8 @@ private:
 
     // State flags.
     bool m_startupShown = false;
-    bool m_initialStartup = false;
-    bool m_heatProgramInProgress = false;
     bool m_userInteraction = false;
-    bool m_fahrenheit = false;
     bool m_editMode = false;
-    unsigned int m_doorTempLimit = 300;
-    float m_lastTemp = 0.0f;
-    Process::Door::State m_doorState = Process::Door::State::Unknown;
     const QString m_selftestPassWord = QStringLiteral("pass");
 
     // Program pages.
@@ -326,8 +323,6 @@ private:
 
     // Firing.
     unsigned int m_preDryMinutes = 0;
-    unsigned int m_currentTemp = 0;
-    bool m_argonOven = false;
     QPlainTextEdit *m_autostartNote = nullptr;
     // The program last shown on the program or process page: the program page is rebuilt from
     // it whenever it is entered, by back or by the controller, when the title holds another page's.
@@ -336,8 +331,7 @@ private:
     bool m_programPageFilled = false;
     const char *m_resultSource = nullptr;
 
-    // Navigation memory.
-    Page m_currentPage = Page::StartUp;
+    // Navigation memory; the current page is the furnace model's.
     PageOrigins m_origins;
 
     // Self-test rows counted since the page was entered.

@@ -15,13 +15,14 @@ using GlobalElements::Pageinterface;
 
 void MainWindow::Statemachine(Pageinterface::en_pages requested)
 {
-    const int from = m_currentPage;
+    const Page current = m_furnace.CurrentPage();
+    const int from = current;
     const PageTables::Redirect redirect =
-        PageTables::ResolveRequest(requested, m_currentPage, m_startupShown, m_initialStartup);
+        PageTables::ResolveRequest(requested, current, m_startupShown, m_furnace.IsCommissioning());
     if (redirect.action == PageTables::Redirect::Action::Ignore)
         return;
     if (redirect.action == PageTables::Redirect::Action::EndCommissioning) {
-        m_initialStartup = false;
+        m_furnace.SetCommissioning(false);
         return;
     }
     Page page = redirect.page;
@@ -34,12 +35,12 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
     if (page == Page::PlayProg) {
         PreparePagePlay(from);
         ui->stackedWidget_main->setCurrentIndex(0);
-        title = ui->label_Name->text();
+        title = m_title;
         upperCase = false;
     } else if (page == Page::ProcessProg) {
         PreparePageProcess(from);
         ui->stackedWidget_main->setCurrentIndex(0);
-        title = ui->label_Name->text();
+        title = m_title;
         upperCase = false;
     } else {
         ui->stackedWidget_main->setCurrentIndex(0);
@@ -49,7 +50,7 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
                 title = Caption(titleSource);
             if (page == Page::ChangeProg) {
                 titleSource = nullptr;
-                title = ui->label_Name->text();
+                title = m_title;
                 upperCase = from != Page::PlayProg && from != Page::ProcessProg;
                 if (PageTables::RemembersEditorOrigin(page, from))
                     m_origins.editorOrigin = static_cast<Page>(from);
@@ -67,14 +68,15 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
     if (!m_editMode || page == Page::NewProg)
         ui->stackedWidget->setCurrentIndex(static_cast<int>(page));
 
-    if (page != m_currentPage)
+    if (page != current)
         m_messageHandler->SetRequest(Communication::Requests::GuiState(page));
-    m_currentPage = page;
+    m_furnace.SetPage(page);
 }
 
 void MainWindow::SetTitle(const QString &title, bool upperCase)
 {
-    ui->label_Name->setText(upperCase ? title.toUpper() : title);
+    m_title = upperCase ? title.toUpper() : title;
+    ui->label_Name->setText(m_title);
 }
 
 void MainWindow::PreparePage(Page page, int from)
@@ -124,7 +126,7 @@ void MainWindow::PreparePage(Page page, int from)
 void MainWindow::PreparePageDeviceDataStartUp()
 {
     SetDeviceDataCaptions();
-    if (!m_initialStartup)
+    if (!m_furnace.IsCommissioning())
         m_selftestStartTimer->start(m_options.selftestDelayMs);
     m_preDryPulseTimer->start();
     m_startupShown = true;

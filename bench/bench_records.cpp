@@ -1,6 +1,6 @@
 // What recording adds to one progress report: the report's parse alone as the baseline, then
 // the parse plus the recorder's sample (prepared insert, batched commits in WAL mode).
-#include "process/firingrules.h"
+#include "communication/reports.h"
 #include "records/firingrecorder.h"
 
 #include <QCoreApplication>
@@ -14,7 +14,7 @@ const QString report = QStringLiteral("Langzeit;512;3;heat");
 void BM_ReportParseOnly(benchmark::State &state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(ovra::Process::ParseHeatInfo(report));
+        benchmark::DoNotOptimize(ovra::Communication::ParseHeatReport(report));
 }
 BENCHMARK(BM_ReportParseOnly);
 
@@ -25,7 +25,7 @@ void BM_ReportParseAndRecord(benchmark::State &state)
     const auto describe = [] { return ovra::Records::FiringStart(); };
     double celsius = 20.0;
     for (auto _ : state) {
-        const ovra::Process::HeatInfo info = ovra::Process::ParseHeatInfo(report);
+        const ovra::Communication::HeatReport info = ovra::Communication::ParseHeatReport(report);
         recorder.Temperature(celsius += 0.1);
         recorder.Progress(info.program, QStringLiteral("22.11.2026"), QStringLiteral("08:00"), describe);
     }

@@ -13,6 +13,9 @@ MessageHandler::MessageHandler(const GlobalElements::Paths &paths, QObject *pare
 {
     qRegisterMetaType<Pageinterface::en_pages>("ovra::GlobalElements::Pageinterface::en_pages");
     qRegisterMetaType<GlobalElements::Program *>("ovra::GlobalElements::Program*");
+    qRegisterMetaType<HeatReport>("ovra::Communication::HeatReport");
+    qRegisterMetaType<DoorState>("ovra::Communication::DoorState");
+    qRegisterMetaType<FiringResult>("ovra::Communication::FiringResult");
 
     // The controller's vocabulary, in the order a keyword is looked up. Exact and
     // case-sensitive: "st" must not catch "stdoor", and favorite==1 is not a command.
@@ -285,7 +288,7 @@ bool MessageHandler::OnGuiState(const QString &p)
 }
 bool MessageHandler::OnHpInfo(const QString &p)
 {
-    emit SignalHeatfileInfo(p);
+    emit SignalHeatfileInfo(ParseHeatReport(p));
     return true;
 }
 bool MessageHandler::OnArgon(const QString &p)
@@ -311,13 +314,13 @@ bool MessageHandler::OnUsb(const QString &p)
 
 bool MessageHandler::OnHpSuccess(const QString &)
 {
-    emit SignalHeatfileProcess(QStringLiteral("hpsuccess"));
+    emit SignalHeatfileProcess(FiringResult::Success);
     return true;
 }
 
 bool MessageHandler::OnHpFailed(const QString &)
 {
-    emit SignalHeatfileProcess(QStringLiteral("hpfailed"));
+    emit SignalHeatfileProcess(FiringResult::Failed);
     return true;
 }
 
@@ -335,17 +338,17 @@ bool MessageHandler::OnInsulationMissing(const QString &)
 // "dooropen" reports the movement, "doorclosed" the end state: the controller's own wording.
 bool MessageHandler::OnDoorClose(const QString &)
 {
-    emit SignalDoor(QStringLiteral("closing"));
+    emit SignalDoor(DoorState::Closing);
     return true;
 }
 bool MessageHandler::OnDoorClosed(const QString &)
 {
-    emit SignalDoor(QStringLiteral("closed"));
+    emit SignalDoor(DoorState::Closed);
     return true;
 }
 bool MessageHandler::OnDoorOpen(const QString &)
 {
-    emit SignalDoor(QStringLiteral("opening"));
+    emit SignalDoor(DoorState::Opening);
     return true;
 }
 

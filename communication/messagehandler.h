@@ -2,6 +2,7 @@
 
 #include "app/pageinterface.h"
 #include "app/paths.h"
+#include "communication/reports.h"
 #include "programs/program.h"
 
 #include <QByteArray>
@@ -81,17 +82,17 @@ signals:
     void SignalActualStage(const QString &text);
     void SignalAcknowledge();
     void SignalHeatfileReceived(ovra::GlobalElements::Program *program);
-    void SignalHeatfileInfo(const QString &text);
+    void SignalHeatfileInfo(const ovra::Communication::HeatReport &report);
     void SignalArgon(const QString &text);
     void SignalSelftestResult(const QString &text);
     void SignalMaxRate(unsigned int rate);
     void SignalServicePin(unsigned int pin);
     void SignalUSB(const QString &text);
     void SignalSetProgToFav(bool fav, ovra::GlobalElements::Program *program);
-    void SignalHeatfileProcess(const QString &text);
+    void SignalHeatfileProcess(ovra::Communication::FiringResult result);
     void SignalMaterialChanged(const QString &text);
     void SignalInsulationMissing();
-    void SignalDoor(const QString &text);
+    void SignalDoor(ovra::Communication::DoorState state);
     void SignalUserInteractionRequest();
     void SignalSetLanguage(const QString &text);
     void SignalSetUnit(const QString &text);

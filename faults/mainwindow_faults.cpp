@@ -15,7 +15,7 @@ namespace Mainwindow {
 void MainWindow::Slot_StartSelftest()
 {
     // Never during a firing.
-    if (m_currentPage == Page::ProcessProg)
+    if (m_furnace.CurrentPage() == Page::ProcessProg)
         return;
     Statemachine(Page::Selftest);
     m_messageHandler->SetRequest(Communication::Requests::SelfTest());
@@ -75,18 +75,18 @@ void MainWindow::SlotSelftestResult(const QString &result)
         ui->widget_exitSelftest->setEnabled(true);
         return;
     }
-    Statemachine(m_initialStartup ? Page::LangSelect : Page::MainMenu);
+    Statemachine(m_furnace.IsCommissioning() ? Page::LangSelect : Page::MainMenu);
 }
 
 void MainWindow::SlotErrorHandling(const QString &codes)
 {
-    for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts)) {
+    // The model has taken the codes already, each with the controller's clock.
+    for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts))
         m_errorHandler->AddError(code);
-        m_firingRecorder.Failure(ui->label_Date->text() + QLatin1Char(' ') + ui->widget_time->GetText(), code);
-        const QString line = ui->label_Date->text() + QStringLiteral(", ") + ui->widget_time->GetText() +
-                             QStringLiteral(": ") + code + QLatin1Char('\n');
-        ui->textEdit_FailureList->setPlainText(line + ui->textEdit_FailureList->toPlainText());
-    }
+    QString lines;
+    for (const GlobalElements::FailureEntry &f : m_furnace.FailureLog())
+        lines += f.date + QStringLiteral(", ") + f.time + QStringLiteral(": ") + f.code + QLatin1Char('\n');
+    ui->textEdit_FailureList->setPlainText(lines);
 }
 
 void MainWindow::SlotResetError(const QString &codes)
@@ -123,6 +123,7 @@ void MainWindow::ErrorHandling()
 
 void MainWindow::SlotDeleteFailure()
 {
+    m_furnace.ClearFailures();
     ui->textEdit_FailureList->clear();
     ui->textEdit_test->clear();
     ui->textEdit_test->setVisible(false);

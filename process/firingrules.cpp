@@ -7,25 +7,6 @@
 namespace ovra {
 namespace Process {
 
-HeatInfo ParseHeatInfo(const QString &report)
-{
-    HeatInfo info;
-    if (report.isEmpty()) {
-        info.kind = HeatInfo::Kind::Over;
-        return info;
-    }
-    const QStringList fields = report.split(QLatin1Char(';'));
-    if (fields.size() < 4)
-        return info;
-    info.kind = HeatInfo::Kind::Progress;
-    info.program = fields.at(0);
-    info.minutesLeft = fields.at(1);
-    info.preDrying = fields.at(2) == QLatin1String("pre");
-    info.stage = info.preDrying ? 0 : fields.at(2).toUInt();
-    info.stageText = fields.at(3);
-    return info;
-}
-
 PreDryStep NextPreDryStep(unsigned int currentMinutes)
 {
     switch (currentMinutes) {
@@ -47,17 +28,6 @@ QString AutostartNote(const QString &requestedTimer)
 }
 
 namespace Door {
-
-State FromReport(const QString &text)
-{
-    if (text == QLatin1String("closing"))
-        return State::Closing;
-    if (text == QLatin1String("opening"))
-        return State::Opening;
-    if (text == QLatin1String("closed"))
-        return State::Closed;
-    return State::Unknown;
-}
 
 QString Icon(State state)
 {

@@ -15,6 +15,7 @@
 #include "programs/heatfiletext.h"
 #include "programs/program.h"
 #include "programs/programhandler.h"
+#include "records/firingreport.h"
 #include "ui_mainwindow.h"
 
 #include <QDebug>
@@ -30,11 +31,19 @@ namespace Requests = Communication::Requests;
 void MainWindow::ConnectProcessLink()
 {
     using Communication::MessageHandler;
+    using GlobalElements::FurnaceState;
     using GlobalElements::Iconbutton;
-    connect(m_messageHandler, &MessageHandler::SignalTemperature, this, &MainWindow::SlotTempReceived);
-    connect(m_messageHandler, &MessageHandler::SignalDoor, this, &MainWindow::SlotDoor);
-    connect(m_messageHandler, &MessageHandler::SignalHeatfileInfo, this, &MainWindow::SlotHeatfileInProgress);
-    connect(m_messageHandler, &MessageHandler::SignalHeatfileProcess, this, &MainWindow::SlotSetHeatProcessResult);
+    connect(&m_furnace, &FurnaceState::TemperatureChanged, this, &MainWindow::SlotTempReceived);
+    connect(&m_furnace, &FurnaceState::DoorChanged, this, &MainWindow::SlotDoor);
+    // A new firing's fill and hold clock start afresh; the controller's repeated page
+    // reports during a firing leave them running.
+    connect(&m_furnace, &FurnaceState::FiringStarted, ui->widget_chart_process, &GlobalElements::Chart::ClearProgress);
+    connect(&m_furnace, &FurnaceState::FiringProgress, this, &MainWindow::SlotHeatfileInProgress);
+    connect(&m_furnace, &FurnaceState::FiringOver, this, &MainWindow::SlotHeatfileInProgress);
+    connect(&m_furnace, &FurnaceState::FiringEnded, this, &MainWindow::SlotSetHeatProcessResult);
+    m_firingRecorder.Observe(
+        m_furnace, [this](const QString &program) { return DescribeFiring(program); },
+        [this](const GlobalElements::DeviceInfo &) { return Records::FiringReport::DeviceLines(DeviceData()); });
     connect(m_messageHandler, &MessageHandler::SignalArgon, this, &MainWindow::SlotSetArgonOven);
     connect(m_messageHandler, &MessageHandler::SignalMaterialChanged, this, &MainWindow::SlotMaterialChanged);
     connect(m_messageHandler, &MessageHandler::SignalInsulationMissing, this, &MainWindow::SlotInsulationMissing);
@@ -62,7 +71,7 @@ void MainWindow::Slot_ShowChoosenProgram(GlobalElements::Program *program, Pagei
     if (program == nullptr)
         return;
     FillProgramPage(program, page == Page::PlayProg);
-    ui->label_Name->setText(program->GetName());
+    SetTitle(program->GetName(), false);
     m_programPageFilled = true;
     Statemachine(page);
     m_programPageFilled = false;
@@ -76,7 +85,7 @@ void MainWindow::FillProgramPage(GlobalElements::Program *program, bool play)
 
     // A maker's program is shown only in outline.
     const bool userProgram = ProgramHandler::ProgramHandler::IsUserProgram(program);
-    chart->CreateChart(program->GetMatrix(), !userProgram, m_fahrenheit);
+    chart->CreateChart(program->GetMatrix(), !userProgram, m_furnace.IsFahrenheit());
 
     material->SetText(program->GetMaterial());
     material->SetIcon(Process::IsArgon(program->GetMaterial()) ? QStringLiteral(":/Play/Gas.png") : QString());
@@ -113,7 +122,7 @@ void MainWindow::PreparePagePlay(int from)
             FillProgramPage(program, true);
         else
             qDebug() << "program page: program no longer stored:" << m_shownProgramName;
-        ui->label_Name->setText(m_shownProgramName);
+        SetTitle(m_shownProgramName, false);
     }
     ui->horizontalLayout_playButtons->setSpacing(6);
     ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
@@ -129,8 +138,8 @@ void MainWindow::PreparePagePlay(int from)
 void MainWindow::PreparePageProcess(int from)
 {
     // The controller repeats its page report during a firing: the fill and the hold clock
-    // carry on, and only a new firing starts them afresh (see SlotHeatfileInProgress).
-    if (!m_heatProgramInProgress)
+    // carry on, and only a new firing starts them afresh.
+    if (!m_furnace.IsFiring())
         ui->widget_chart_process->ClearProgress();
     // Entered anew, the page shows no result of an earlier firing; repeated, it keeps its own.
     if (from != Page::ProcessProg) {
@@ -159,15 +168,12 @@ void MainWindow::SlotGenerateProgRequest()
     m_playEnableTimer->start();
 
     if (ui->widget_playNewProg->IsChecked()) {
-        const QString name = ui->label_Name->text();
-        const QString request = ui->widget_timerPlayProg->IsChecked()
-                                    ? Requests::DelayedStart(m_timerPopup->GetRequestedTimer(), name, m_preDryMinutes)
-                                    : Requests::Start(name, m_preDryMinutes);
-        Records::FiringStart record = DescribeFiring(name);
-        record.preDryMinutes = static_cast<int>(m_preDryMinutes);
-        if (ui->widget_timerPlayProg->IsChecked())
-            record.delayedStart = m_timerPopup->GetRequestedTimer();
-        m_firingRecorder.Requested(record);
+        const QString name = m_title;
+        const bool delayed = ui->widget_timerPlayProg->IsChecked();
+        const QString timer = m_timerPopup->GetRequestedTimer();
+        const QString request = delayed ? Requests::DelayedStart(timer, name, m_preDryMinutes)
+                                        : Requests::Start(name, m_preDryMinutes);
+        m_furnace.RequestFiring(name, static_cast<int>(m_preDryMinutes), delayed ? timer : QString());
         m_preDryMinutes = 0;
         m_messageHandler->SetRequest(request);
         ui->widget_timerPlayProg->setVisible(false);
@@ -181,11 +187,11 @@ void MainWindow::SlotGenerateProgRequest()
     }
 }
 
-void MainWindow::SlotHeatfileInProgress(const QString &info)
+void MainWindow::SlotHeatfileInProgress()
 {
-    if (info.isEmpty()) {
+    const GlobalElements::Firing &firing = m_furnace.CurrentFiring();
+    if (!firing.running) {
         // The firing is over.
-        m_firingRecorder.Over();
         ui->widget_timerPlayProg->setEnabled(true);
         ui->widget_playNewProg->setEnabled(true);
         ui->widget_exitProcessProg->setEnabled(true);
@@ -193,69 +199,58 @@ void MainWindow::SlotHeatfileInProgress(const QString &info)
         ui->widget_doorProcessProg->setVisible(true);
         ui->widget_processPreDryInfo->setVisible(false);
         ui->widget_processPreDryInfo->SetChecked(false);
-        m_heatProgramInProgress = false;
         return;
     }
-    const Process::HeatInfo report = Process::ParseHeatInfo(info);
-    if (report.kind != Process::HeatInfo::Kind::Progress)
-        return;
-    m_firingRecorder.Progress(report.program, ui->label_Date->text(), ui->label_Time->text(),
-                              [this, &report] { return DescribeFiring(report.program); });
-    if (!m_heatProgramInProgress)
-        ui->widget_chart_process->ClearProgress();
-    m_heatProgramInProgress = true;
-    if (m_currentPage != Page::ProcessProg && !m_changeInProcess) {
+    if (m_furnace.CurrentPage() != Page::ProcessProg && !m_changeInProcess) {
         // A firing started elsewhere, or before the panel, brings the panel to it.
-        if (GlobalElements::Program *program = m_programHandler->GetProgramByName(report.program))
+        if (GlobalElements::Program *program = m_programHandler->GetProgramByName(firing.program))
             Slot_ShowChoosenProgram(program, Page::ProcessProg);
     }
-    if (m_currentPage != Page::ProcessProg || m_changeInProcess)
+    if (m_furnace.CurrentPage() != Page::ProcessProg || m_changeInProcess)
         return;
     ui->widget_backProcessProg->setEnabled(false);
     ui->widget_exitProcessProg->setEnabled(false);
     ui->widget_doorProcessProg->setVisible(false);
-    DisplayRemainingTime(report.minutesLeft);
-    if (report.preDrying) {
+    DisplayRemainingTime(firing.minutesLeft);
+    const bool preDrying = firing.phase == GlobalElements::Firing::Phase::PreDry;
+    ui->widget_processPreDryInfo->setVisible(preDrying);
+    ui->widget_processPreDryInfo->SetChecked(preDrying);
+    if (preDrying)
         ui->widget_processPreDryInfo->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
-        ui->widget_processPreDryInfo->setVisible(true);
-        ui->widget_processPreDryInfo->SetChecked(true);
-    } else {
-        ui->widget_processPreDryInfo->setVisible(false);
-        ui->widget_processPreDryInfo->SetChecked(false);
-        ui->widget_chart_process->UpdateChart(report.stage, report.stageText, m_currentTemp);
-    }
+    else
+        ui->widget_chart_process->UpdateChart(firing.stage, firing.stageText, m_furnace.Shown().value);
 }
 
-void MainWindow::SlotSetHeatProcessResult(const QString &result)
+void MainWindow::SlotSetHeatProcessResult(Communication::FiringResult result)
 {
-    m_firingRecorder.Finished(result == QLatin1String("hpsuccess") ? Records::Result::Success : Records::Result::Failed,
-                              ui->label_Date->text(), ui->label_Time->text());
-    if (result == QLatin1String("hpsuccess")) {
+    using Communication::FiringResult;
+    if (result == FiringResult::Stopped)
+        return; // drawn by the stop itself
+    if (result == FiringResult::Success) {
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/success.png);"));
-        ui->widget_chart_process->UpdateChart(99, QStringLiteral("done"), m_currentTemp);
+        ui->widget_chart_process->UpdateChart(99, QStringLiteral("done"), m_furnace.Shown().value);
         ShowResultCaption(Captions::ProgrammBeendet);
     } else {
         ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
         ShowResultCaption(Captions::ProgrammAbgebrochen);
     }
-    m_heatProgramInProgress = false;
-    ui->widget_exitProcessProg->setVisible(true);
-    ui->widget_backProcessProg->setVisible(true);
-    ui->widget_stopProcessProg->setVisible(false);
-    ui->widget_doorProcessProg->setVisible(true);
+    ShowProcessEndButtons();
 }
 
 void MainWindow::SlotReqStopHeatfile(bool confirmed)
 {
     if (!confirmed)
         return;
-    m_firingRecorder.Finished(Records::Result::Stopped, ui->label_Date->text(), ui->label_Time->text());
-    // A failure shown before the stop stays visible.
-    if (!ui->label_processResult->styleSheet().contains(QLatin1String("Failure")))
-        ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    m_furnace.EndFiring(Communication::FiringResult::Stopped);
+    // The result symbol is only ever success or abort, so a stop has no failure symbol to keep.
+    ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
     ShowResultCaption(Captions::ProgrammAbgebrochen);
     m_messageHandler->SetRequest(Requests::Stop());
-    m_heatProgramInProgress = false;
+    ShowProcessEndButtons();
+}
+
+void MainWindow::ShowProcessEndButtons()
+{
     ui->widget_exitProcessProg->setVisible(true);
     ui->widget_backProcessProg->setVisible(true);
     ui->widget_stopProcessProg->setVisible(false);
@@ -284,7 +279,7 @@ void MainWindow::SetPlayButtonCaptions()
 void MainWindow::SlotChartClicked()
 {
     // Only a running firing's program can be changed from its chart.
-    if (!ui->widget_stopProcessProg->isVisibleTo(ui->page_processProg))
+    if (!m_furnace.IsFiring())
         return;
     m_changeInProcess = true;
     m_saveAtOnce = true;
@@ -298,23 +293,24 @@ void MainWindow::CalculateProcessTime(GlobalElements::Program *program, unsigned
     if (program == nullptr || program->GetMatrix()->isEmpty())
         return;
     using namespace Process::ProcessTime;
-    const int oven = OvenCelsiusFromDisplay(ui->widget_tempPlay->GetText(), m_fahrenheit);
-    const qint64 minutes = Minutes(*program->GetMatrix(), oven, preDry, m_fahrenheit);
+    // The estimate starts from the temperature as the page shows it, unit and all.
+    const bool fahrenheit = m_furnace.IsFahrenheit();
+    const int oven = OvenCelsiusFromDisplay(m_furnace.Shown().text, fahrenheit);
+    const qint64 minutes = Minutes(*program->GetMatrix(), oven, preDry, fahrenheit);
     ui->widget_showPlayTime->SetText(
-        Caption(Captions::EndeUm).arg(EndOfDay(StartClock(ui->label_Time->text(), timer), minutes)));
+        Caption(Captions::EndeUm).arg(EndOfDay(StartClock(m_furnace.Time(), timer), minutes)));
 }
 
-void MainWindow::DisplayRemainingTime(const QString &minutes)
+void MainWindow::DisplayRemainingTime(qint64 minutes)
 {
-    const QString end =
-        Caption(Captions::EndeUm).arg(Process::ProcessTime::EndOfDay(ui->label_Time->text(), minutes.toLongLong()));
+    const QString end = Caption(Captions::EndeUm).arg(Process::ProcessTime::EndOfDay(m_furnace.Time(), minutes));
     ui->widget_showPlayTime->SetText(end);
     ui->widget_showProcessTime->SetText(end);
 }
 
 void MainWindow::UpdateProcessTime()
 {
-    GlobalElements::Program *program = m_programHandler->GetProgramByName(ui->label_Name->text());
+    GlobalElements::Program *program = m_programHandler->GetProgramByName(m_title);
     const QString timer = m_timerPopup->GetRequestedTimer();
     CalculateProcessTime(program, static_cast<unsigned short>(m_preDryMinutes), timer);
 
@@ -355,14 +351,14 @@ void MainWindow::SlotIncPreDryTime()
     m_preDryMinutes = step.minutes;
     ui->widget_timerPreDry->SetChecked(step.checked);
     ui->widget_timerPreDry->SetIcon(QString::fromLatin1(step.icon));
-    CalculateProcessTime(m_programHandler->GetProgramByName(ui->label_Name->text()),
+    CalculateProcessTime(m_programHandler->GetProgramByName(m_title),
                          static_cast<unsigned short>(m_preDryMinutes), m_timerPopup->GetRequestedTimer());
 }
 
 void MainWindow::Slot_ShowTimerPopup()
 {
     if (ui->widget_timerPlayProg->IsChecked() && m_autostartNote == nullptr) {
-        if (m_timerPopup->SetDateTime(ui->label_Date->text(), ui->label_Time->text()))
+        if (m_timerPopup->SetDateTime(m_furnace.Date(), m_furnace.Time()))
             m_timerPopup->open();
         else
             ui->widget_timerPlayProg->SetChecked(false);
@@ -397,7 +393,6 @@ void MainWindow::SlotMaterialChangedReaction()
 void MainWindow::SlotSetArgonOven(const QString &text)
 {
     if (text == QLatin1String("True")) {
-        m_argonOven = true;
         // Connected once per report, as the controller expects.
         connect(m_messageHandler, &Communication::MessageHandler::SignalSelftestArgon, this,
                 &MainWindow::SlotArgonPressureFailure);
@@ -415,7 +410,7 @@ void MainWindow::SlotArgonPressureFailure(const QString &result)
 
 void MainWindow::SlotInsulationMissing()
 {
-    const QString picture = m_argonOven ? QStringLiteral("background: url(:/Tuerisolation/TuerisoArgon.jpg);")
+    const QString picture = m_furnace.IsArgonOven() ? QStringLiteral("background: url(:/Tuerisolation/TuerisoArgon.jpg);")
                                         : QStringLiteral("background: url(:/Tuerisolation/TuerisoZirkon.jpg);");
     ui->page_DoorIso->setStyleSheet(QStringLiteral("QWidget#page_DoorIso { ") + picture + QStringLiteral(" }"));
     ui->stackedWidget_main->setCurrentIndex(3);
@@ -425,35 +420,29 @@ void MainWindow::SlotDoorIsolationInsert()
 {
     m_messageHandler->SetRequest(Requests::InsulationInserted());
     ui->stackedWidget_main->setCurrentIndex(0);
-    if (m_initialStartup)
+    if (m_furnace.IsCommissioning())
         m_selftestStartTimer->start(m_options.selftestDelayMs);
 }
 
-void MainWindow::SlotTempReceived(const QString &temperature)
+void MainWindow::SlotTempReceived()
 {
-    const Process::TemperatureText shown = Process::TemperatureText::FromCelsiusText(temperature, m_fahrenheit);
-    ui->widget_tempPlay->SetText(shown.text);
-    ui->widget_tempProcess->SetText(shown.text);
-    ui->widget_temp->SetText(shown.text);
-    m_lastTemp = static_cast<float>(shown.value);
-    m_firingRecorder.Temperature(Process::TemperatureText::FromCelsiusText(temperature, false).value);
-    m_currentTemp = shown.value;
+    for (GlobalElements::DisplayElementIcon *shown : {ui->widget_tempPlay, ui->widget_tempProcess, ui->widget_temp})
+        shown->SetText(m_furnace.Shown().text);
     CheckTempDoor();
 }
 
 void MainWindow::CheckTempDoor()
 {
-    const bool warn = Process::Door::WarnHot(m_lastTemp, m_doorTempLimit, m_doorState);
+    const bool warn = Process::Door::WarnHot(m_furnace.Shown().value, m_furnace.DoorTempLimit(), m_furnace.Door());
     if (warn && !m_popupTempWarning->isVisible())
         m_popupTempWarning->Show();
     else if (!warn && m_popupTempWarning->isVisible())
         m_popupTempWarning->Hide();
 }
 
-void MainWindow::SlotDoor(const QString &state)
+void MainWindow::SlotDoor(Communication::DoorState state)
 {
-    m_doorState = Process::Door::FromReport(state);
-    const QString icon = Process::Door::Icon(m_doorState);
+    const QString icon = Process::Door::Icon(state);
     ui->widget_doorPlayNewProg->SetIcon(icon);
     ui->widget_doorProcessProg->SetIcon(icon);
     CheckTempDoor();

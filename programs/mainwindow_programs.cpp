@@ -214,7 +214,7 @@ void MainWindow::SlotSetProgToFav(bool on, Program *program)
 
 void MainWindow::SlotDeleteProg()
 {
-    const QString name = ui->label_Name->text();
+    const QString name = m_title;
     m_programHandler->Slot_DeleteProgramFromList(name);
     m_pendingPrograms.erase(std::remove_if(m_pendingPrograms.begin(), m_pendingPrograms.end(),
                                            [&name](const Program *p) { return p->GetName() == name; }),
@@ -250,12 +250,11 @@ void MainWindow::PreparePageChangeProgram(const QString &name)
         ui->widget_newProg->ChangeProgram(found, m_saveAtOnce);
 }
 
-void MainWindow::CheckChangeInProcess(const QString &)
+void MainWindow::CheckChangeInProcess(const QString &message)
 {
-    // The store spends its change flag on exactly the heatfile it sends: a window still in
-    // change mode whose store no longer is has just sent the running program's change, and
-    // progress reports count again.
-    if (m_changeInProcess && !m_programHandler->IsChangeInProcess()) {
+    // Whatever program carried it, the change of the running program has gone out: the next
+    // program opened for a change is saved the usual way, and progress reports count again.
+    if (message.contains(QLatin1String("hpchange"))) {
         m_saveAtOnce = false;
         m_changeInProcess = false;
     }

@@ -1,9 +1,41 @@
 #include "records/firingrecorder.h"
 
+#include "app/furnacestate.h"
+
 namespace ovra {
 namespace Records {
 
 FiringRecorder::FiringRecorder(const QString &home) : m_store(FiringStore::FileIn(home)) {}
+
+void FiringRecorder::Observe(const GlobalElements::FurnaceState &furnace, const Describe &describe,
+                             const DeviceText &deviceText)
+{
+    using GlobalElements::FurnaceState;
+    const FurnaceState *f = &furnace;
+    QObject::connect(f, &FurnaceState::FiringRequested, f, [this, f, describe](const QString &program) {
+        FiringStart start = describe(program);
+        start.program = program;
+        start.preDryMinutes = f->RequestedFiring().preDryMinutes;
+        start.delayedStart = f->RequestedFiring().delayedStart;
+        Requested(start);
+    });
+    QObject::connect(f, &FurnaceState::FiringProgress, f, [this, f, describe] {
+        const QString program = f->CurrentFiring().program;
+        Progress(program, f->Date(), f->Time(), [&describe, &program] { return describe(program); });
+    });
+    QObject::connect(f, &FurnaceState::FiringEnded, f, [this, f](Communication::FiringResult result) {
+        const Result recorded = result == Communication::FiringResult::Success  ? Result::Success
+                                : result == Communication::FiringResult::Stopped ? Result::Stopped
+                                                                                 : Result::Failed;
+        Finished(recorded, f->Date(), f->Time());
+    });
+    QObject::connect(f, &FurnaceState::FiringOver, f, [this] { Over(); });
+    QObject::connect(f, &FurnaceState::TemperatureChanged, f, [this, f] { Temperature(f->Celsius()); });
+    QObject::connect(f, &FurnaceState::FailureAdded, f, [this](const GlobalElements::FailureEntry &failure) {
+        Failure(failure.date + QLatin1Char(' ') + failure.time, failure.code);
+    });
+    QObject::connect(f, &FurnaceState::DeviceChanged, f, [this, f, deviceText] { Device(deviceText(f->Device())); });
+}
 
 void FiringRecorder::Requested(const FiringStart &start)
 {

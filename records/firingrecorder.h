@@ -6,6 +6,11 @@
 #include <functional>
 
 namespace ovra {
+namespace GlobalElements {
+class FurnaceState;
+struct DeviceInfo;
+} // namespace GlobalElements
+
 namespace Records {
 
 // Turns the panel's firing events into records. A firing is recorded from its first progress
@@ -15,6 +20,13 @@ class FiringRecorder
 {
 public:
     explicit FiringRecorder(const QString &home);
+
+    using Describe = std::function<FiringStart(const QString &program)>;
+    using DeviceText = std::function<QString(const GlobalElements::DeviceInfo &)>;
+    // Records whatever the furnace reports from now on: the panel's start, every progress
+    // report with the temperature last reported, failures, the result and the device data.
+    // `describe` tells what the panel knows of a program; the furnace must not outlive this.
+    void Observe(const GlobalElements::FurnaceState &furnace, const Describe &describe, const DeviceText &deviceText);
 
     void Requested(const FiringStart &start); // the panel's start, kept until the firing begins
     void Temperature(double celsius) { m_celsius = celsius; }

@@ -30,14 +30,6 @@ void MainWindow::ConnectRecords()
     connect(m_firingDetailView, &Records::FiringDetailView::SignalClose, m_firingDetailView, &QWidget::hide);
     connect(ui->stackedWidget, &QStackedWidget::currentChanged, this, &MainWindow::CloseFiringHistory);
     connect(ui->stackedWidget_main, &QStackedWidget::currentChanged, this, &MainWindow::CloseFiringHistory);
-    // Each firing keeps the furnace's data as it was, for its printed report. Connected after
-    // the device-data fields, so these are already filled in.
-    for (auto signal :
-         {&Communication::MessageHandler::SignalTypeModelSeries, &Communication::MessageHandler::SignalSerialNumber,
-          &Communication::MessageHandler::SignalHWVersion, &Communication::MessageHandler::SignalSWVersion,
-          &Communication::MessageHandler::SignalOperatingHours})
-        connect(m_messageHandler, signal, this,
-                [this] { m_firingRecorder.Device(Records::FiringReport::DeviceLines(DeviceData())); });
 }
 
 void MainWindow::ShowFiringHistory()
@@ -59,7 +51,7 @@ void MainWindow::OpenFiringRecord(qint64 id)
         qDebug() << "firing history: firing" << id << "is gone";
         return;
     }
-    m_firingDetailView->SetRecord(record, m_fahrenheit);
+    m_firingDetailView->SetRecord(record, m_furnace.IsFahrenheit());
     m_firingDetailView->setGeometry(ui->stackedWidget_main->rect());
     m_firingDetailView->show();
     m_firingDetailView->raise();
@@ -76,11 +68,12 @@ void MainWindow::CloseFiringHistory()
 Settings::DeviceReport::Data MainWindow::DeviceData() const
 {
     Settings::DeviceReport::Data device;
-    device.model = ui->widget_Data1->GetText();
-    device.serialNumber = ui->widget_Data2->GetText();
-    device.hardwareVersion = ui->widget_Data3->GetText();
-    device.softwareVersion = ui->widget_Data4->GetText();
-    device.operatingHours = ui->widget_Data5->GetText();
+    const GlobalElements::DeviceInfo &known = m_furnace.Device();
+    device.model = known.type;
+    device.serialNumber = known.serial;
+    device.hardwareVersion = known.hardware;
+    device.softwareVersion = known.software;
+    device.operatingHours = known.hours;
     return device;
 }
 

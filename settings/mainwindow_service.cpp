@@ -69,8 +69,8 @@ bool MainWindow::CanShowUsbMenu() const
     // A stick never pulls the user out of a firing, the editor, the self-test or start-up.
     const QList<Page> busy = {Page::StartUp,  Page::DeviceData,  Page::Selftest,  Page::NewProg,
                               Page::PlayProg, Page::ProcessProg, Page::ChangeProg};
-    return m_startupShown && !m_initialStartup && !m_heatProgramInProgress && !m_editMode &&
-           ui->stackedWidget_main->currentIndex() == 0 && !busy.contains(m_currentPage);
+    return m_startupShown && !m_furnace.IsCommissioning() && !m_furnace.IsFiring() && !m_editMode &&
+           ui->stackedWidget_main->currentIndex() == 0 && !busy.contains(m_furnace.CurrentPage());
 }
 
 void MainWindow::SlotCheckUsbStick(const QString &state)
@@ -83,7 +83,7 @@ void MainWindow::SlotCheckUsbStick(const QString &state)
         m_usbStickIn = false;
         if (m_usbAction == UsbAction::Firmware || m_usbAction == UsbAction::Config)
             FinishUsbAction(false, QStringLiteral("the stick was pulled"));
-        if (m_currentPage == Page::USB)
+        if (m_furnace.CurrentPage() == Page::USB)
             Statemachine(Page::MainMenu);
     } else if (state == actionDone || state == actionFailed) {
         if (m_usbAction != UsbAction::None && m_usbAction != UsbAction::Firmware && m_usbAction != UsbAction::Config) {
@@ -158,7 +158,7 @@ void MainWindow::RunUsbFileAction()
         success = LoadProgramsFromStick(stick, &error);
     } else if (m_usbAction == UsbAction::Backup) {
         const QString folder =
-            files.Backup(Constant(*m_programHandler->GetProgramList()), DeviceReportText(), ui->widget_Data2->GetText(),
+            files.Backup(Constant(*m_programHandler->GetProgramList()), DeviceReportText(), m_furnace.Device().serial,
                          GlobalElements::logFolderName, QDateTime::currentDateTime(), &error);
         success = !folder.isEmpty();
         if (success) {
@@ -170,7 +170,7 @@ void MainWindow::RunUsbFileAction()
                 QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
             };
             success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false,
-                                             Records::FiringReport::Writer(DeviceData(), m_fahrenheit), progress);
+                                             Records::FiringReport::Writer(DeviceData(), m_furnace.IsFahrenheit()), progress);
             qDebug() << "usb: backup written to" << folder;
         }
     }

@@ -21,7 +21,7 @@ namespace Mainwindow {
 
 void MainWindow::SlotSetLanguage(const QString &lang)
 {
-    if (lang == m_language)
+    if (lang == m_furnace.Language())
         return;
     ApplyLanguage(Settings::ChoiceFromController(lang));
 }
@@ -47,7 +47,7 @@ void MainWindow::ApplyLanguage(const Settings::LanguageChoice &choice)
             popup->Translate();
         ui->widget_newProg->Translate();
         m_messageHandler->SetRequest(Communication::Requests::Language(choice.keyword));
-        m_language = choice.current;
+        m_furnace.SetLanguage(choice.current);
         qDebug() << "language" << choice.keyword << "from" << path;
     } else {
         // Nothing is reported, so the controller's next "lang" tries the same file again.
@@ -121,32 +121,27 @@ void MainWindow::PreparePageUnitSelect()
     ui->widget_UnitF->SetIcon(QStringLiteral(":/Icons/unit.png"));
     ui->widget_UnitC->SetCheckable(true);
     ui->widget_UnitF->SetCheckable(true);
-    ui->widget_UnitC->SetChecked(!m_fahrenheit);
-    ui->widget_UnitF->SetChecked(m_fahrenheit);
+    ui->widget_UnitC->SetChecked(!m_furnace.IsFahrenheit());
+    ui->widget_UnitF->SetChecked(m_furnace.IsFahrenheit());
 }
 
-void MainWindow::SlotSetUnit(const QString &unit)
+// The model has taken the controller's unit already; the editor and the unit page follow it.
+void MainWindow::SlotSetUnit(const QString &)
 {
-    m_fahrenheit = Settings::TemperatureUnit::IsFahrenheit(unit);
-    m_doorTempLimit = Settings::TemperatureUnit::DoorTempLimit(m_fahrenheit);
-    ui->widget_newProg->SetUnitToFahrenheit(m_fahrenheit);
-    ui->widget_UnitC->SetChecked(!m_fahrenheit);
-    ui->widget_UnitF->SetChecked(m_fahrenheit);
+    ui->widget_newProg->SetUnitToFahrenheit(m_furnace.IsFahrenheit());
+    PreparePageUnitSelect();
 }
 
 void MainWindow::SlotUnitChanged()
 {
-    m_fahrenheit = sender() == ui->widget_UnitF;
-    m_messageHandler->SetRequest(Communication::Requests::Unit(m_fahrenheit));
-    m_doorTempLimit = Settings::TemperatureUnit::DoorTempLimit(m_fahrenheit);
-    ui->widget_newProg->SetUnitToFahrenheit(m_fahrenheit);
-    ui->widget_UnitC->SetChecked(!m_fahrenheit);
-    ui->widget_UnitF->SetChecked(m_fahrenheit);
+    m_furnace.SetFahrenheit(sender() == ui->widget_UnitF);
+    m_messageHandler->SetRequest(Communication::Requests::Unit(m_furnace.IsFahrenheit()));
+    SlotSetUnit(QString());
 }
 
 void MainWindow::Slot_ShowTimeAdjustPopup()
 {
-    m_popupTimeAdjust->SetDateTime(ui->label_Date->text(), ui->label_Time->text());
+    m_popupTimeAdjust->SetDateTime(m_furnace.Date(), m_furnace.Time());
     m_popupTimeAdjust->open();
 }
 

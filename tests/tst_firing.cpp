@@ -7,6 +7,7 @@
 #include "fakeholdclock.h"
 #include "panelharness.h"
 #include "popups/popupargonfailure.h"
+#include "popups/popupstop.h"
 #include "popups/popuptempwarning.h"
 #include "popups/timerpopup.h"
 #include "process/chart.h"
@@ -204,7 +205,7 @@ void TestFiring::progressReportsDriveTheProcessPage()
     m_window->Slot_SetTouchEnable(true);
 
     send("hpinfo==");
-    QVERIFY(!m_window->IsHeatProgramInProgress());
+    QVERIFY(!m_window->Furnace().IsFiring());
     QVERIFY(m_panel->Enabled("widget_exitProcessProg"));
     QVERIFY(m_panel->Shown("widget_doorProcessProg"));
 }
@@ -220,14 +221,23 @@ void TestFiring::resultAndStop()
     QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
     QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen\nFehler E201"));
 
-    // A stop keeps a failure symbol that was shown before it.
-    m_panel->Widget("label_processResult")
-        ->setStyleSheet(QStringLiteral("background-image: url(:/Failure/schwer.png);"));
-    m_window->SlotReqStopHeatfile(false);
+    // The stop asks first: the cross keeps the firing, OK stops it and shows the abort.
+    send("guistate==3$$hpinfo==Speed;90;1;heat");
+    QCOMPARE(m_panel->CurrentPage(), ovra::Mainwindow::Page::ProcessProg);
+    auto *stop = m_window->findChild<ovra::Popups::PopupStop *>();
+    m_panel->Tap("widget_stopProcessProg");
+    QTRY_VERIFY(stop->isVisible());
+    Tap(stop, "pushButton_Cancel");
     QCOMPARE(send("temp==293"), QStringList());
-    m_window->SlotReqStopHeatfile(true);
+    QVERIFY(m_window->Furnace().IsFiring());
+    m_panel->Tap("widget_stopProcessProg");
+    QTRY_VERIFY(stop->isVisible());
+    Tap(stop, "pushButton_OK");
     QCOMPARE(send("temp==293"), QStringList{QStringLiteral("hpstop")});
-    QVERIFY(m_panel->Style("label_processResult").contains(QStringLiteral("Failure")));
+    QVERIFY(!m_window->Furnace().IsFiring());
+    QCOMPARE(m_window->Furnace().CurrentFiring().result, ovra::Communication::FiringResult::Stopped);
+    QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QVERIFY(!m_panel->Shown("widget_stopProcessProg"));
 }
 
 void TestFiring::chartOpensTheEditorOnlyWhileFiring()

@@ -86,13 +86,13 @@ void TestFiringWithSimulator::firings()
     // Pre-dry, then the fill moves through the ramp and the hold.
     QTRY_COMPARE_WITH_TIMEOUT(window.CurrentPage(), Page::ProcessProg, 5000);
     QTRY_VERIFY_WITH_TIMEOUT(view.Shown("widget_processPreDryInfo"), 5000);
-    QVERIFY(window.IsHeatProgramInProgress());
+    QVERIFY(window.Furnace().IsFiring());
     ovra::GlobalElements::Chart *chart = view.Find<ovra::GlobalElements::Chart>("widget_chart_process");
     QTRY_VERIFY_WITH_TIMEOUT(frontX(chart) > 0.05 && frontX(chart) < 1.0, 10000); // heating
     QTRY_VERIFY_WITH_TIMEOUT(frontX(chart) > 1.0 && frontX(chart) < 2.0, 10000);  // holding
     QTRY_VERIFY_WITH_TIMEOUT(view.Style("label_processResult").contains(QStringLiteral("success.png")), 10000);
     QCOMPARE(frontX(chart), 2.0);
-    QVERIFY(!window.IsHeatProgramInProgress());
+    QVERIFY(!window.Furnace().IsFiring());
     QVERIFY(view.Shown("widget_exitProcessProg"));
     // The controller's empty report closes the firing and frees the page's buttons.
     QTRY_VERIFY_WITH_TIMEOUT(view.Enabled("widget_backProcessProg"), 5000);

@@ -100,11 +100,11 @@ void TestMainWindow::commissioning()
     QCOMPARE(m_window->CurrentPage(), Page::DeviceData);
     QVERIFY(!send("temp==300").contains(QStringLiteral("redost")));
     send("guistate==12");
-    QVERIFY(m_window->IsInitialStartup());
+    QVERIFY(m_window->Furnace().IsCommissioning());
 
     // On the language page the oven's main menu ends commissioning and changes nothing else.
     QCOMPARE(send("guistate==26"), QStringList());
-    QVERIFY(!m_window->IsInitialStartup());
+    QVERIFY(!m_window->Furnace().IsCommissioning());
     QCOMPARE(m_window->CurrentPage(), Page::LangSelect);
 
     // Now 26 is the main menu with the temperature shown.
@@ -136,7 +136,7 @@ void TestMainWindow::menuButtonsAndNavigation()
     QCOMPARE(m_window->CurrentPage(), Page::UnitSelect);
     QVERIFY(m_panel->Checked("widget_UnitC"));
     m_panel->Tap("widget_UnitF");
-    QVERIFY(m_window->IsFahrenheit());
+    QVERIFY(m_window->Furnace().IsFahrenheit());
     QVERIFY(m_panel->Checked("widget_UnitF") && !m_panel->Checked("widget_UnitC"));
     m_panel->Tap("widget_backUnit");
     QCOMPARE(m_window->CurrentPage(), Page::LangSelect);

@@ -107,20 +107,24 @@ void TestProcessTime::temperatureText()
 
 void TestProcessTime::progressReport()
 {
-    const HeatInfo pre = ParseHeatInfo(QStringLiteral("Speed;95;pre;pre"));
-    QVERIFY(pre.preDrying);
+    using ovra::Communication::HeatReport;
+    using ovra::Communication::ParseHeatReport;
+    const HeatReport pre = ParseHeatReport(QStringLiteral("Speed;95;pre;pre"));
+    QVERIFY(pre.PreDrying());
     QCOMPARE(pre.stage, 0u);
-    const HeatInfo heat = ParseHeatInfo(QStringLiteral("Zirkon HT;80;3;hold;extra"));
+    const HeatReport heat = ParseHeatReport(QStringLiteral("Zirkon HT;80;3;hold;extra"));
     QCOMPARE(heat.program, QStringLiteral("Zirkon HT"));
-    QCOMPARE(heat.minutesLeft, QStringLiteral("80"));
+    QCOMPARE(heat.minutesLeft, 80);
     QCOMPARE(heat.stage, 3u);
+    QCOMPARE(heat.phase, HeatReport::Phase::Hold);
     QCOMPARE(heat.stageText, QStringLiteral("hold"));
-    QCOMPARE(ParseHeatInfo(QStringLiteral("X;1;two;heat")).stage, 0u); // not a number reads as 0
+    QCOMPARE(ParseHeatReport(QStringLiteral("X;1;two;heat")).stage, 0u); // not a number reads as 0
+    QCOMPARE(ParseHeatReport(QString()).kind, HeatReport::Kind::Over);
+    QCOMPARE(ParseHeatReport(QStringLiteral("X;1;2")).kind, HeatReport::Kind::Unreadable);
 }
 
 void TestProcessTime::doorAndArgon()
 {
-    QCOMPARE(Door::FromReport(QStringLiteral("Closed")), Door::State::Unknown); // case counts
     QVERIFY(Door::Icon(Door::State::Unknown).isEmpty());
     QVERIFY(!Door::WarnHot(300, 300, Door::State::Opening)); // strictly above
     QVERIFY(Door::WarnHot(301, 300, Door::State::Closing));  // closing is not closed

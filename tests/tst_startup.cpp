@@ -99,7 +99,7 @@ void TestStartUp::commissioningWalksTheSettingsPages()
     MainWindow *window = view.Window();
 
     QTRY_COMPARE_WITH_TIMEOUT(window->CurrentPage(), Page::LangSelect, 10000);
-    QVERIFY(window->IsInitialStartup());
+    QVERIFY(window->Furnace().IsCommissioning());
     QVERIFY(!window->IsSelftestPending());
 
     view.Tap("widget_fwdLang");
