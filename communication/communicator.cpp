@@ -1,6 +1,5 @@
 #include "communication/communicator.h"
 
-#include "communication/frame.h"
 #include "communication/messagehandler.h"
 
 #include <QDebug>
@@ -54,7 +53,7 @@ void Communicator::Dispatch(const QByteArray &frame)
 {
     qDebug() << "received data: " << frame;
 
-    const QByteArray answer = m_handler->HandleMessage(Frame::ReceivedText(frame));
+    const QByteArray answer = m_handler->HandleFrame(frame);
     if (!answer.isEmpty()) {
         m_port->write(answer);
         qDebug() << "Pis Answer: " << answer;

@@ -35,17 +35,14 @@ bool IsChecksumValid(const QString &frame)
     // Field by field, exactly as the frame is split: a lone '$' at a field's edge counts.
     const QStringList fields = text.split(fieldSeparator, Qt::KeepEmptyParts);
     unsigned int sum = 0;
-    unsigned int utf8Sum = 0;
     for (int f = 0; f + 1 < fields.size(); ++f) {
         for (const QChar c : fields.at(f)) {
             if (c.unicode() < 256)
                 sum += c.unicode();
         }
-        for (const char byte : fields.at(f).toUtf8())
-            utf8Sum += static_cast<unsigned char>(byte);
     }
     const int checksum = fields.constLast().toInt(); // a non-number reads as 0
-    return checksum + static_cast<int>(sum & 0xFFu) == 0 || checksum + static_cast<int>(utf8Sum & 0xFFu) == 0;
+    return checksum + static_cast<int>(sum & 0xFFu) == 0;
 }
 
 QString ReceivedText(const QByteArray &frame)

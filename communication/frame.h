@@ -19,9 +19,9 @@ quint8 BodySum(const QByteArray &body);
 // The checksum field's text for a sum: "-s" in decimal, "0" for 0.
 QString ChecksumText(quint8 sum);
 // True when the last "$$"-field, read as a decimal integer (non-numbers read as 0), cancels
-// the sum of the other fields, taken over the characters (one above 255 counts as 0) or over
-// their UTF-8 bytes, as the sender summed the text that ReceivedText read as UTF-8. Start
-// and end bytes are ignored.
+// the sum of the other fields' characters (one above 255 counts as 0). Start and end bytes
+// are ignored. Only text with one character per received byte gives the controller's byte
+// sum: not ReceivedText(), whose "Ä" may have come as one byte or as two.
 bool IsChecksumValid(const QString &frame);
 // The text of a received frame (cut at a NUL byte): UTF-8 when the bytes are valid UTF-8,
 // else one character per byte. The controller's words are ASCII, which reads the same both

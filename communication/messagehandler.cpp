@@ -76,6 +76,20 @@ MessageHandler::MessageHandler(const GlobalElements::Paths &paths, QObject *pare
 
 QByteArray MessageHandler::HandleMessage(QString message)
 {
+    return Respond(message, message);
+}
+
+QByteArray MessageHandler::HandleFrame(const QByteArray &frame)
+{
+    // "\xC3\x84" (UTF-8) and "\xC4" (not UTF-8, so read byte by byte) both read as "Ä": only
+    // the bytes tell which sum the controller sent. One character per byte keeps them.
+    const int zero = frame.indexOf('\0');
+    const QByteArray bytes = zero >= 0 ? frame.left(zero) : frame;
+    return Respond(Frame::ReceivedText(bytes), QString::fromLatin1(bytes));
+}
+
+QByteArray MessageHandler::Respond(QString message, const QString &checked)
+{
     QByteArray body;
     if (m_updateActive) {
         message.remove(QLatin1Char(Frame::startByte));
@@ -83,7 +97,7 @@ QByteArray MessageHandler::HandleMessage(QString message)
         HandleUpdate(message);
     } else {
         body = "nack";
-        if (CheckCRC(message)) {
+        if (CheckCRC(checked)) {
             message.remove(QLatin1Char(Frame::startByte));
             message.remove(QLatin1Char(Frame::endByte));
             QStringList fields = message.split(Frame::fieldSeparator, Qt::KeepEmptyParts);

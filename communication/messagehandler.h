@@ -34,6 +34,10 @@ public:
     // One received frame as text (delimiters may still be in it). Returns the answer frame,
     // or an empty array when nothing is to be written.
     QByteArray HandleMessage(QString message);
+    // One received frame as the bytes that came off the line (delimiters may still be in it,
+    // a NUL ends it). The checksum is tested on these bytes, since the decoded text cannot
+    // always give them back; the commands are read from Frame::ReceivedText().
+    QByteArray HandleFrame(const QByteArray &frame);
     bool CheckCRC(QString message);
     QString CalcCRC(QByteArray body);
     bool ParseMessage(const QString &field);
@@ -147,6 +151,9 @@ private:
     bool OnInitialStart(const QString &p);
     bool OnHfCount(const QString &p);
     bool OnAck(const QString &p);
+
+    // Dispatches `message`; `checked` is the text its checksum is tested on.
+    QByteArray Respond(QString message, const QString &checked);
 
     void HeatfileLineParser(const QString &entry, int section, GlobalElements::Program *prog);
     static void CleanMatrix(QList<QList<unsigned int>> *matrix);

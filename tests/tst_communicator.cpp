@@ -123,6 +123,8 @@ private slots:
     void vanishedDeviceIsClosedAndReopened();
     void oversizedPartialFrameIsDropped();
     void noiseLeavesThePanelAnswering();
+    void nonAsciiNameIsCheckedOverItsBytes_data();
+    void nonAsciiNameIsCheckedOverItsBytes();
 
 private:
     // Writes one chunk and waits until the panel has read and handled it.
@@ -324,6 +326,37 @@ void TestCommunicator::noiseLeavesThePanelAnswering()
 
     sendChunk(QByteArray(1, Frame::startByte)); // resynchronise
     answersAFrame();
+}
+
+void TestCommunicator::nonAsciiNameIsCheckedOverItsBytes_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("summed"); // what the checksum was taken over
+    QTest::addColumn<QByteArray>("answer");
+
+    // Both read as "Zirkon Ä", from two bytes or from one; their sums differ (71 and 196).
+    const QByteArray utf8("hpinfo==Zirkon \xC3\x84;95;1;heat");
+    const QByteArray latin1("hpinfo==Zirkon \xC4;95;1;heat");
+    QTest::newRow("UTF-8, byte sum") << utf8 << utf8 << Frame::Build("ack");
+    QTest::newRow("UTF-8, sum of the characters") << utf8 << latin1 << Frame::Build("nack");
+    QTest::newRow("Latin-1, byte sum") << latin1 << latin1 << Frame::Build("ack");
+    QTest::newRow("Latin-1, sum of the text as UTF-8") << latin1 << utf8 << Frame::Build("nack");
+}
+
+void TestCommunicator::nonAsciiNameIsCheckedOverItsBytes()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QByteArray, summed);
+    QSignalSpy info(m_handler.data(), &MessageHandler::SignalHeatfileInfo);
+    sendChunk(Frame::startByte + body + "$$" + Frame::ChecksumText(Frame::BodySum(summed)).toLatin1());
+    sendChunk(QByteArray(1, Frame::endByte));
+    QTEST(waitForAnswer(), "answer");
+    if (body == summed) {
+        QCOMPARE(info.count(), 1);
+        QCOMPARE(info.at(0).at(0).toString(), QStringLiteral("Zirkon \u00C4;95;1;heat"));
+    } else {
+        QCOMPARE(info.count(), 0);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestCommunicator)

@@ -76,9 +76,10 @@ void TestMessageHandler::checksumRules_data()
     QTest::newRow("checksum not a number") << wrapped("A$$x") << false;
     QTest::newRow("separators not counted") << QStringLiteral("a$$b$$-195") << true;
     QTest::newRow("lone dollar counts") << controllerFrame("a$b") << true;
-    // A name sent as UTF-8 is read as UTF-8 and summed over the bytes it came in; bytes that
-    // are not UTF-8 are read one by one as before.
-    QTest::newRow("UTF-8 name") << Frame::ReceivedText(Frame::Build("name==Br\303\274cke")) << true;
+    // The sum is over bytes: text read one character per byte has it, a name read as UTF-8
+    // has lost it (its bytes are summed where they arrive: the communicator test).
+    QTest::newRow("UTF-8 name, a character per byte") << controllerFrame("name==Br\303\274cke") << true;
+    QTest::newRow("UTF-8 name, read as UTF-8") << Frame::ReceivedText(Frame::Build("name==Br\303\274cke")) << false;
     QTest::newRow("Latin-1 name") << Frame::ReceivedText(Frame::Build("name==Br\374cke")) << true;
     QTest::newRow("wide char counts as 0") << (QStringLiteral("A") + QChar(0x20AC) + QStringLiteral("$$-65")) << true;
 }
