@@ -231,7 +231,9 @@ void MainWindow::SetDeviceDataCaptions()
 void MainWindow::SlotExitButtonClicked()
 {
     ui->widget_newProg->ResetName();
-    m_changeInProcess = false; // a change of the running program ends with the editor
+    // A change of the running program, and its saving at once, end with the editor.
+    m_changeInProcess = false;
+    m_saveAtOnce = false;
     Statemachine(Page::MainMenu);
     m_editMode = false;
 }
@@ -242,6 +244,7 @@ void MainWindow::SlotBackButtonClicked()
     if (shown == Page::NewProg) {
         m_editMode = false;
         m_changeInProcess = false;
+        m_saveAtOnce = false;
         ui->widget_newProg->ResetName();
     }
     Statemachine(PageTables::BackTarget(shown, m_origins));

@@ -12,6 +12,7 @@
 #include "popups/timerpopup.h"
 #include "process/chart.h"
 #include "process/chartview.h"
+#include "programs/newprogram.h"
 #include "programs/programhandler.h"
 #include "records/firingdetailview.h"
 #include "records/firinghistoryview.h"
@@ -42,6 +43,7 @@ private slots:
     void progressReportsDriveTheProcessPage();
     void resultAndStop();
     void chartOpensTheEditorOnlyWhileFiring();
+    void saveAtOnceEndsWithTheEditor();
     void hotDoorWarning();
     void doorButtonLock();
     void materialChangeAndInsulation();
@@ -79,8 +81,15 @@ QStringList TestFiring::send(const QByteArray &fields)
 
 void TestFiring::openProgram(const QString &name)
 {
-    m_window->Slot_ShowChoosenProgram(m_window->GetProgramHandler()->GetProgramByName(name), Page::PlayProg);
+    send("guistate==10"); // the user's own programs
+    for (ovra::GlobalElements::ProgramButton *button : m_window->GetProgramButtons()) {
+        if (button->GetText() == name) {
+            PanelHarness::Click(button);
+            break;
+        }
+    }
     QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
+    QCOMPARE(m_panel->Text("label_Name"), name);
     send("temp==293");
 }
 
@@ -258,6 +267,35 @@ void TestFiring::chartOpensTheEditorOnlyWhileFiring()
                       Qt::LeftButton);
     QVERIFY(!m_window->IsEditMode());
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
+}
+
+void TestFiring::saveAtOnceEndsWithTheEditor()
+{
+    send("heatfile==[metainfo];name=Other;manufacturer=user;material=Zirkon;favorite=false;"
+         "[1];rate=10;temp=1273;hold=600;");
+    auto *editor = m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg");
+    const auto programsSent = [this] {
+        return send("temp==293").filter(QRegularExpression(QStringLiteral("^(heatfile|hpchange)==")));
+    };
+    // A change of the running program, left with the editor's exit, and one saved at once.
+    for (const char *leave : {"widget_exit", "widget_fwd"}) {
+        send("guistate==3$$hpinfo==Speed;95;1;heat");
+        QTest::mouseClick(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetView()->viewport(),
+                          Qt::LeftButton);
+        QCOMPARE(m_panel->ShownPageIndex(), int(Page::NewProg));
+        m_panel->Tap(leave);
+        send("hpsuccess$$hpinfo==");
+        programsSent();
+
+        // Another program opened for a change afterwards shows its chart before it is saved.
+        openProgram(QStringLiteral("Other"));
+        m_panel->Tap("widget_playProgChange");
+        QCOMPARE(m_panel->ShownPageIndex(), int(Page::NewProg));
+        m_panel->Tap("widget_fwd");
+        QCOMPARE(editor->GetCurrentView(), int(ovra::GlobalElements::NewProgram::ViewChart));
+        QCOMPARE(programsSent(), QStringList());
+        m_panel->Tap("widget_exitChart");
+    }
 }
 
 void TestFiring::hotDoorWarning()
