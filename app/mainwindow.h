@@ -35,6 +35,7 @@ class Iconbutton;
 class ErrorHandler;
 class Program;
 class ProgramButton;
+class ProgramLists;
 } // namespace GlobalElements
 namespace ProgramHandler {
 class ProgramHandler;
@@ -79,7 +80,7 @@ public:
     Communication::InternalCommunicator *GetInternalCommunicator() const { return m_internalCommunicator; }
     GlobalElements::ErrorHandler *GetErrorHandler() const { return m_errorHandler; }
     ProgramHandler::ProgramHandler *GetProgramHandler() const { return m_programHandler; }
-    const QList<GlobalElements::ProgramButton *> &GetProgramButtons() const { return m_programButtons; }
+    const QList<GlobalElements::ProgramButton *> &GetProgramButtons() const;
     Ui::MainWindow *GetUi() const { return ui; }
     const GlobalElements::Paths &GetPaths() const { return m_paths; }
     Page CurrentPage() const { return m_furnace.CurrentPage(); }
@@ -229,11 +230,6 @@ private:
     void ApplyLanguage(const Settings::LanguageChoice &choice);
     // Every text of the window's own pages again, in the language now installed.
     void RetranslateWindow();
-    void ClearProgramButtons();
-    void FillProgramList(QVBoxLayout *layout, QList<GlobalElements::Program *> *programs);
-    void AddProgramRows(int count);
-    void AddFilterButtons(QVBoxLayout *layout, QList<GlobalElements::Button *> &buttons, bool byManufacturer);
-    void CheckForFilterOption(QList<GlobalElements::Program *> &programs) const;
     void ConnectPrograms();
     QList<QScrollArea *> ListAreas() const;
     void ReleaseListScrolling();
@@ -310,13 +306,8 @@ private:
     bool m_editMode = false;
     const QString m_selftestPassWord = QStringLiteral("pass");
 
-    // Program pages.
-    QList<GlobalElements::ProgramButton *> m_programButtons;
-    // The list rows not built yet, and the list they go to.
-    QList<GlobalElements::Program *> m_pendingPrograms;
-    QVBoxLayout *m_pendingLayout = nullptr;
-    QList<GlobalElements::Button *> m_manufacturerButtons;
-    QList<GlobalElements::Button *> m_materialButtons;
+    // Program pages: their rows and filter buttons.
+    GlobalElements::ProgramLists *m_programLists = nullptr;
     quint16 m_hfresendCount = 0;
     bool m_saveAtOnce = false;
     bool m_changeInProcess = false;

@@ -7,16 +7,12 @@
 #include "popups/popupdeleteprogram.h"
 #include "process/chart.h"
 #include "programs/newprogram.h"
-#include "programs/programfilter.h"
 #include "programs/programhandler.h"
+#include "programs/programlists.h"
 #include "ui_mainwindow.h"
 #include "widgets/button.h"
-#include "widgets/programbutton.h"
 
 #include <QScroller>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace ovra {
 namespace Mainwindow {
@@ -25,12 +21,6 @@ using GlobalElements::Button;
 using GlobalElements::Program;
 using GlobalElements::ProgramButton;
 using ProgramHandler::ProgramHandler;
-
-namespace {
-// Five rows fill the list page; the first rows cover a flick down as well. The rest come in
-// one go: every batch into a shown list lays out all its rows again.
-constexpr int firstListRows = 24;
-} // namespace
 
 void MainWindow::ConnectPrograms()
 {
@@ -47,6 +37,10 @@ void MainWindow::ConnectPrograms()
     connect(m_messageHandler, &MessageHandler::SignalHeatfileReceived, m_programHandler,
             &ProgramHandler::Slot_AddReceivedProgram);
     connect(m_messageHandler, &MessageHandler::SignalSetProgToFav, this, &MainWindow::SlotSetProgToFav);
+    m_programLists = new GlobalElements::ProgramLists(m_programHandler, this);
+    connect(m_programLists, &GlobalElements::ProgramLists::SignalProgramChosen, this,
+            [this](Program *p) { Slot_ShowChoosenProgram(p, Page::PlayProg); });
+    connect(m_programLists, &GlobalElements::ProgramLists::SignalSetProgToFav, this, &MainWindow::SlotSetProgToFav);
     connect(m_messageHandler, &MessageHandler::SignalHeatfileCount, this, &MainWindow::SlotCheckHeatfileCount);
 
     connect(m_popupMaterial, &Popups::Popup::SignalPopupButton, this, &MainWindow::Slot_MaterialSelected);
@@ -67,6 +61,11 @@ void MainWindow::ConnectPrograms()
         QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
 }
 
+const QList<GlobalElements::ProgramButton *> &MainWindow::GetProgramButtons() const
+{
+    return m_programLists->Buttons();
+}
+
 QList<QScrollArea *> MainWindow::ListAreas() const
 {
     return {ui->scrollArea_Hitlist,      ui->scrollArea_MyProgs,      ui->scrollArea_FixProgs,
@@ -80,90 +79,28 @@ void MainWindow::ReleaseListScrolling()
         QScroller::ungrabGesture(area->viewport());
 }
 
-void MainWindow::ClearProgramButtons()
-{
-    // A batch still queued for the old list finds nothing left, or the new list's rows.
-    m_pendingPrograms.clear();
-    for (ProgramButton *button : qAsConst(m_programButtons)) {
-        button->hide();
-        button->deleteLater();
-    }
-    m_programButtons.clear();
-    // No button holds a replaced or deleted program any more.
-    m_programHandler->ReleaseRetired();
-}
-
-void MainWindow::FillProgramList(QVBoxLayout *layout, QList<Program *> *programs)
-{
-    ClearProgramButtons();
-    m_pendingLayout = layout;
-    m_pendingPrograms = *programs;
-    delete programs;
-    // A row costs a quarter of a millisecond here and more on the board. A screenful and
-    // more is built before the page shows, so the tap is answered at once however long the
-    // list; the rest follows as soon as the page is up.
-    AddProgramRows(firstListRows);
-}
-
-void MainWindow::AddProgramRows(int count)
-{
-    if (m_pendingPrograms.isEmpty())
-        return;
-    // One repaint for the whole batch, not one per row.
-    QWidget *list = m_pendingLayout->parentWidget();
-    list->setUpdatesEnabled(false);
-    int at = m_pendingLayout->count() - 1; // before the closing spacer
-    for (; count > 0 && !m_pendingPrograms.isEmpty(); --count) {
-        auto *button = new ProgramButton();
-        button->SetButtonProgram(m_pendingPrograms.takeFirst()); // shows the name and the favourite state too
-        m_pendingLayout->insertWidget(at++, button);
-        connect(button, &ProgramButton::SignalProgButtonClicked, this,
-                [this](Program *p) { Slot_ShowChoosenProgram(p, Page::PlayProg); });
-        connect(button, &ProgramButton::SignalSetProgToFav, this, &MainWindow::SlotSetProgToFav);
-        m_programButtons.append(button);
-    }
-    list->setUpdatesEnabled(true);
-    if (m_pendingPrograms.isEmpty())
-        return;
-    QTimer::singleShot(0, this, [this] { AddProgramRows(m_pendingPrograms.size()); });
-}
-
 void MainWindow::PreparePageMyHitlist()
 {
-    FillProgramList(ui->verticalLayout_listHitlist, m_programHandler->GetFavoriteProgramList());
+    m_programLists->Fill(ui->verticalLayout_listHitlist, m_programHandler->GetFavoriteProgramList());
 }
 
 void MainWindow::PreparePageMyPrograms()
 {
     ui->widget_myProgsNew->SetText(Caption(Captions::NeuesProgramm));
     QList<Program *> *programs = m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::userManufacturer);
-    CheckForFilterOption(*programs);
-    FillProgramList(ui->verticalLayout_listMyProgs, programs);
+    m_programLists->CheckForFilterOption(*programs);
+    m_programLists->Fill(ui->verticalLayout_listMyProgs, programs);
 }
 
 void MainWindow::PreparePageFixPrograms()
 {
-    FillProgramList(ui->verticalLayout_listFixProgs, m_programHandler->GetFixProgramList());
+    m_programLists->Fill(ui->verticalLayout_listFixProgs, m_programHandler->GetFixProgramList());
 }
 
 void MainWindow::PreparePageServicePrograms()
 {
-    FillProgramList(ui->verticalLayout_listServiceProgs,
-                    m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::serviceManufacturer));
-}
-
-void MainWindow::CheckForFilterOption(QList<Program *> &programs) const
-{
-    auto checkedTexts = [](const QList<Button *> &buttons) {
-        QStringList texts;
-        for (const Button *button : buttons) {
-            if (button->IsChecked())
-                texts << button->GetText().remove(QLatin1Char(' '));
-        }
-        return texts;
-    };
-    GlobalElements::ProgramFilter::Apply(programs, checkedTexts(m_manufacturerButtons),
-                                         checkedTexts(m_materialButtons));
+    m_programLists->Fill(ui->verticalLayout_listServiceProgs,
+                         m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::serviceManufacturer));
 }
 
 void MainWindow::PreparePageDisplayOptions()
@@ -174,31 +111,14 @@ void MainWindow::PreparePageDisplayOptions()
     ui->widget_DisplayButtonMaterial->SetNextPageIndex(Page::DisplayMaterial);
 }
 
-void MainWindow::AddFilterButtons(QVBoxLayout *layout, QList<Button *> &buttons, bool byManufacturer)
-{
-    QStringList shown;
-    for (const Button *button : qAsConst(buttons))
-        shown << button->GetText();
-    const QStringList values =
-        GlobalElements::ProgramFilter::NewButtonValues(*m_programHandler->GetProgramList(), byManufacturer, shown);
-    for (const QString &value : values) {
-        auto *button = new Button();
-        button->SetText(value);
-        button->SetCheckable(true);
-        button->setMinimumHeight(64);
-        layout->insertWidget(layout->count() - 1, button);
-        buttons.append(button);
-    }
-}
-
 void MainWindow::PreparePageDisplayManufacturer()
 {
-    AddFilterButtons(ui->verticalLayout_listManufacturer, m_manufacturerButtons, true);
+    m_programLists->AddFilterButtons(ui->verticalLayout_listManufacturer, true);
 }
 
 void MainWindow::PreparePageDisplayMaterial()
 {
-    AddFilterButtons(ui->verticalLayout_listMaterial, m_materialButtons, false);
+    m_programLists->AddFilterButtons(ui->verticalLayout_listMaterial, false);
 }
 
 void MainWindow::SlotSetProgToFav(bool on, Program *program)
@@ -216,16 +136,7 @@ void MainWindow::SlotDeleteProg()
 {
     const QString name = m_title;
     m_programHandler->Slot_DeleteProgramFromList(name);
-    m_pendingPrograms.erase(std::remove_if(m_pendingPrograms.begin(), m_pendingPrograms.end(),
-                                           [&name](const Program *p) { return p->GetName() == name; }),
-                            m_pendingPrograms.end());
-    for (int i = m_programButtons.size() - 1; i >= 0; --i) {
-        if (m_programButtons.at(i)->GetText() == name) {
-            m_programButtons.at(i)->hide();
-            m_programButtons.at(i)->deleteLater();
-            m_programButtons.removeAt(i);
-        }
-    }
+    m_programLists->Remove(name);
     // Back to the list the program was chosen from, now without it.
     SlotBackButtonClicked();
 }
