@@ -51,6 +51,8 @@ void FurnaceState::Follow(const MessageHandler *h)
     connect(h, &MessageHandler::SignalHeatfileProcess, this, &FurnaceState::EndFiring);
     connect(h, &MessageHandler::SignalFailure, this, &FurnaceState::AddFailures);
     connect(h, &MessageHandler::SignalResetFailure, this, &FurnaceState::WithdrawFailures);
+    connect(h, &MessageHandler::SignalUSB, &m_usb, &Settings::UsbSession::SlotControllerSays);
+    connect(h, &MessageHandler::SignalUpdateProgress, &m_usb, &Settings::UsbSession::SlotUpdateProgress);
     const QList<QPair<void (MessageHandler::*)(const QString &), SelftestRow>> rows = {
         {&MessageHandler::SignalSelftestDoor, SelftestRow::Door},
         {&MessageHandler::SignalSelftestHeater, SelftestRow::Heater},

@@ -3,6 +3,7 @@
 #include "app/pageinterface.h"
 #include "communication/reports.h"
 #include "process/temperaturetext.h"
+#include "settings/usbsession.h"
 
 #include <QDateTime>
 #include <QList>
@@ -99,6 +100,9 @@ public:
     // The failures standing now, and every failure reported since the service last cleared
     // the list, withdrawn ones included; newest first.
     const QList<FailureEntry> &Failures() const { return m_failures; }
+    // The stick in the furnace's socket and what is being done with it.
+    Settings::UsbSession &Usb() { return m_usb; }
+    const Settings::UsbSession &Usb() const { return m_usb; }
     const QList<FailureEntry> &FailureLog() const { return m_failureLog; }
     QString SelftestResult(SelftestRow row) const;
 
@@ -166,6 +170,7 @@ private:
     QList<FailureEntry> m_failures;
     QList<FailureEntry> m_failureLog;
     QString m_selftest[5];
+    Settings::UsbSession m_usb{nullptr};
 };
 
 } // namespace GlobalElements

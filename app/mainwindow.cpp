@@ -86,7 +86,6 @@ MainWindow::~MainWindow()
     delete m_preDryPulseTimer;
     delete m_playEnableTimer;
     delete m_selftestStartTimer;
-    delete m_usbAnswerTimer;
     delete ui;
 }
 
@@ -174,12 +173,6 @@ void MainWindow::CreateTimers()
     m_selftestStartTimer = new QTimer();
     m_selftestStartTimer->setSingleShot(true);
     connect(m_selftestStartTimer, &QTimer::timeout, this, &MainWindow::Slot_StartSelftest);
-
-    m_usbAnswerTimer = new QTimer();
-    m_usbAnswerTimer->setSingleShot(true);
-    m_usbAnswerTimer->setInterval(m_options.usbAnswerTimeoutMs);
-    connect(m_usbAnswerTimer, &QTimer::timeout, this,
-            [this] { FinishUsbAction(false, QStringLiteral("no answer from the controller")); });
 }
 
 void MainWindow::SetUpIcons()
@@ -295,13 +288,7 @@ void MainWindow::ConnectOvenLink()
     connect(h, &MessageHandler::SignalSetLanguage, this, &MainWindow::SlotSetLanguage);
     connect(h, &MessageHandler::SignalSetInitalStartup, this, &MainWindow::SlotSetInitialStartup);
     connect(h, &MessageHandler::SignalSetUnit, this, &MainWindow::SlotSetUnit);
-    connect(h, &MessageHandler::SignalUpdateProgress, m_popupUSB, &Popups::PopupUSB::SlotUpdateProgress);
-    connect(h, &MessageHandler::SignalUSB, this, &MainWindow::SlotCheckUsbStick);
-    // An update that makes progress is not waiting for an answer.
-    connect(h, &MessageHandler::SignalUpdateProgress, this, [this] {
-        if (m_usbAnswerTimer->isActive())
-            m_usbAnswerTimer->start();
-    });
+    ConnectUsb();
     ConnectProcessLink();
 }
 
@@ -389,9 +376,6 @@ void MainWindow::ConnectPageButtons()
         connect(language, &Button::SignalButtonClicked, this, &MainWindow::SlotLanguageChange);
     connect(ui->widget_redoSelftest, &Button::SignalButtonClicked, this, &MainWindow::Slot_StartSelftest);
     connect(ui->widget_LicenseButton, &Button::SignalButtonClicked, this, &MainWindow::SlotShowLicense);
-    for (Button *usb : {ui->widget_USBMenuFWUpdate, ui->widget_USBMenuConfigUpdate, ui->widget_USBMenuLoadMyProgs,
-                        ui->widget_USBMenuSaveMyProgs, ui->widget_USBMenuBackup})
-        connect(usb, &Button::SignalButtonClicked, this, &MainWindow::SlotUSBInProgress);
     connect(ui->widget_USBMenuQRCode, &Button::SignalButtonClicked, this, &MainWindow::GenerateQRCode);
     for (GlobalElements::TestDisplayElement *row :
          {ui->widget_testDoor, ui->widget_testHeatsystem, ui->widget_testCooling}) {

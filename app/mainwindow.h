@@ -9,6 +9,7 @@
 #include "process/firingrules.h"
 #include "records/firingrecorder.h"
 #include "settings/devicereport.h"
+#include "settings/usbsession.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -169,9 +170,7 @@ public slots:
     void SlotResetDeviceSettings(bool confirmed);
     void SlotShowLicense();
 
-    // USB stick menu and QR code (service).
-    void SlotCheckUsbStick(const QString &state);
-    void SlotUSBInProgress();
+    // QR code (service).
     void GenerateQRCode();
 
 protected:
@@ -235,11 +234,9 @@ private:
     void ReleaseListScrolling();
     void RewriteExternalScripts();
 
-    enum class UsbAction { None, Firmware, Config, LoadPrograms, SavePrograms, Backup };
     bool CanShowUsbMenu() const;
-    void RunUsbFileAction();
-    bool LoadProgramsFromStick(const QString &stick, QString *error);
-    void FinishUsbAction(bool success, const QString &reason);
+    void ConnectUsb();
+    void RunUsbFileAction(Settings::UsbSession::Action action);
     QString DeviceReportText() const;
 
     Ui::MainWindow *ui;
@@ -295,10 +292,7 @@ private:
     QTranslator m_translator;
     // Caption of the page title, re-applied on a language change; none for a program's name.
     const char *m_titleSource = nullptr;
-    // USB stick: the controller's last word on its socket, and the one action under way.
-    bool m_usbStickIn = false;
-    UsbAction m_usbAction = UsbAction::None;
-    QTimer *m_usbAnswerTimer = nullptr;
+    // The USB stick menu's dealings with the controller; the window draws them.
 
     // State flags.
     bool m_startupShown = false;

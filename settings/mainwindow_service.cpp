@@ -4,23 +4,19 @@
 #include "app/logutils.h"
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
-#include "communication/requests.h"
 #include "faults/errorhandler.h"
 #include "popups/popupqrcode.h"
 #include "popups/popupusb.h"
-#include "programs/heatfiletext.h"
-#include "programs/programhandler.h"
-#include "records/firingexport.h"
 #include "records/firingreport.h"
 #include "settings/devicereport.h"
 #include "settings/qrcode.h"
-#include "settings/usbfiles.h"
+#include "settings/usbfileaction.h"
 #include "settings/usbstick.h"
 #include "ui_mainwindow.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QTimer>
+#include <QMap>
 
 #include <algorithm>
 #include <tuple>
@@ -28,30 +24,8 @@
 namespace ovra {
 namespace Mainwindow {
 
-using GlobalElements::Program;
-
-namespace {
-const QString stickIn = QStringLiteral("in");
-const QString stickOut = QStringLiteral("out");
-const QString actionDone = QStringLiteral("done");
-const QString actionFailed = QStringLiteral("failed");
-
-QList<const Program *> Constant(const QList<Program *> &programs)
-{
-    QList<const Program *> result;
-    for (const Program *program : programs)
-        result << program;
-    return result;
-}
-
-// The store's filtered lists are the caller's to delete.
-QList<const Program *> Taken(QList<Program *> *programs)
-{
-    const QList<const Program *> result = Constant(*programs);
-    delete programs;
-    return result;
-}
-} // namespace
+using Communication::MessageHandler;
+using GlobalElements::Button;
 
 void MainWindow::PreparePageUSBMenu()
 {
@@ -73,148 +47,83 @@ bool MainWindow::CanShowUsbMenu() const
            ui->stackedWidget_main->currentIndex() == 0 && !busy.contains(m_furnace.CurrentPage());
 }
 
-void MainWindow::SlotCheckUsbStick(const QString &state)
+void MainWindow::ConnectUsb()
 {
-    if (state == stickIn) {
-        m_usbStickIn = true;
-        if (CanShowUsbMenu())
-            Statemachine(Page::USB);
-    } else if (state == stickOut) {
-        m_usbStickIn = false;
-        if (m_usbAction == UsbAction::Firmware || m_usbAction == UsbAction::Config)
-            FinishUsbAction(false, QStringLiteral("the stick was pulled"));
+    using Settings::UsbSession;
+    using Action = UsbSession::Action;
+    UsbSession *usb = &m_furnace.Usb();
+    const QList<std::tuple<Button *, Action, const char *>> actions = {
+        {ui->widget_USBMenuFWUpdate, Action::Firmware, Captions::ProgressFirmware},
+        {ui->widget_USBMenuConfigUpdate, Action::Config, Captions::ProgressConfig},
+        {ui->widget_USBMenuLoadMyProgs, Action::LoadPrograms, Captions::ProgressLoad},
+        {ui->widget_USBMenuSaveMyProgs, Action::SavePrograms, Captions::ProgressSave},
+        {ui->widget_USBMenuBackup, Action::Backup, Captions::ProgressBackup},
+    };
+    QMap<Action, const char *> progress;
+    for (const auto &entry : actions) {
+        const Action action = std::get<1>(entry);
+        connect(std::get<0>(entry), &Button::SignalButtonClicked, this, [usb, action] { usb->Begin(action); });
+        progress.insert(action, std::get<2>(entry));
+    }
+    usb->SetAnswerTimeoutMs(m_options.usbAnswerTimeoutMs);
+    usb->SetMenuGuard([this] { return CanShowUsbMenu(); });
+    connect(usb, &UsbSession::SignalShowMenu, this, [this] { Statemachine(Page::USB); });
+    connect(usb, &UsbSession::SignalCloseMenu, this, [this] {
         if (m_furnace.CurrentPage() == Page::USB)
             Statemachine(Page::MainMenu);
-    } else if (state == actionDone || state == actionFailed) {
-        if (m_usbAction != UsbAction::None && m_usbAction != UsbAction::Firmware && m_usbAction != UsbAction::Config) {
-            qDebug() << "usb: controller's" << state << "while the panel works on the stick, ignored";
-            return;
-        }
-        if (m_usbAction == UsbAction::None) {
-            // An update the controller began on its own: its result is shown all the same.
-            m_usbAction = UsbAction::Firmware;
-            m_popupUSB->open();
-        }
-        FinishUsbAction(state == actionDone, QStringLiteral("the controller reports ") + state);
-    } else {
-        qDebug() << "usb: unknown state" << state;
-    }
+    });
+    connect(usb, &UsbSession::SignalBegan, this, [this, progress](Action action) {
+        qDebug() << "usb:" << QString::fromUtf8(progress.value(action)).simplified();
+        m_popupUSB->SetText(Caption(progress.value(action)));
+        m_popupUSB->SlotUpdateProgress(QStringLiteral("0"));
+        m_popupUSB->SetBusy(true);
+        m_popupUSB->open();
+    });
+    connect(usb, &UsbSession::SignalUnaskedResult, m_popupUSB, &QDialog::open);
+    connect(usb, &UsbSession::SignalRequest, m_messageHandler, &MessageHandler::SetRequest);
+    connect(usb, &UsbSession::SignalRunFileAction, this, &MainWindow::RunUsbFileAction);
+    connect(usb, &UsbSession::SignalFinished, this, [this](bool success) {
+        if (success)
+            m_popupUSB->SlotUpdateProgress(QStringLiteral("100"));
+        m_popupUSB->SetText(Caption(success ? Captions::ProgressSuccess : Captions::ProgressFailed));
+        m_popupUSB->SetBusy(false);
+    });
+
+    connect(m_messageHandler, &MessageHandler::SignalUpdateProgress, m_popupUSB, &Popups::PopupUSB::SlotUpdateProgress);
 }
 
-void MainWindow::SlotUSBInProgress()
+void MainWindow::RunUsbFileAction(Settings::UsbSession::Action action)
 {
-    if (m_usbAction != UsbAction::None)
-        return;
-    const QList<std::tuple<QObject *, UsbAction, const char *>> actions = {
-        {ui->widget_USBMenuFWUpdate, UsbAction::Firmware, Captions::ProgressFirmware},
-        {ui->widget_USBMenuConfigUpdate, UsbAction::Config, Captions::ProgressConfig},
-        {ui->widget_USBMenuLoadMyProgs, UsbAction::LoadPrograms, Captions::ProgressLoad},
-        {ui->widget_USBMenuSaveMyProgs, UsbAction::SavePrograms, Captions::ProgressSave},
-        {ui->widget_USBMenuBackup, UsbAction::Backup, Captions::ProgressBackup},
-    };
-    for (const auto &action : actions) {
-        if (std::get<0>(action) == sender())
-            m_usbAction = std::get<1>(action);
-    }
-    const auto chosen =
-        std::find_if(actions.cbegin(), actions.cend(), [this](const auto &a) { return std::get<1>(a) == m_usbAction; });
-    if (chosen == actions.cend())
-        return;
-    qDebug() << "usb:" << QString::fromUtf8(std::get<2>(*chosen)).simplified();
-    m_popupUSB->SetText(Caption(std::get<2>(*chosen)));
-    m_popupUSB->SlotUpdateProgress(QStringLiteral("0"));
-    m_popupUSB->SetBusy(true);
-    m_popupUSB->open();
-
-    if (m_usbAction == UsbAction::Firmware || m_usbAction == UsbAction::Config) {
-        // The controller does these from the stick; without its word that one is in, it cannot.
-        if (!m_usbStickIn) {
-            FinishUsbAction(false, QStringLiteral("the controller reports no stick"));
-            return;
-        }
-        m_messageHandler->SetRequest(m_usbAction == UsbAction::Firmware
-                                         ? Communication::Requests::FirmwareUpdateFromStick()
-                                         : Communication::Requests::ConfigUpdateFromStick());
-        m_usbAnswerTimer->start();
-        return;
-    }
-    // The popup is painted with its "please wait" before the stick is touched.
-    QTimer::singleShot(0, this, &MainWindow::RunUsbFileAction);
-}
-
-void MainWindow::RunUsbFileAction()
-{
+    using Action = Settings::UsbSession::Action;
+    namespace Files = Settings::UsbFileAction;
     const QString stick = Settings::UsbStick::Find(m_options.usbDir);
-    const Settings::UsbFiles files(stick);
     QString error;
     bool success = false;
     if (stick.isEmpty()) {
         error = QStringLiteral("no USB stick is mounted");
-    } else if (m_usbAction == UsbAction::SavePrograms) {
-        success = files.SavePrograms(Taken(m_programHandler->GetProgramListSortedByManufacturer(
-                                         ProgramHandler::ProgramHandler::userManufacturer)),
-                                     &error);
-    } else if (m_usbAction == UsbAction::LoadPrograms) {
-        success = LoadProgramsFromStick(stick, &error);
-    } else if (m_usbAction == UsbAction::Backup) {
-        const QString folder =
-            files.Backup(Constant(*m_programHandler->GetProgramList()), DeviceReportText(), m_furnace.Device().serial,
-                         GlobalElements::logFolderName, QDateTime::currentDateTime(), &error);
-        success = !folder.isEmpty();
-        if (success) {
-            m_firingRecorder.Store().Flush();
-            // Two thousand firings take minutes on the board: the controller's frames are
-            // answered meanwhile, and the popup counts up.
-            const auto progress = [this](int done, int total) {
-                m_popupUSB->SlotUpdateProgress(QString::number(done * 100 / std::max(total, 1)));
-                QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            };
-            success = Records::ExportFirings(m_paths.Home(), folder + QStringLiteral("/records"), &error, false,
-                                             Records::FiringReport::Writer(DeviceData(), m_furnace.IsFahrenheit()), progress);
-            qDebug() << "usb: backup written to" << folder;
-        }
+    } else if (action == Action::SavePrograms) {
+        success = Files::SavePrograms(*m_programHandler, stick, &error);
+    } else if (action == Action::LoadPrograms) {
+        success = Files::LoadPrograms(
+            *m_programHandler, stick, [this](const QString &request) { m_messageHandler->SetRequest(request); },
+            &error);
+    } else if (action == Action::Backup) {
+        // Two thousand firings take minutes on the board: the controller's frames are
+        // answered meanwhile, and the popup counts up.
+        const auto progress = [this](int done, int total) {
+            m_popupUSB->SlotUpdateProgress(QString::number(done * 100 / std::max(total, 1)));
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        };
+        const auto report = Records::FiringReport::Writer(DeviceData(), m_furnace.IsFahrenheit());
+        const Files::BackupSources sources{DeviceReportText(),
+                                           m_furnace.Device().serial,
+                                           m_paths.Home(),
+                                           &m_firingRecorder.Store(),
+                                           report,
+                                           progress};
+        success = Files::Backup(*m_programHandler, stick, sources, &error);
     }
-    FinishUsbAction(success, error);
-}
-
-bool MainWindow::LoadProgramsFromStick(const QString &stick, QString *error)
-{
-    QStringList taken;
-    // The store's own list, not a copy.
-    for (const Program *program : qAsConst(*m_programHandler->GetProgramList())) {
-        if (program->GetManufacturer() != ProgramHandler::ProgramHandler::userManufacturer)
-            taken << program->GetName();
-    }
-    QList<Program *> loaded;
-    if (!Settings::UsbFiles(stick).LoadPrograms(taken, &loaded, error))
-        return false;
-    // Like programs from the controller: one of the same name is replaced, in our store and,
-    // through "heatfile==", in the controller's.
-    for (Program *program : qAsConst(loaded)) {
-        m_programHandler->Slot_AddReceivedProgram(program);
-        if (program->IsFav())
-            m_programHandler->Slot_SetProgramToFav(program);
-        else
-            m_programHandler->Slot_DeleteProgramFromFavoriteList(program);
-        m_messageHandler->SetRequest(
-            Communication::Requests::NewProgram(GlobalElements::HeatfileText::Write(*program)));
-    }
-    qDebug() << "usb:" << loaded.size() << "programs loaded";
-    return true;
-}
-
-void MainWindow::FinishUsbAction(bool success, const QString &reason)
-{
-    if (m_usbAction == UsbAction::None)
-        return;
-    if (!success)
-        qDebug() << "usb: failed:" << reason;
-    m_usbAnswerTimer->stop();
-    m_usbAction = UsbAction::None;
-    if (success)
-        m_popupUSB->SlotUpdateProgress(QStringLiteral("100"));
-    m_popupUSB->SetText(Caption(success ? Captions::ProgressSuccess : Captions::ProgressFailed));
-    m_popupUSB->SetBusy(false);
+    m_furnace.Usb().FileActionDone(success, error);
 }
 
 QString MainWindow::DeviceReportText() const
