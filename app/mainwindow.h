@@ -59,6 +59,9 @@ class TimerPopup;
 namespace Settings {
 struct LanguageChoice;
 } // namespace Settings
+namespace Process {
+class AutostartNoteView;
+}
 namespace Records {
 class FiringDetailView;
 class FiringHistoryView;
@@ -223,6 +226,7 @@ private:
     // The caption under the result symbol, in the language now shown; none without a result.
     void ShowResultCaption(const char *source);
     void ShowProcessEndButtons();
+    void RemoveAutostartNote();
     void SetPlayButtonCaptions();
     void SetDeviceDataCaptions();
     void SetSelftestCaptions();
@@ -308,7 +312,7 @@ private:
 
     // Firing.
     unsigned int m_preDryMinutes = 0;
-    QPlainTextEdit *m_autostartNote = nullptr;
+    Process::AutostartNoteView *m_autostartNote = nullptr;
     // The program last shown on the program or process page: the program page is rebuilt from
     // it whenever it is entered, by back or by the controller, when the title holds another page's.
     QString m_shownProgramName;

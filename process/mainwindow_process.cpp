@@ -8,6 +8,7 @@
 #include "popups/popupstop.h"
 #include "popups/popuptempwarning.h"
 #include "popups/timerpopup.h"
+#include "process/autostartnoteview.h"
 #include "process/chart.h"
 #include "process/firingrules.h"
 #include "process/processtime.h"
@@ -19,7 +20,6 @@
 #include "ui_mainwindow.h"
 
 #include <QDebug>
-#include <QPlainTextEdit>
 #include <QTimer>
 
 namespace ovra {
@@ -91,13 +91,8 @@ void MainWindow::FillProgramPage(GlobalElements::Program *program, bool play)
     material->SetIcon(Process::IsArgon(program->GetMaterial()) ? QStringLiteral(":/Play/Gas.png") : QString());
     if (!play)
         return;
-    if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
-        ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
-        delete m_autostartNote;
-        m_autostartNote = nullptr;
-        ui->horizontalLayout_playButtons->setSpacing(6);
-    }
-    // A program is shown without pre-dry and without a delayed start.
+    // A program is shown without pre-dry and without a delayed start, nor the note of one.
+    RemoveAutostartNote();
     ui->widget_timerPreDry->SetChecked(false);
     ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
     ui->widget_timerPlayProg->SetChecked(false);
@@ -316,33 +311,28 @@ void MainWindow::UpdateProcessTime()
 
     const bool userProgram = ProgramHandler::ProgramHandler::IsUserProgram(program);
     if (m_autostartNote == nullptr && ui->widget_timerPlayProg->IsChecked()) {
-        const QString text = Process::AutostartNote(timer);
         if (ui->horizontalLayout_playButtons->count() < 4) {
-            m_autostartNote = new QPlainTextEdit(text);
-            m_autostartNote->setObjectName(QStringLiteral("plainTextEdit_autostart"));
-            m_autostartNote->setReadOnly(true);
-            m_autostartNote->setFont(QFont(QStringLiteral("Monserrat"), 16));
-            m_autostartNote->setStyleSheet(
-                QStringLiteral("QPlainTextEdit{\n border: 0px;\n color: rgb(83, 88, 91);\n}"));
-            m_autostartNote->setFocusPolicy(Qt::NoFocus);
-            m_autostartNote->setAttribute(Qt::WA_TransparentForMouseEvents);
-            m_autostartNote->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-            m_autostartNote->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-            m_autostartNote->document()->setDocumentMargin(0);
-            m_autostartNote->setFixedSize(180, 72); // three lines at 16 pt
+            m_autostartNote = new Process::AutostartNoteView(Process::AutostartNote(timer));
             ui->horizontalLayout_playButtons->insertWidget(0, m_autostartNote);
             ui->horizontalLayout_playButtons->setSpacing(0);
             ui->widget_playProgChange->setVisible(false);
             ui->widget_playProgDelete->setVisible(false);
         }
     } else if (m_autostartNote != nullptr && !ui->widget_timerPlayProg->IsChecked()) {
-        ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
-        delete m_autostartNote;
-        m_autostartNote = nullptr;
-        ui->horizontalLayout_playButtons->setSpacing(6);
+        RemoveAutostartNote();
         ui->widget_playProgChange->setVisible(userProgram);
         ui->widget_playProgDelete->setVisible(userProgram);
     }
+}
+
+void MainWindow::RemoveAutostartNote()
+{
+    if (m_autostartNote == nullptr)
+        return;
+    ui->horizontalLayout_playButtons->removeWidget(m_autostartNote);
+    delete m_autostartNote;
+    m_autostartNote = nullptr;
+    ui->horizontalLayout_playButtons->setSpacing(6);
 }
 
 void MainWindow::SlotIncPreDryTime()

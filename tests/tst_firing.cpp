@@ -157,6 +157,17 @@ void TestFiring::delayedStart()
     QCOMPARE(m_window->GetTimerPopup()->GetRequestedTimer(), QString());
     QVERIFY(m_panel->Widget("plainTextEdit_autostart") == nullptr);
     QVERIFY(m_panel->Shown("widget_playProgChange"));
+
+    // Left with its note up, a delayed start is gone when a program is chosen from the list.
+    setDelayedStart();
+    m_panel->Tap("widget_backPlayNewProg");
+    openProgram(QStringLiteral("Speed"));
+    QVERIFY(m_panel->Widget("plainTextEdit_autostart") == nullptr);
+    QVERIFY(!m_panel->Checked("widget_timerPlayProg"));
+    QVERIFY(m_panel->Shown("widget_playProgChange"));
+    QTRY_VERIFY_WITH_TIMEOUT(m_panel->Enabled("widget_playNewProg"), 3000);
+    m_panel->Tap("widget_playNewProg");
+    QCOMPARE(send("temp==293"), QStringList{QStringLiteral("hpstart==Speed,0")});
 }
 
 void TestFiring::programPageIsRebuiltOnEntry()
