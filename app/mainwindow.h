@@ -63,8 +63,7 @@ namespace Process {
 class AutostartNoteView;
 }
 namespace Records {
-class FiringDetailView;
-class FiringHistoryView;
+class FiringHistoryScreens;
 } // namespace Records
 
 namespace Mainwindow {
@@ -255,12 +254,8 @@ private:
     Records::FiringStart DescribeFiring(const QString &program) const;
     // The firing history, shown over the current page (records/mainwindow_records.cpp).
     void ConnectRecords();
-    void ShowFiringHistory();
-    void OpenFiringRecord(qint64 id);
-    void CloseFiringHistory();
     Settings::DeviceReport::Data DeviceData() const;
-    Records::FiringHistoryView *m_firingHistoryView = nullptr;
-    Records::FiringDetailView *m_firingDetailView = nullptr;
+    Records::FiringHistoryScreens *m_firingHistory = nullptr;
 
     // Owned components, created in this order. The parentless ones live until the
     // process ends; the popups belong to the window.
