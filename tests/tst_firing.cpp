@@ -3,6 +3,7 @@
 // material change, door insulation and the argon check.
 #include "app/mainwindow.h"
 #include "communication/frame.h"
+#include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
 #include "fakeholdclock.h"
 #include "panelharness.h"
@@ -23,6 +24,7 @@
 #include <QLineSeries>
 #include <QListView>
 #include <QPushButton>
+#include <QTcpSocket>
 #include <QtTest>
 
 using ovra::Mainwindow::MainWindow;
@@ -176,20 +178,19 @@ void TestFiring::programPageIsRebuiltOnEntry()
     openProgram(QStringLiteral("Speed"));
     setDelayedStart();
     send("guistate==3");
-    m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("Argon"));
+    send(PanelHarness::Heatfile("Speed", "user", "Argon"));
 
     // The controller brings the page back: name, material and estimate from the store.
     send("guistate==17");
     QCOMPARE(m_panel->Text("label_Name"), QStringLiteral("Speed"));
     QCOMPARE(m_panel->Icon("widget_materialPlay"), QStringLiteral(":/Play/Gas.png"));
     QVERIFY(m_panel->Widget("plainTextEdit_autostart") == nullptr);
-    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 13:58"));
+    QCOMPARE(m_panel->Text("widget_showPlayTime"), QStringLiteral("Ende 13:48")); // the new program's
 
-    // Back from the process page rebuilds it too; lower-case argon is not argon.
-    m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Speed"))->SetMaterial(QStringLiteral("argon"));
-    send("guistate==18");
-    m_window->SlotBackButtonClicked();
-    QCOMPARE(m_window->CurrentPage(), Page::PlayProg);
+    // Back from the process page after a firing rebuilds it too; lower-case argon is not argon.
+    send(PanelHarness::Heatfile("Speed", "user", "argon"));
+    send("hpinfo==Speed;95;1;heat$$hpsuccess$$hpinfo==");
+    m_panel->Tap("widget_backProcessProg");
     QCOMPARE(m_panel->Text("widget_materialPlay"), QStringLiteral("argon"));
     QCOMPARE(m_panel->Icon("widget_materialPlay"), QString());
 }
@@ -220,9 +221,14 @@ void TestFiring::progressReportsDriveTheProcessPage()
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
 
     // Display off during a firing leaves the door alone.
-    m_window->Slot_SetTouchEnable(false);
+    QTcpSocket key;
+    key.connectToHost(QHostAddress::LocalHost, m_window->GetInternalCommunicator()->Port());
+    QVERIFY(key.waitForConnected(3000));
+    key.write("aus");
+    QTRY_VERIFY(!m_panel->TouchEnabled());
     QCOMPARE(send("temp==773"), QStringList());
-    m_window->Slot_SetTouchEnable(true);
+    key.write("an");
+    QTRY_VERIFY(m_panel->TouchEnabled());
 
     send("hpinfo==");
     QVERIFY(!m_window->Furnace().IsFiring());
@@ -271,7 +277,7 @@ void TestFiring::chartOpensTheEditorOnlyWhileFiring()
     send("hpinfo==Speed;90;1;heat");
     QCOMPARE(m_panel->ShownPageIndex(), int(Page::NewProg));
 
-    m_window->SlotExitButtonClicked();
+    m_panel->Tap("widget_exit");
     send("hpinfo==Speed;95;1;heat");
     send("hpsuccess");
     QTest::mouseClick(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_process")->GetView()->viewport(),
@@ -349,9 +355,9 @@ void TestFiring::doorButtonLock()
     QCOMPARE(m_panel->Icon("widget_doorProcessProg"), QStringLiteral(":/Door/Door_Down.png"));
 
     // The controller asks for one door movement on the process page.
-    send("waitforuserinteraction");
+    send("guistate==18$$waitforuserinteraction");
     QVERIFY(m_panel->Shown("widget_doorProcessProg"));
-    m_window->SlotMoveDoor();
+    m_panel->Tap("widget_doorProcessProg");
     QVERIFY(!m_panel->Shown("widget_doorProcessProg"));
 }
 
@@ -400,8 +406,7 @@ void TestFiring::failedFiringInTheHistory()
     send("hpinfo==Speed;95;1;heat");
     send("error==E12");
     send("hpfailed$$hpinfo==");
-    m_window->Statemachine(Page::Settings);
-    m_panel->Send("temp==293");
+    m_panel->Send("guistate==6");
     m_panel->Tap("widget_SettingsButtonFiringHistory");
     auto *history = m_window->findChild<ovra::Records::FiringHistoryView *>();
     auto *detail = m_window->findChild<ovra::Records::FiringDetailView *>();

@@ -75,7 +75,8 @@ void TestFiringWithSimulator::firings()
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000); // in the main menu
 
     // The user picks the program, adds 15 minutes of pre-drying and starts.
-    window.Statemachine(Page::MyProgs);
+    for (const char *button : {"widget_MainMenuButtonProgs", "widget_ProgsButtonLists", "widget_ListsButtonMyProgs"})
+        view.Tap(button);
     QTRY_VERIFY_WITH_TIMEOUT(!window.GetProgramButtons().isEmpty(), 5000);
     PanelView::Click(window.GetProgramButtons().first());
     QCOMPARE(window.CurrentPage(), Page::PlayProg);

@@ -133,9 +133,9 @@ void TestLanguage::everyTextOfEveryPageAndPopupFollows()
     send("guistate==1");
     for (int page = int(Page::Selftest); page <= int(Page::USB); ++page) {
         if (page != int(Page::PlayProg) && page != int(Page::ProcessProg))
-            m_panel->Window()->Statemachine(static_cast<Page>(page));
+            send("guistate==" + QByteArray::number(page));
     }
-    m_panel->Window()->Statemachine(Page::Progs);
+    send("guistate==5");
     QVERIFY(ShownTexts(m_panel->Window()).contains(QStringLiteral("Neues Programm")));
 
     send("lang==englischUS");
@@ -155,7 +155,7 @@ void TestLanguage::controllerUnitSetsTheEditorLimits()
     // The limits per unit are the editor's own test; here the controller's word reaches it.
     auto *editor = m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg");
     QLineEdit *temp = editor->GetRows().first()->GetTempField();
-    m_panel->Window()->Statemachine(Page::NewProg);
+    send("guistate==16");
     auto type = [editor, temp](const QString &digits) {
         temp->clear();
         QTest::mouseClick(temp, Qt::LeftButton);

@@ -5,7 +5,9 @@
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
 #include "faults/errorhandler.h"
+#include "faults/popupdeletefailurelist.h"
 #include "panelharness.h"
+#include "touch.h"
 
 #include <QProgressBar>
 #include <QTcpSocket>
@@ -223,8 +225,8 @@ void TestMainWindow::selftestFromServiceStays()
     QCOMPARE(m_window->CurrentPage(), Page::Service);
 
     // During a firing the automatic self-test does not take the screen.
-    send("guistate==18");
-    m_window->Slot_StartSelftest();
+    send("ophours==1$$guistate==18"); // device data arm the self-test; it falls due on the process page
+    QTRY_VERIFY(!m_window->IsSelftestPending());
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
 }
 
@@ -241,7 +243,9 @@ void TestMainWindow::failuresShowTheWorstSymbol()
     send("reseterror==E12");
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/mittel.png);"));
 
-    m_window->SlotDeleteFailure();
+    send("guistate==20");
+    m_panel->Tap("widget_deleteFailureList");
+    Tap(m_window->findChild<ovra::Popups::PopupDeleteFailureList *>(), "pushButton_OKDel");
     QVERIFY(!m_panel->Shown("pushButton_infoMainMenu"));
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("deletefailurelist")});
     send("error==E77");

@@ -4,11 +4,12 @@
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
 #include "panelharness.h"
+#include "popups/popupdeleteprogram.h"
 #include "process/chart.h"
 #include "programs/programhandler.h"
-#include "widgets/programbutton.h"
-
+#include "touch.h"
 #include "widgets/button.h"
+#include "widgets/programbutton.h"
 
 #include <QPushButton>
 #include <QtTest>
@@ -145,8 +146,8 @@ void TestProgramPages::showingAndDeletingAProgram()
     click(m_window->GetProgramButtons().at(1)); // Mein Argon
     QVERIFY(m_panel->Shown("widget_playProgDelete"));
     QCOMPARE(m_panel->Find<ovra::GlobalElements::Chart>("widget_chart_play")->GetProfile().points.size(), 5);
-    send("temp==300"); // drop the page reports
-    m_window->SlotDeleteProg();
+    m_panel->Tap("widget_playProgDelete");
+    Tap(m_window->findChild<ovra::Popups::PopupDeleteProgram *>(), "pushButton_OK");
     QVERIFY(send("temp==300").contains(QStringLiteral("hpdelete==Mein Argon")));
     QCOMPARE(m_window->CurrentPage(), Page::MyProgs);
     QCOMPARE(listed(), QStringList{QStringLiteral("Mein Speed")});

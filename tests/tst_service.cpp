@@ -201,7 +201,8 @@ void TestService::pinAndStickFromTheController()
     auto *usb = panel.Window()->findChild<ovra::Popups::PopupUSB *>();
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 20000);
 
-    panel.Window()->Statemachine(Page::ServicePIN);
+    sim.Command("send guistate==8"); // the PIN pad is the controller's to show
+    QTRY_COMPARE_WITH_TIMEOUT(panel.Window()->CurrentPage(), Page::ServicePIN, 5000);
     for (const char *key : {"pushButton_2", "pushButton_4", "pushButton_6", "pushButton_8", "pushButton_ok"})
         view.Widget("widget_numpad")->findChild<QPushButton *>(QString::fromLatin1(key))->click();
     QCOMPARE(panel.Window()->CurrentPage(), Page::Service);

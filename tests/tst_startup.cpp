@@ -49,7 +49,8 @@ void TestStartUp::selftestThenAProgramTypedOnThePanelReachesTheController()
     QTRY_VERIFY_WITH_TIMEOUT(sim.AnsweredFrameWith(QStringLiteral("guistate==26")), 5000);
 
     // The controller's user programs are listed.
-    window->Statemachine(Page::MyProgs);
+    for (const char *button : {"widget_MainMenuButtonProgs", "widget_ProgsButtonLists", "widget_ListsButtonMyProgs"})
+        view.Tap(button);
     QTRY_VERIFY_WITH_TIMEOUT(window->GetProgramButtons().size() >= 3, 5000);
 
     // A new program, typed on the panel's own pads.
@@ -86,7 +87,7 @@ void TestStartUp::selftestThenAProgramTypedOnThePanelReachesTheController()
     QVERIFY(sim.Printed(QStringLiteral("stored: Krone")));
     QCOMPARE(window->CurrentPage(), Page::PlayProg);
     QCOMPARE(view.Text("label_Name"), QStringLiteral("Krone"));
-    window->Statemachine(Page::MyProgs);
+    view.Tap("widget_backPlayNewProg"); // to the list the editor was opened from
     QVERIFY(window->GetProgramButtons().last()->GetText() == QStringLiteral("Krone"));
 }
 
