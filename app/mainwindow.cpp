@@ -63,6 +63,11 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     PreparePageLanguageSelect();
     ui->progressBar_selftest->setMaximum(GlobalElements::SelftestProgress::maximum);
     ui->pushButton_USBProgress->setEnabled(false);
+    // The panel offers its filters from the program lists only.
+    for (QWidget *filters : {ui->widget_ProgsButtonDisplayOptions, ui->widget_SettingsButtonDisplayOptions}) {
+        filters->setVisible(false);
+        filters->setEnabled(false);
+    }
     ErrorHandling(); // no failures yet: their symbols and fields stay hidden
 
     m_externalScripts = QStringList{

@@ -193,27 +193,30 @@ private:
     void ApplyStyle();
 
     QString Caption(const char *source) const;
+    // A menu tile: its page, caption and the page it leads to (StartUp: none of its own).
+    struct Tile
+    {
+        Page page;
+        GlobalElements::Button *button;
+        const char *caption;
+        Page next;
+    };
+    QList<Tile> Tiles() const;
+    void CaptionTiles(int page); // -1: every page's
     void SetTitle(const QString &title, bool upperCase);
     void PreparePage(Page page, int from);
 
     // Page preparations; those of the program, filter and service pages grow with them.
     void PreparePageDeviceDataStartUp();
-    void PreparePageMainMenu();
-    void PreparePageProgs();
-    void PreparePageSettings();
-    void PreparePageService();
     void PreparePageServicePin();
-    void PreparePageLists();
     void PreparePageLanguageSelect();
     void PreparePageUnitSelect();
-    void PreparePageDateTime();
     void PreparePageDeviceData(int from);
     void PreparePageSelftest();
     void PreparePageMyHitlist();
     void PreparePageMyPrograms();
     void PreparePageFixPrograms();
     void PreparePageServicePrograms();
-    void PreparePageDisplayOptions();
     void PreparePageDisplayManufacturer();
     void PreparePageDisplayMaterial();
     void PreparePageUSBMenu();

@@ -81,6 +81,7 @@ void MainWindow::SetTitle(const QString &title, bool upperCase)
 
 void MainWindow::PreparePage(Page page, int from)
 {
+    CaptionTiles(page);
     switch (page) {
     case Page::DeviceData: PreparePageDeviceDataStartUp(); break;
     case Page::Selftest:
@@ -88,33 +89,25 @@ void MainWindow::PreparePage(Page page, int from)
             m_origins.selftestOrigin = Page::Service;
         PreparePageSelftest();
         break;
-    case Page::MainMenu: PreparePageMainMenu(); break;
     case Page::MyHitlist:
         PreparePageMyHitlist();
         if (from != Page::PlayProg)
             m_origins.hitlistOrigin = static_cast<Page>(from);
         break;
-    case Page::Progs: PreparePageProgs(); break;
-    case Page::Settings: PreparePageSettings(); break;
-    case Page::Service: PreparePageService(); break;
     case Page::ServicePIN: PreparePageServicePin(); break;
-    case Page::Lists: PreparePageLists(); break;
     case Page::MyProgs: PreparePageMyPrograms(); break;
     case Page::FixProgs: PreparePageFixPrograms(); break;
     case Page::LangSelect: PreparePageLanguageSelect(); break;
     case Page::UnitSelect: PreparePageUnitSelect(); break;
-    case Page::DateTime: PreparePageDateTime(); break;
     case Page::DeviceData2: PreparePageDeviceData(from); break;
     case Page::NewProg:
         if (PageTables::RemembersEditorOrigin(page, from))
             m_origins.editorOrigin = static_cast<Page>(from);
         break;
     case Page::ServiceProgs: PreparePageServicePrograms(); break;
-    case Page::FailureList: ui->widget_deleteFailureList->SetText(Caption(Captions::FehlerLoeschen)); break;
     case Page::DisplayOptions:
         if (from == Page::Progs || from == Page::Settings)
             m_origins.filterOrigin = static_cast<Page>(from);
-        PreparePageDisplayOptions();
         break;
     case Page::DisplayManufacturer: PreparePageDisplayManufacturer(); break;
     case Page::DisplayMaterial: PreparePageDisplayMaterial(); break;
@@ -132,80 +125,64 @@ void MainWindow::PreparePageDeviceDataStartUp()
     m_startupShown = true;
 }
 
-void MainWindow::PreparePageMainMenu()
-{
-    ui->widget_MainMenuButtonHitlist->SetText(Caption(Captions::Favoriten));
-    ui->widget_MainMenuButtonHitlist->SetNextPageIndex(Page::MyHitlist);
-    ui->widget_MainMenuButtonSettings->SetText(Caption(Captions::Einstellungen));
-    ui->widget_MainMenuButtonSettings->SetNextPageIndex(Page::Settings);
-    ui->widget_MainMenuButtonProgs->SetText(Caption(Captions::Programmoptionen));
-    ui->widget_MainMenuButtonProgs->SetNextPageIndex(Page::Progs);
-    ui->widget_MainMenuButtonService->SetText(Caption(Captions::Service));
-    ui->widget_MainMenuButtonService->SetNextPageIndex(Page::Service);
-    ui->widget_USBMenuQRCode->SetText(Caption(Captions::QrCodeErzeugen));
-    ui->widget_MainMenuButtonDoor->SetText(Caption(Captions::TuerOeffnenSchliessen));
-}
-
-void MainWindow::PreparePageProgs()
-{
-    ui->widget_ProgsButtonLists->SetText(Caption(Captions::Programme));
-    ui->widget_ProgsButtonLists->SetNextPageIndex(Page::Lists);
-    ui->widget_ProgsButtonNew->SetText(Caption(Captions::NeuesProgramm));
-    ui->widget_ProgsButtonNew->SetNextPageIndex(Page::NewProg);
-    ui->widget_ProgsButtonService->SetText(Caption(Captions::ServiceProgramme));
-    ui->widget_ProgsButtonService->SetNextPageIndex(Page::ServiceProgs);
-    ui->widget_ProgsButtonDisplayOptions->SetText(Caption(Captions::Filteroptionen));
-    ui->widget_ProgsButtonDisplayOptions->setVisible(false);
-    ui->widget_ProgsButtonDisplayOptions->setEnabled(false);
-}
-
-void MainWindow::PreparePageSettings()
-{
-    ui->widget_SettingsButtonLangSelect->SetText(Caption(Captions::Sprache));
-    ui->widget_SettingsButtonLangSelect->SetNextPageIndex(Page::LangSelect);
-    ui->widget_SettingsButtonUnitSelect->SetText(Caption(Captions::Temperatureinheit));
-    ui->widget_SettingsButtonUnitSelect->SetNextPageIndex(Page::UnitSelect);
-    ui->widget_SettingsButtonDateTime->SetText(Caption(Captions::DatumUhrzeitButton));
-    ui->widget_SettingsButtonDateTime->SetNextPageIndex(Page::DateTime);
-    ui->widget_SettingsButtonDeviceData->SetText(Caption(Captions::Geraetedaten));
-    ui->widget_SettingsButtonDeviceData->SetNextPageIndex(Page::DeviceData2);
-    ui->widget_SettingsButtonDisplayOptions->SetText(Caption(Captions::Filteroptionen));
-    ui->widget_SettingsButtonDisplayOptions->setVisible(false);
-    ui->widget_SettingsButtonDisplayOptions->setEnabled(false);
-    ui->widget_SettingsButtonDeviceReset->SetText(Caption(Captions::Werkseinstellungen));
-    ui->widget_LicenseButton->SetText(Caption(Captions::Lizenz));
-    ui->widget_SettingsButtonFiringHistory->SetText(Caption(Captions::Brennprotokolle));
-}
-
-void MainWindow::PreparePageService()
-{
-    ui->widget_ServiceDeviceData->SetText(Caption(Captions::Geraetedaten));
-    ui->widget_ServiceDeviceData->SetNextPageIndex(Page::DeviceData2);
-    ui->widget_ServiceFailureMM->SetText(Caption(Captions::Fehler));
-    ui->widget_ServiceFailureMM->SetNextPageIndex(Page::FailureList);
-    ui->widget_ServiceSelftest->SetText(Caption(Captions::Systemtest));
-    ui->widget_ServiceSelftest->SetNextPageIndex(Page::Selftest);
-}
-
 void MainWindow::PreparePageServicePin()
 {
     ui->lineEdit_servicePin->clear();
     ui->widget_numpad->Initialize(ui->lineEdit_servicePin, Page::Service);
 }
 
-void MainWindow::PreparePageLists()
+QList<MainWindow::Tile> MainWindow::Tiles() const
 {
-    ui->widget_ListsButtonHitlist->SetText(Caption(Captions::Favoriten));
-    ui->widget_ListsButtonHitlist->SetNextPageIndex(Page::MyHitlist);
-    ui->widget_ListsButtonMyProgs->SetText(Caption(Captions::MeineProgramme));
-    ui->widget_ListsButtonMyProgs->SetNextPageIndex(Page::MyProgs);
-    ui->widget_ListsButtonStaticProgs->SetText(Caption(Captions::FesteProgramme));
-    ui->widget_ListsButtonStaticProgs->SetNextPageIndex(Page::FixProgs);
+    const Page none = Page::StartUp; // a tile that leads to no page of its own
+    return {
+        {Page::MainMenu, ui->widget_MainMenuButtonHitlist, Captions::Favoriten, Page::MyHitlist},
+        {Page::MainMenu, ui->widget_MainMenuButtonSettings, Captions::Einstellungen, Page::Settings},
+        {Page::MainMenu, ui->widget_MainMenuButtonProgs, Captions::Programmoptionen, Page::Progs},
+        {Page::MainMenu, ui->widget_MainMenuButtonService, Captions::Service, Page::Service},
+        {Page::MainMenu, ui->widget_MainMenuButtonDoor, Captions::TuerOeffnenSchliessen, none},
+        {Page::Progs, ui->widget_ProgsButtonLists, Captions::Programme, Page::Lists},
+        {Page::Progs, ui->widget_ProgsButtonNew, Captions::NeuesProgramm, Page::NewProg},
+        {Page::Progs, ui->widget_ProgsButtonService, Captions::ServiceProgramme, Page::ServiceProgs},
+        {Page::Progs, ui->widget_ProgsButtonDisplayOptions, Captions::Filteroptionen, none},
+        {Page::Settings, ui->widget_SettingsButtonLangSelect, Captions::Sprache, Page::LangSelect},
+        {Page::Settings, ui->widget_SettingsButtonUnitSelect, Captions::Temperatureinheit, Page::UnitSelect},
+        {Page::Settings, ui->widget_SettingsButtonDateTime, Captions::DatumUhrzeitButton, Page::DateTime},
+        {Page::Settings, ui->widget_SettingsButtonDeviceData, Captions::Geraetedaten, Page::DeviceData2},
+        {Page::Settings, ui->widget_SettingsButtonDisplayOptions, Captions::Filteroptionen, none},
+        {Page::Settings, ui->widget_SettingsButtonDeviceReset, Captions::Werkseinstellungen, none},
+        {Page::Settings, ui->widget_LicenseButton, Captions::Lizenz, none},
+        {Page::Settings, ui->widget_SettingsButtonFiringHistory, Captions::Brennprotokolle, none},
+        {Page::Service, ui->widget_ServiceDeviceData, Captions::Geraetedaten, Page::DeviceData2},
+        {Page::Service, ui->widget_ServiceFailureMM, Captions::Fehler, Page::FailureList},
+        {Page::Service, ui->widget_ServiceSelftest, Captions::Systemtest, Page::Selftest},
+        {Page::Lists, ui->widget_ListsButtonHitlist, Captions::Favoriten, Page::MyHitlist},
+        {Page::Lists, ui->widget_ListsButtonMyProgs, Captions::MeineProgramme, Page::MyProgs},
+        {Page::Lists, ui->widget_ListsButtonStaticProgs, Captions::FesteProgramme, Page::FixProgs},
+        {Page::DateTime, ui->widget_DateTimeAdjust, Captions::DatumUhrzeitEinstellen, none},
+        {Page::DisplayOptions, ui->widget_DisplayButtonManufacturer, Captions::Hersteller, Page::DisplayManufacturer},
+        {Page::DisplayOptions, ui->widget_DisplayButtonMaterial, Captions::Material, Page::DisplayMaterial},
+        {Page::MyProgs, ui->widget_myProgsNew, Captions::NeuesProgramm, none},
+        {Page::FailureList, ui->widget_deleteFailureList, Captions::FehlerLoeschen, none},
+        {Page::PlayProg, ui->widget_playProgChange, Captions::ProgrammAendern, none},
+        {Page::PlayProg, ui->widget_playProgDelete, Captions::ProgrammLoeschen, none},
+        {Page::USB, ui->widget_USBMenuFWUpdate, Captions::FirmwareAktualisierung, none},
+        {Page::USB, ui->widget_USBMenuConfigUpdate, Captions::KonfigurationAktualisieren, none},
+        {Page::USB, ui->widget_USBMenuLoadMyProgs, Captions::MeineProgrammeLaden, none},
+        {Page::USB, ui->widget_USBMenuSaveMyProgs, Captions::MeineProgrammeSichern, none},
+        {Page::USB, ui->widget_USBMenuBackup, Captions::DatenSichern, none},
+        {Page::USB, ui->widget_USBMenuQRCode, Captions::QrCodeErzeugen, none},
+    };
 }
 
-void MainWindow::PreparePageDateTime()
+void MainWindow::CaptionTiles(int page)
 {
-    ui->widget_DateTimeAdjust->SetText(Caption(Captions::DatumUhrzeitEinstellen));
+    for (const Tile &tile : Tiles()) {
+        if (page >= 0 && static_cast<int>(tile.page) != page)
+            continue;
+        tile.button->SetText(Caption(tile.caption));
+        if (tile.next != Page::StartUp)
+            tile.button->SetNextPageIndex(tile.next);
+    }
 }
 
 void MainWindow::PreparePageDeviceData(int from)

@@ -120,8 +120,7 @@ void MainWindow::PreparePagePlay(int from)
         SetTitle(m_shownProgramName, false);
     }
     ui->horizontalLayout_playButtons->setSpacing(6);
-    ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
-    ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
+    CaptionTiles(Page::PlayProg);
     SetPlayButtonCaptions();
     ui->widget_backPlayNewProg->setVisible(true);
     ui->widget_doorPlayNewProg->setVisible(true);

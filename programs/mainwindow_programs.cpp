@@ -86,7 +86,6 @@ void MainWindow::PreparePageMyHitlist()
 
 void MainWindow::PreparePageMyPrograms()
 {
-    ui->widget_myProgsNew->SetText(Caption(Captions::NeuesProgramm));
     QList<Program *> *programs = m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::userManufacturer);
     m_programLists->CheckForFilterOption(*programs);
     m_programLists->Fill(ui->verticalLayout_listMyProgs, programs);
@@ -101,14 +100,6 @@ void MainWindow::PreparePageServicePrograms()
 {
     m_programLists->Fill(ui->verticalLayout_listServiceProgs,
                          m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::serviceManufacturer));
-}
-
-void MainWindow::PreparePageDisplayOptions()
-{
-    ui->widget_DisplayButtonManufacturer->SetText(Caption(Captions::Hersteller));
-    ui->widget_DisplayButtonManufacturer->SetNextPageIndex(Page::DisplayManufacturer);
-    ui->widget_DisplayButtonMaterial->SetText(Caption(Captions::Material));
-    ui->widget_DisplayButtonMaterial->SetNextPageIndex(Page::DisplayMaterial);
 }
 
 void MainWindow::PreparePageDisplayManufacturer()

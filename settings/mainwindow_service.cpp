@@ -29,13 +29,8 @@ using GlobalElements::Button;
 
 void MainWindow::PreparePageUSBMenu()
 {
+    // The menu's tiles are captioned with the page; the popup's progress button is no tile.
     ui->pushButton_USBProgress->setText(Caption(Captions::Bereit));
-    ui->widget_USBMenuFWUpdate->SetText(Caption(Captions::FirmwareAktualisierung));
-    ui->widget_USBMenuConfigUpdate->SetText(Caption(Captions::KonfigurationAktualisieren));
-    ui->widget_USBMenuLoadMyProgs->SetText(Caption(Captions::MeineProgrammeLaden));
-    ui->widget_USBMenuSaveMyProgs->SetText(Caption(Captions::MeineProgrammeSichern));
-    ui->widget_USBMenuBackup->SetText(Caption(Captions::DatenSichern));
-    ui->widget_USBMenuQRCode->SetText(Caption(Captions::QrCodeErzeugen));
 }
 
 bool MainWindow::CanShowUsbMenu() const

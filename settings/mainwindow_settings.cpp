@@ -70,22 +70,12 @@ void MainWindow::RetranslateWindow()
         SetTitle(Caption(m_titleSource), true);
     // The captions of every page, not only the one showing: some pages are shown again without
     // being prepared (the editor's, the program page coming back from a firing).
-    PreparePageMainMenu();
-    PreparePageProgs();
-    PreparePageSettings();
-    PreparePageService();
-    PreparePageLists();
+    CaptionTiles(-1);
     PreparePageLanguageSelect();
     PreparePageUnitSelect();
-    PreparePageDateTime();
-    PreparePageDisplayOptions();
     PreparePageUSBMenu();
     SetDeviceDataCaptions();
     SetSelftestCaptions();
-    ui->widget_deleteFailureList->SetText(Caption(Captions::FehlerLoeschen));
-    ui->widget_myProgsNew->SetText(Caption(Captions::NeuesProgramm));
-    ui->widget_playProgChange->SetText(Caption(Captions::ProgrammAendern));
-    ui->widget_playProgDelete->SetText(Caption(Captions::ProgrammLoeschen));
     ShowResultCaption(m_resultSource);
     SetPlayButtonCaptions();
 }
