@@ -337,27 +337,10 @@ void MainWindow::ConnectNavigation()
 
     // The service self-test button asks the controller first, then changes the page.
     connect(ui->widget_ServiceSelftest, &Button::SignalButtonClicked, this, &MainWindow::SlotServiceSelftest);
-    for (Button *button : {ui->widget_MainMenuButtonHitlist,
-                           ui->widget_MainMenuButtonSettings,
-                           ui->widget_MainMenuButtonProgs,
-                           ui->widget_MainMenuButtonService,
-                           ui->widget_ProgsButtonLists,
-                           ui->widget_ProgsButtonService,
-                           ui->widget_ProgsButtonDisplayOptions,
-                           ui->widget_ListsButtonHitlist,
-                           ui->widget_ListsButtonMyProgs,
-                           ui->widget_ListsButtonStaticProgs,
-                           ui->widget_SettingsButtonLangSelect,
-                           ui->widget_SettingsButtonUnitSelect,
-                           ui->widget_SettingsButtonDateTime,
-                           ui->widget_SettingsButtonDeviceData,
-                           ui->widget_SettingsButtonDisplayOptions,
-                           ui->widget_DisplayButtonManufacturer,
-                           ui->widget_DisplayButtonMaterial,
-                           ui->widget_ServiceDeviceData,
-                           ui->widget_ServiceSelftest,
-                           ui->widget_ServiceFailureMM}) {
-        connect(button, &Button::SignalButtonClicked, this, &MainWindow::Statemachine);
+    // A new program asks for its material first: its tile does not lead to the editor itself.
+    for (const Tile &tile : Tiles()) {
+        if (tile.next != Page::StartUp && tile.button != ui->widget_ProgsButtonNew)
+            connect(tile.button, &Button::SignalButtonClicked, this, &MainWindow::Statemachine);
     }
     connect(ui->widget_numpad, &GlobalElements::NumPad::SignalCorrectCode, this, &MainWindow::Statemachine);
 }
