@@ -46,6 +46,7 @@ void FurnaceState::Follow(const MessageHandler *h)
             SetArgonOven(true);
     });
     connect(h, &MessageHandler::SignalSetInitalStartup, this, [this] { SetCommissioning(true); });
+    connect(h, &MessageHandler::SignalUserInteractionRequest, this, [this] { SetAwaitingUser(true); });
     connect(h, &MessageHandler::SignalHeatfileInfo, this, &FurnaceState::TakeHeatReport);
     connect(h, &MessageHandler::SignalRemainingTime, this, &FurnaceState::SetFiringEnd);
     connect(h, &MessageHandler::SignalHeatfileProcess, this, &FurnaceState::EndFiring);
@@ -146,6 +147,11 @@ void FurnaceState::SetLanguage(const QString &keyword)
 void FurnaceState::SetCommissioning(bool on)
 {
     m_commissioning = on;
+}
+
+void FurnaceState::SetAwaitingUser(bool waiting)
+{
+    m_awaitingUser = waiting;
 }
 
 void FurnaceState::SetPage(Pageinterface::en_pages page)

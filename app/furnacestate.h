@@ -91,6 +91,8 @@ public:
     bool IsArgonOven() const { return m_argonOven; }
     QString Language() const { return m_language; } // the keyword of the texts shown, empty: German
     bool IsCommissioning() const { return m_commissioning; }
+    // The controller waits for the user to move the door ("waitforuserinteraction").
+    bool IsAwaitingUser() const { return m_awaitingUser; }
     Page CurrentPage() const { return m_page; }
 
     const Firing &CurrentFiring() const { return m_firing; }
@@ -117,6 +119,7 @@ public slots:
     void SetArgonOven(bool argon);
     void SetLanguage(const QString &keyword);
     void SetCommissioning(bool on);
+    void SetAwaitingUser(bool waiting);
     void SetPage(ovra::GlobalElements::Pageinterface::en_pages page);
     void SetSelftestResult(SelftestRow row, const QString &result);
 
@@ -164,6 +167,7 @@ private:
     bool m_argonOven = false;
     QString m_language;
     bool m_commissioning = false;
+    bool m_awaitingUser = false;
     Page m_page = Pageinterface::StartUp;
     Firing m_firing;
     Firing m_requested; // program, pre-dry and delayed start of the panel's last start

@@ -385,7 +385,6 @@ void MainWindow::SlotSetInitialStartup()
 
 void MainWindow::SlotUserInteractionRequest()
 {
-    m_userInteraction = true;
     ui->widget_doorProcessProg->setVisible(true);
 }
 

@@ -298,7 +298,6 @@ private:
 
     // State flags.
     bool m_startupShown = false;
-    bool m_userInteraction = false;
     bool m_editMode = false;
     const QString m_selftestPassWord = QStringLiteral("pass");
 

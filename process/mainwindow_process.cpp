@@ -446,8 +446,8 @@ void MainWindow::SlotMoveDoor()
         m_playEnableTimer->start();
     }
     m_messageHandler->SetRequest(Requests::MoveDoor());
-    if (m_userInteraction) {
-        m_userInteraction = false;
+    if (m_furnace.IsAwaitingUser()) {
+        m_furnace.SetAwaitingUser(false);
         ui->widget_doorProcessProg->setVisible(false);
     }
 }
