@@ -46,16 +46,16 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
 
     CreateComponents();
     CreateTimers();
-    SetUpIcons();
 
     ConnectOvenLink();
     ConnectComponents();
-    ConnectNavigation();
+    SetUpNavigation();
     ConnectPageButtons();
     ConnectPrograms();
     ConnectRecords();
 
     ui->stackedWidget_main->setCurrentIndex(1);
+    ui->widget_playNewProg->SetCheckable(true);
     ui->widget_timerPlayProg->SetCheckable(true);
     ui->widget_timerPreDry->SetCheckable(true);
 
@@ -180,86 +180,6 @@ void MainWindow::CreateTimers()
     connect(m_selftestStartTimer, &QTimer::timeout, this, &MainWindow::Slot_StartSelftest);
 }
 
-void MainWindow::SetUpIcons()
-{
-    for (Iconbutton *button : PageButtons()) {
-        const QString name = button->objectName();
-        if (name.startsWith(QLatin1String("widget_back"))) {
-            button->SetIcon(QStringLiteral(":/Icons/back.png"));
-            // A page without a way back keeps its home button where every page has it.
-            QSizePolicy policy = button->sizePolicy();
-            policy.setRetainSizeWhenHidden(true);
-            button->setSizePolicy(policy);
-        } else if (name.startsWith(QLatin1String("widget_exit")))
-            button->SetIcon(QStringLiteral(":/Icons/home.png"));
-        else if (name.startsWith(QLatin1String("widget_fwd")))
-            button->SetIcon(QStringLiteral(":/Icons/next.png"));
-    }
-    ui->widget_doorPlayNewProg->SetIcon(QStringLiteral(":/Door/Door_Up.png"));
-    ui->widget_doorProcessProg->SetIcon(QStringLiteral(":/Door/Door_Down.png"));
-    ui->widget_playNewProg->SetIcon(QStringLiteral(":/Play/Play.png"));
-    ui->widget_playNewProg->SetCheckable(true);
-    ui->widget_timerPlayProg->SetIcon(QStringLiteral(":/Timer/timer.png"));
-    ui->widget_timerPreDry->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
-    ui->widget_processPreDryInfo->SetIcon(QStringLiteral(":/Vortrocknen/Dry_Up_Timer.png"));
-    ui->widget_stopProcessProg->SetIcon(QStringLiteral(":/Stop/Stop.png"));
-    ui->widget_processErrorInfo->SetIcon(QStringLiteral(":/Info/released.png"));
-    ui->widget_acceptMaterialChanged->SetIcon(QStringLiteral(":/Icons/check.png"));
-    ui->widget_rejectMaterialChanged->SetIcon(QStringLiteral(":/Icons/abbrechen.png"));
-    ui->widget_doorIsolation_accept->SetIcon(QStringLiteral(":/Icons/check.png"));
-
-    ui->widget_temp->SetIcon(QStringLiteral(":/Play/temp.png"));
-    ui->widget_tempPlay->SetIcon(QStringLiteral(":/Play/temp.png"));
-    ui->widget_tempProcess->SetIcon(QStringLiteral(":/Play/temp.png"));
-    ui->widget_showPlayTime->SetIcon(QStringLiteral(":/Play/time.png"));
-    ui->widget_showProcessTime->SetIcon(QStringLiteral(":/Play/time.png"));
-    ui->widget_time->SetIcon(QStringLiteral(":/Icons/datetime.png"));
-    ui->widget_showDate->SetIcon(QStringLiteral(":/Icons/datetime.png"));
-    ui->widget_showTime->SetIcon(QStringLiteral(":/Play/time.png"));
-
-    const QList<QPair<Button *, const char *>> tiles = {
-        {ui->widget_MainMenuButtonHitlist, ":/Icons/favorite_on.png"},
-        {ui->widget_MainMenuButtonProgs, ":/Icons/programs.png"},
-        {ui->widget_MainMenuButtonSettings, ":/Icons/settings.png"},
-        {ui->widget_MainMenuButtonService, ":/Icons/service.png"},
-        {ui->widget_MainMenuButtonDoor, ":/Icons/door.png"},
-        {ui->widget_ProgsButtonLists, ":/Icons/programs.png"},
-        {ui->widget_ProgsButtonNew, ":/Icons/newprogram.png"},
-        {ui->widget_ProgsButtonService, ":/Icons/service.png"},
-        {ui->widget_ProgsButtonDisplayOptions, ":/Icons/filter.png"},
-        {ui->widget_SettingsButtonLangSelect, ":/Icons/language.png"},
-        {ui->widget_SettingsButtonUnitSelect, ":/Icons/unit.png"},
-        {ui->widget_SettingsButtonDateTime, ":/Icons/datetime.png"},
-        {ui->widget_SettingsButtonDeviceData, ":/Icons/devicedata.png"},
-        {ui->widget_SettingsButtonDisplayOptions, ":/Icons/filter.png"},
-        {ui->widget_SettingsButtonDeviceReset, ":/Icons/delete.png"},
-        {ui->widget_LicenseButton, ":/Icons/license.png"},
-        {ui->widget_SettingsButtonFiringHistory, ":/Icons/records.png"},
-        {ui->widget_ServiceDeviceData, ":/Icons/devicedata.png"},
-        {ui->widget_ServiceFailureMM, ":/Icons/failure.png"},
-        {ui->widget_ServiceSelftest, ":/Icons/selftest.png"},
-        {ui->widget_ListsButtonHitlist, ":/Icons/favorite_on.png"},
-        {ui->widget_ListsButtonMyProgs, ":/Icons/programs.png"},
-        {ui->widget_ListsButtonStaticProgs, ":/Icons/programs.png"},
-        {ui->widget_DisplayButtonManufacturer, ":/Icons/filter.png"},
-        {ui->widget_DisplayButtonMaterial, ":/Icons/filter.png"},
-        {ui->widget_DateTimeAdjust, ":/Icons/datetime.png"},
-        {ui->widget_deleteFailureList, ":/Icons/delete.png"},
-        {ui->widget_myProgsNew, ":/Icons/newprogram.png"},
-        {ui->widget_playProgChange, ":/Icons/edit.png"},
-        {ui->widget_playProgDelete, ":/Icons/delete.png"},
-        {ui->widget_redoSelftest, ":/Icons/selftest.png"},
-        {ui->widget_USBMenuFWUpdate, ":/Icons/usb.png"},
-        {ui->widget_USBMenuConfigUpdate, ":/Icons/usb.png"},
-        {ui->widget_USBMenuLoadMyProgs, ":/Icons/programs.png"},
-        {ui->widget_USBMenuSaveMyProgs, ":/Icons/programs.png"},
-        {ui->widget_USBMenuBackup, ":/Icons/usb.png"},
-        {ui->widget_USBMenuQRCode, ":/Icons/qrcode.png"},
-    };
-    for (const auto &tile : tiles)
-        tile.first->SetIcon(QString::fromLatin1(tile.second));
-}
-
 void MainWindow::ConnectOvenLink()
 {
     MessageHandler *h = m_messageHandler;
@@ -323,13 +243,18 @@ QList<Iconbutton *> MainWindow::PageButtons() const
     return buttons;
 }
 
-void MainWindow::ConnectNavigation()
+void MainWindow::SetUpNavigation()
 {
     for (Iconbutton *button : PageButtons()) {
         const QString name = button->objectName();
-        if (name.startsWith(QLatin1String("widget_back")))
+        if (name.startsWith(QLatin1String("widget_back"))) {
             connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotBackButtonClicked);
-        else if (name.startsWith(QLatin1String("widget_exit")))
+            // A page without a way back keeps its home button where every page has it; the
+            // form cannot say so, as uic knows no retainSizeWhenHidden.
+            QSizePolicy policy = button->sizePolicy();
+            policy.setRetainSizeWhenHidden(true);
+            button->setSizePolicy(policy);
+        } else if (name.startsWith(QLatin1String("widget_exit")))
             connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotExitButtonClicked);
         else if (name.startsWith(QLatin1String("widget_fwd")))
             connect(button, &Iconbutton::Signal_ButtonClicked, this, &MainWindow::SlotFwdButtonClicked);

@@ -181,10 +181,9 @@ protected:
 private:
     void CreateComponents();
     void CreateTimers();
-    void SetUpIcons();
     void ConnectOvenLink();
     void ConnectComponents();
-    void ConnectNavigation();
+    void SetUpNavigation();
     QList<GlobalElements::Iconbutton *> PageButtons() const;
     void ConnectPageButtons();
     void ConnectProcessLink();

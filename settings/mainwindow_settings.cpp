@@ -107,8 +107,6 @@ void MainWindow::PreparePageUnitSelect()
 {
     ui->widget_UnitC->SetText(Caption(Captions::Celsius));
     ui->widget_UnitF->SetText(Caption(Captions::Fahrenheit));
-    ui->widget_UnitC->SetIcon(QStringLiteral(":/Icons/unit.png"));
-    ui->widget_UnitF->SetIcon(QStringLiteral(":/Icons/unit.png"));
     ui->widget_UnitC->SetCheckable(true);
     ui->widget_UnitF->SetCheckable(true);
     ui->widget_UnitC->SetChecked(!m_furnace.IsFahrenheit());

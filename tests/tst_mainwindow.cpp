@@ -8,6 +8,7 @@
 #include "faults/popupdeletefailurelist.h"
 #include "panelharness.h"
 #include "touch.h"
+#include "widgets/iconbutton.h"
 
 #include <QProgressBar>
 #include <QTcpSocket>
@@ -31,6 +32,7 @@ private slots:
     void commissioning();
     void badGuiStateText();
     void menuButtonsAndNavigation();
+    void navigationButtonsShowWhereTheyLead();
     void backFromDeviceDataFollowsTheCommissioningOrder();
     void displayKeyClosesTheDoor();
     void selftestProgressAndResult();
@@ -155,6 +157,26 @@ void TestMainWindow::menuButtonsAndNavigation()
     m_panel->Tap("widget_fwdDisplayMaterial");
     QCOMPARE(m_window->CurrentPage(), Page::Progs);
     QVERIFY(!m_panel->Shown("widget_ProgsButtonDisplayOptions"));
+}
+
+void TestMainWindow::navigationButtonsShowWhereTheyLead()
+{
+    // The name makes a button go back, home or forward; its icon comes from the form, where a
+    // button added to a page could be left without one.
+    const QList<QPair<QString, QString>> kinds = {{QStringLiteral("widget_back"), QStringLiteral(":/Icons/back.png")},
+                                                  {QStringLiteral("widget_exit"), QStringLiteral(":/Icons/home.png")},
+                                                  {QStringLiteral("widget_fwd"), QStringLiteral(":/Icons/next.png")}};
+    int seen = 0;
+    for (const auto *button : m_window->findChildren<ovra::GlobalElements::Iconbutton *>()) {
+        for (const auto &kind : kinds) {
+            if (!button->objectName().startsWith(kind.first))
+                continue;
+            QVERIFY2(button->GetIcon() == kind.second,
+                     qPrintable(button->objectName() + " shows " + button->GetIcon()));
+            ++seen;
+        }
+    }
+    QVERIFY(seen > 0);
 }
 
 void TestMainWindow::backFromDeviceDataFollowsTheCommissioningOrder()

@@ -4,6 +4,7 @@
 #include "touch.h"
 #include "widgets/button.h"
 #include "widgets/captionfit.h"
+#include "widgets/displayelementicon.h"
 #include "widgets/iconbutton.h"
 #include "widgets/keyboard.h"
 #include "widgets/numpad.h"
@@ -27,6 +28,8 @@ private slots:
 
     void captionText_data();
     void captionText();
+
+    void iconsNamedByAForm();
 
     void selftestIconTable_data();
     void selftestIconTable();
@@ -79,6 +82,25 @@ void TestWidgetKit::captionText()
     entry.show();
     entry.SetText(caption);
     QCOMPARE(CaptionFit::DisplayText(entry.GetPushButtonObject()->text()), caption);
+}
+
+void TestWidgetKit::iconsNamedByAForm()
+{
+    // uic sets a custom widget's icon with setProperty: a property the class did not declare
+    // would be kept as a dynamic one, and the button would stay blank without a warning.
+    const QString path = QStringLiteral(":/Icons/programs.png");
+    Button tile;
+    QVERIFY(tile.setProperty("icon", path));
+    QCOMPARE(tile.GetIcon(), path);
+    // Set before the tile has a size, the drawing is still decoded only at the tile's size.
+    QCOMPARE(tile.GetPushButtonObject()->icon().availableSizes(),
+             QList<QSize>{QSize(Button::iconSide, Button::iconSide)});
+    Iconbutton button;
+    QVERIFY(button.setProperty("icon", path));
+    QVERIFY(!button.GetButtonObject()->icon().isNull());
+    DisplayElementIcon box;
+    QVERIFY(box.setProperty("icon", path));
+    QCOMPARE(box.GetIcon(), path);
 }
 
 void TestWidgetKit::selftestIconTable_data()

@@ -40,6 +40,7 @@ QString Button::GetText() const
 void Button::SetIcon(const QString &resourcePath)
 {
     m_iconPath = resourcePath;
+    // The tile's fixed side, not its geometry: a form sets the icon before the tile is laid out.
     m_button->setIcon(IconCache::Get(resourcePath, iconSide));
     RefitCaption();
 }

@@ -18,6 +18,8 @@ namespace GlobalElements {
 class Button : public QWidget
 {
     Q_OBJECT
+    // Forms name the icon; without the declaration uic's setProperty would only store it.
+    Q_PROPERTY(QString icon READ GetIcon WRITE SetIcon)
 
 public:
     static constexpr int iconSide = 40;

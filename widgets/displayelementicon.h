@@ -15,6 +15,8 @@ class ElidedLabel;
 class DisplayElementIcon : public QWidget
 {
     Q_OBJECT
+    // Forms name the icon; without the declaration uic's setProperty would only store it.
+    Q_PROPERTY(QString icon READ GetIcon WRITE SetIcon)
 
 public:
     explicit DisplayElementIcon(QWidget *parent = nullptr);

@@ -13,6 +13,8 @@ namespace GlobalElements {
 class Iconbutton : public QWidget
 {
     Q_OBJECT
+    // Forms name the icon; without the declaration uic's setProperty would only store it.
+    Q_PROPERTY(QString icon READ GetIcon WRITE SetIcon)
 
 public:
     explicit Iconbutton(QWidget *parent = nullptr);
