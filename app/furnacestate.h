@@ -50,8 +50,8 @@ struct Firing
     QString end;       // "hh:mm", the controller's "esttime" or reckoned from the minutes left
     QString startDate; // the controller's clock at the first report
     QString startTime;
-    int preDryMinutes = 0;  // as the panel asked for it; 0 for a firing it did not start
-    QString delayedStart;   // "YYYYMMDD,HHMM" of the panel's delayed start, else empty
+    int preDryMinutes = 0; // as the panel asked for it; 0 for a firing it did not start
+    QString delayedStart;  // "YYYYMMDD,HHMM" of the panel's delayed start, else empty
     Result result = Result::None;
 };
 

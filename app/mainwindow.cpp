@@ -96,16 +96,14 @@ MainWindow::~MainWindow()
 
 void MainWindow::DrawDevice()
 {
+    // The start-up page's fields, then the settings page's, in the same order.
     const GlobalElements::DeviceInfo &d = m_furnace.Device();
-    const QList<QPair<QString, QPair<GlobalElements::DisplayElement *, GlobalElements::DisplayElement *>>> fields = {
-        {d.type, {ui->widget_Data1, ui->widget_Data12}},     {d.serial, {ui->widget_Data2, ui->widget_Data22}},
-        {d.hardware, {ui->widget_Data3, ui->widget_Data32}}, {d.software, {ui->widget_Data4, ui->widget_Data42}},
-        {d.hours, {ui->widget_Data5, ui->widget_Data52}},
-    };
-    for (const auto &field : fields) {
-        field.second.first->SetText(field.first);
-        field.second.second->SetText(field.first);
-    }
+    const QStringList texts{d.type, d.serial, d.hardware, d.software, d.hours};
+    const QList<GlobalElements::DisplayElement *> fields{
+        ui->widget_Data1,  ui->widget_Data2,  ui->widget_Data3,  ui->widget_Data4,  ui->widget_Data5,
+        ui->widget_Data12, ui->widget_Data22, ui->widget_Data32, ui->widget_Data42, ui->widget_Data52};
+    for (int i = 0; i < fields.size(); ++i)
+        fields.at(i)->SetText(texts.at(i % texts.size()));
 }
 
 void MainWindow::DrawClock()

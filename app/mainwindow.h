@@ -253,10 +253,8 @@ private:
     GlobalElements::FurnaceState m_furnace;
     // The page title as shown: the program's name on the program, process and editor pages.
     QString m_title;
-    Records::FiringStart DescribeFiring(const QString &program) const;
     // The firing history, shown over the current page (records/mainwindow_records.cpp).
     void ConnectRecords();
-    Settings::DeviceReport::Data DeviceData() const;
     Records::FiringHistoryScreens *m_firingHistory = nullptr;
 
     // Owned components, created in this order. The parentless ones live until the

@@ -103,15 +103,10 @@ void MainWindow::ErrorHandling()
                                                        ui->pushButton_infoMainMenu})
         w->setVisible(any);
 
-    QString icon;
-    if (!any) {
-        ui->widget_processErrorInfo->setEnabled(false);
-        ui->widget_processErrorInfo->setVisible(false);
-    } else {
-        icon = GlobalElements::FailureSeverity::WorstIcon(list.split(QLatin1Char('\n'), Qt::SkipEmptyParts));
-        ui->widget_processErrorInfo->setEnabled(true);
-        ui->widget_processErrorInfo->setVisible(true);
-    }
+    const QString icon =
+        any ? GlobalElements::FailureSeverity::WorstIcon(list.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) : QString();
+    ui->widget_processErrorInfo->setEnabled(any);
+    ui->widget_processErrorInfo->setVisible(any);
     ui->pushButton_info->setIcon(GlobalElements::IconCache::Get(icon));
     ui->pushButton_infoMainMenu->setIcon(GlobalElements::IconCache::Get(icon));
     ui->widget_processError->setStyleSheet(icon.isEmpty() ? QString()

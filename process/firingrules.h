@@ -24,7 +24,7 @@ QString AutostartNote(const QString &requestedTimer);
 namespace Door {
 
 using State = Communication::DoorState;
-QString Icon(State state);             // empty for Unknown: the button shows no door
+QString Icon(State state); // empty for Unknown: the button shows no door
 // The hot-door warning: strictly above the limit of the shown unit (its value comes with the
 // unit), unless the door is closed.
 bool WarnHot(double shownTemperature, unsigned int limit, State state);

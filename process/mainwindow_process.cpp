@@ -42,8 +42,13 @@ void MainWindow::ConnectProcessLink()
     connect(&m_furnace, &FurnaceState::FiringOver, this, &MainWindow::SlotHeatfileInProgress);
     connect(&m_furnace, &FurnaceState::FiringEnded, this, &MainWindow::SlotSetHeatProcessResult);
     m_firingRecorder.Observe(
-        m_furnace, [this](const QString &program) { return DescribeFiring(program); },
-        [this](const GlobalElements::DeviceInfo &) { return Records::FiringReport::DeviceLines(DeviceData()); });
+        m_furnace,
+        [this](const QString &name) {
+            return Records::DescribeProgram(name, m_programHandler->GetProgramByName(name));
+        },
+        [](const GlobalElements::DeviceInfo &device) {
+            return Records::FiringReport::DeviceLines(Settings::DeviceReport::From(device));
+        });
     connect(m_messageHandler, &MessageHandler::SignalArgon, this, &MainWindow::SlotSetArgonOven);
     connect(m_messageHandler, &MessageHandler::SignalMaterialChanged, this, &MainWindow::SlotMaterialChanged);
     connect(m_messageHandler, &MessageHandler::SignalInsulationMissing, this, &MainWindow::SlotInsulationMissing);
@@ -165,8 +170,8 @@ void MainWindow::SlotGenerateProgRequest()
         const QString name = m_title;
         const bool delayed = ui->widget_timerPlayProg->IsChecked();
         const QString timer = m_timerPopup->GetRequestedTimer();
-        const QString request = delayed ? Requests::DelayedStart(timer, name, m_preDryMinutes)
-                                        : Requests::Start(name, m_preDryMinutes);
+        const QString request =
+            delayed ? Requests::DelayedStart(timer, name, m_preDryMinutes) : Requests::Start(name, m_preDryMinutes);
         m_furnace.RequestFiring(name, static_cast<int>(m_preDryMinutes), delayed ? timer : QString());
         m_preDryMinutes = 0;
         m_messageHandler->SetRequest(request);
@@ -340,8 +345,8 @@ void MainWindow::SlotIncPreDryTime()
     m_preDryMinutes = step.minutes;
     ui->widget_timerPreDry->SetChecked(step.checked);
     ui->widget_timerPreDry->SetIcon(QString::fromLatin1(step.icon));
-    CalculateProcessTime(m_programHandler->GetProgramByName(m_title),
-                         static_cast<unsigned short>(m_preDryMinutes), m_timerPopup->GetRequestedTimer());
+    CalculateProcessTime(m_programHandler->GetProgramByName(m_title), static_cast<unsigned short>(m_preDryMinutes),
+                         m_timerPopup->GetRequestedTimer());
 }
 
 void MainWindow::Slot_ShowTimerPopup()
@@ -399,8 +404,9 @@ void MainWindow::SlotArgonPressureFailure(const QString &result)
 
 void MainWindow::SlotInsulationMissing()
 {
-    const QString picture = m_furnace.IsArgonOven() ? QStringLiteral("background: url(:/Tuerisolation/TuerisoArgon.jpg);")
-                                        : QStringLiteral("background: url(:/Tuerisolation/TuerisoZirkon.jpg);");
+    const QString picture = m_furnace.IsArgonOven()
+                                ? QStringLiteral("background: url(:/Tuerisolation/TuerisoArgon.jpg);")
+                                : QStringLiteral("background: url(:/Tuerisolation/TuerisoZirkon.jpg);");
     ui->page_DoorIso->setStyleSheet(QStringLiteral("QWidget#page_DoorIso { ") + picture + QStringLiteral(" }"));
     ui->stackedWidget_main->setCurrentIndex(3);
 }
@@ -423,10 +429,8 @@ void MainWindow::SlotTempReceived()
 void MainWindow::CheckTempDoor()
 {
     const bool warn = Process::Door::WarnHot(m_furnace.Shown().value, m_furnace.DoorTempLimit(), m_furnace.Door());
-    if (warn && !m_popupTempWarning->isVisible())
-        m_popupTempWarning->Show();
-    else if (!warn && m_popupTempWarning->isVisible())
-        m_popupTempWarning->Hide();
+    if (warn != m_popupTempWarning->isVisible())
+        warn ? m_popupTempWarning->Show() : m_popupTempWarning->Hide();
 }
 
 void MainWindow::SlotDoor(Communication::DoorState state)
@@ -455,17 +459,6 @@ void MainWindow::SlotMoveDoor()
 void MainWindow::SlotRequestDoorClose()
 {
     m_messageHandler->SetRequest(Requests::CloseDoor());
-}
-
-Records::FiringStart MainWindow::DescribeFiring(const QString &name) const
-{
-    Records::FiringStart start;
-    start.program = name;
-    if (const GlobalElements::Program *program = m_programHandler->GetProgramByName(name)) {
-        start.heatfileText = GlobalElements::HeatfileText::Write(*program);
-        start.material = program->GetMaterial();
-    }
-    return start;
 }
 
 } // namespace Mainwindow

@@ -206,5 +206,16 @@ void ProgramHandler::Slot_DeleteProgramFromList(const QString &name)
     }
 }
 
+void ProgramHandler::DeleteUserPrograms()
+{
+    QStringList names;
+    for (const Program *program : qAsConst(m_programs)) {
+        if (IsUserProgram(program))
+            names << program->GetName();
+    }
+    for (const QString &name : qAsConst(names))
+        Slot_DeleteProgramFromList(name);
+}
+
 } // namespace ProgramHandler
 } // namespace ovra

@@ -64,6 +64,8 @@ public slots:
     void Slot_SetProgramToFav(ovra::GlobalElements::Program *prog);
     void Slot_DeleteProgramFromFavoriteList(ovra::GlobalElements::Program *prog);
     void Slot_DeleteProgramFromList(const QString &name);
+    // Each of the user's own programs, one "hpdelete==" after the other.
+    void DeleteUserPrograms();
 
 private:
     int LastIndexOf(const QList<Program *> &list, const QString &name) const;

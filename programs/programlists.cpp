@@ -19,9 +19,7 @@ namespace {
 constexpr int firstListRows = 24;
 } // namespace
 
-ProgramLists::ProgramLists(ProgramHandler::ProgramHandler *store, QObject *parent) : QObject(parent), m_store(store)
-{
-}
+ProgramLists::ProgramLists(ProgramHandler::ProgramHandler *store, QObject *parent) : QObject(parent), m_store(store) {}
 
 void ProgramLists::Fill(QVBoxLayout *layout, QList<Program *> *programs)
 {
@@ -66,9 +64,9 @@ void ProgramLists::AddRows(int count)
 
 void ProgramLists::Remove(const QString &name)
 {
-    m_pending.erase(std::remove_if(m_pending.begin(), m_pending.end(),
-                                   [&name](const Program *p) { return p->GetName() == name; }),
-                    m_pending.end());
+    m_pending.erase(
+        std::remove_if(m_pending.begin(), m_pending.end(), [&name](const Program *p) { return p->GetName() == name; }),
+        m_pending.end());
     for (int i = m_buttons.size() - 1; i >= 0; --i) {
         if (m_buttons.at(i)->GetText() == name) {
             m_buttons.at(i)->hide();

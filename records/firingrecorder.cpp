@@ -1,9 +1,22 @@
 #include "records/firingrecorder.h"
 
 #include "app/furnacestate.h"
+#include "programs/heatfiletext.h"
+#include "programs/program.h"
 
 namespace ovra {
 namespace Records {
+
+FiringStart DescribeProgram(const QString &name, const GlobalElements::Program *program)
+{
+    FiringStart start;
+    start.program = name;
+    if (program != nullptr) {
+        start.heatfileText = GlobalElements::HeatfileText::Write(*program);
+        start.material = program->GetMaterial();
+    }
+    return start;
+}
 
 FiringRecorder::FiringRecorder(const QString &home) : m_store(FiringStore::FileIn(home)) {}
 
@@ -24,7 +37,7 @@ void FiringRecorder::Observe(const GlobalElements::FurnaceState &furnace, const 
         Progress(program, f->Date(), f->Time(), [&describe, &program] { return describe(program); });
     });
     QObject::connect(f, &FurnaceState::FiringEnded, f, [this, f](Communication::FiringResult result) {
-        const Result recorded = result == Communication::FiringResult::Success  ? Result::Success
+        const Result recorded = result == Communication::FiringResult::Success   ? Result::Success
                                 : result == Communication::FiringResult::Stopped ? Result::Stopped
                                                                                  : Result::Failed;
         Finished(recorded, f->Date(), f->Time());

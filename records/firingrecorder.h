@@ -8,10 +8,15 @@
 namespace ovra {
 namespace GlobalElements {
 class FurnaceState;
+class Program;
 struct DeviceInfo;
 } // namespace GlobalElements
 
 namespace Records {
+
+// What the panel knows of a program when it is fired: its text as fired and its material;
+// only the name for a program the store does not hold.
+FiringStart DescribeProgram(const QString &name, const GlobalElements::Program *program);
 
 // Turns the panel's firing events into records. A firing is recorded from its first progress
 // report, so a delayed start counts from when it really begins and a firing the controller

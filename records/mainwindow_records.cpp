@@ -19,17 +19,5 @@ void MainWindow::ConnectRecords()
         connect(stack, &QStackedWidget::currentChanged, m_firingHistory, &Records::FiringHistoryScreens::Close);
 }
 
-Settings::DeviceReport::Data MainWindow::DeviceData() const
-{
-    Settings::DeviceReport::Data device;
-    const GlobalElements::DeviceInfo &known = m_furnace.Device();
-    device.model = known.type;
-    device.serialNumber = known.serial;
-    device.hardwareVersion = known.hardware;
-    device.softwareVersion = known.software;
-    device.operatingHours = known.hours;
-    return device;
-}
-
 } // namespace Mainwindow
 } // namespace ovra

@@ -1,8 +1,15 @@
 #include "settings/devicereport.h"
 
+#include "app/furnacestate.h"
+
 namespace ovra {
 namespace Settings {
 namespace DeviceReport {
+
+Data From(const GlobalElements::DeviceInfo &device)
+{
+    return {device.type, device.serial, device.hardware, device.software, device.hours, {}};
+}
 
 QString Text(const Data &data)
 {

@@ -4,6 +4,9 @@
 #include <QStringList>
 
 namespace ovra {
+namespace GlobalElements {
+struct DeviceInfo;
+}
 namespace Settings {
 
 // The furnace's identity and state for the service technician, in one short plain text
@@ -20,6 +23,9 @@ struct Data
     QString operatingHours;
     QStringList failures; // current failure codes, newest first
 };
+
+// The furnace model's device data; no failures.
+Data From(const GlobalElements::DeviceInfo &device);
 
 // "Model: ...\nSerial: ...\nHW: ...\nSW: ...\nHours: ...\nFailures: A,B" ("-" for none).
 QString Text(const Data &data);

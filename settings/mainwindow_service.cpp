@@ -109,13 +109,10 @@ void MainWindow::RunUsbFileAction(Settings::UsbSession::Action action)
             m_popupUSB->SlotUpdateProgress(QString::number(done * 100 / std::max(total, 1)));
             QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         };
-        const auto report = Records::FiringReport::Writer(DeviceData(), m_furnace.IsFahrenheit());
-        const Files::BackupSources sources{DeviceReportText(),
-                                           m_furnace.Device().serial,
-                                           m_paths.Home(),
-                                           &m_firingRecorder.Store(),
-                                           report,
-                                           progress};
+        const auto report =
+            Records::FiringReport::Writer(Settings::DeviceReport::From(m_furnace.Device()), m_furnace.IsFahrenheit());
+        const Files::BackupSources sources{
+            DeviceReportText(), m_furnace.Device().serial, m_paths.Home(), &m_firingRecorder.Store(), report, progress};
         success = Files::Backup(*m_programHandler, stick, sources, &error);
     }
     m_furnace.Usb().FileActionDone(success, error);
@@ -123,7 +120,7 @@ void MainWindow::RunUsbFileAction(Settings::UsbSession::Action action)
 
 QString MainWindow::DeviceReportText() const
 {
-    Settings::DeviceReport::Data device = DeviceData();
+    Settings::DeviceReport::Data device = Settings::DeviceReport::From(m_furnace.Device());
     device.failures = m_errorHandler->GetErrorList().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return Settings::DeviceReport::Text(device);
 }

@@ -149,14 +149,7 @@ void MainWindow::SlotResetDeviceSettings(bool confirmed)
         return;
     // The user's own programs go first, each with its own "hpdelete==", so the controller's
     // store and ours agree before it restores its settings.
-    QList<GlobalElements::Program *> *own =
-        m_programHandler->GetProgramListSortedByManufacturer(ProgramHandler::ProgramHandler::userManufacturer);
-    QStringList names;
-    for (const GlobalElements::Program *program : qAsConst(*own))
-        names << program->GetName();
-    delete own;
-    for (const QString &name : qAsConst(names))
-        m_programHandler->Slot_DeleteProgramFromList(name);
+    m_programHandler->DeleteUserPrograms();
     m_messageHandler->SetRequest(Communication::Requests::FactoryReset());
 }
 
