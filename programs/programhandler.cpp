@@ -3,6 +3,8 @@
 #include "communication/requests.h"
 #include "programs/heatfiletext.h"
 
+#include <algorithm>
+
 namespace ovra {
 namespace ProgramHandler {
 
@@ -116,6 +118,12 @@ void ProgramHandler::ReleaseRetired()
 {
     qDeleteAll(m_retired);
     m_retired.clear();
+}
+
+bool ProgramHandler::Holds(const Program *prog) const
+{
+    return std::any_of(m_programs.cbegin(), m_programs.cend(), [prog](const Program *p) { return p == prog; }) ||
+           std::any_of(m_retired.cbegin(), m_retired.cend(), [prog](const Program *p) { return p == prog; });
 }
 
 void ProgramHandler::Replace(int index, Program *fresh)

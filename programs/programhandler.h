@@ -27,6 +27,8 @@ public:
     // The last program of that name, or nullptr.
     Program *GetProgramByName(const QString &name) const;
     QList<Program *> *GetFavoriteProgramList() const;
+    // The favourites list itself, as the panel set it; GetFavoriteProgramList() goes by the flags.
+    const QList<Program *> &GetFavoriteEntries() const { return m_favorites; }
     QList<Program *> *GetFixProgramList() const;
     // Despite the names these filter, keeping the store's order.
     QList<Program *> *GetProgramListSortedByManufacturer(const QString &manufacturer) const;
@@ -44,6 +46,8 @@ public:
     // Frees retired records; call when no page holds a program pointer from before.
     void ReleaseRetired();
     int RetiredCount() const { return m_retired.size(); }
+    // True while the record may still be read: stored, or retired and not yet released.
+    bool Holds(const Program *prog) const;
 
     static const QString userManufacturer;
     // The user's own programs are the ones that may be changed, deleted and shown in full.
