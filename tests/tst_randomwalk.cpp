@@ -21,6 +21,7 @@
 #include "popups/popupusb.h"
 #include "process/chart.h"
 #include "programs/programhandler.h"
+#include "settings/usbfiles.h"
 #include "widgets/button.h"
 #include "widgets/programbutton.h"
 
@@ -219,6 +220,7 @@ QString Key(const QWidget *widget)
     return name.isEmpty() ? kind : kind + QLatin1Char(':') + name;
 }
 
+// The widget's key, and "#n" for the n-th sibling before it with the same key.
 QString Segment(const QWidget *widget)
 {
     int same = 0;
@@ -232,7 +234,7 @@ QString Segment(const QWidget *widget)
         }
     }
     QString segment = key;
-    segment.replace(QLatin1Char('/'), QLatin1Char('|'));
+    segment.replace(QLatin1Char('/'), QLatin1Char('|')).replace(QLatin1Char('#'), QLatin1Char('|'));
     return same == 0 ? segment : segment + QLatin1Char('#') + QString::number(same);
 }
 
@@ -248,9 +250,15 @@ QWidget *Resolve(QWidget *root, const QString &path)
 {
     QWidget *at = root;
     for (const QString &segment : path.split(QLatin1Char('/'))) {
+        const QString key = segment.section(QLatin1Char('#'), 0, 0);
+        int skip = segment.section(QLatin1Char('#'), 1, 1).toInt();
         QWidget *next = nullptr;
         for (QObject *child : at->children()) {
-            if (child->isWidgetType() && Segment(static_cast<QWidget *>(child)) == segment) {
+            if (!child->isWidgetType())
+                continue;
+            QString own = Key(static_cast<QWidget *>(child));
+            own.replace(QLatin1Char('/'), QLatin1Char('|')).replace(QLatin1Char('#'), QLatin1Char('|'));
+            if (own == key && skip-- == 0) {
                 next = static_cast<QWidget *>(child);
                 break;
             }
@@ -262,10 +270,25 @@ QWidget *Resolve(QWidget *root, const QString &path)
     return at;
 }
 
+// Visits the widgets under `root` depth first, the shown ones only if asked; `visit` returns
+// false to keep out of a widget's children. A long walk leaves thousands of filter buttons
+// behind (see PreparePageDisplayManufacturer), so nothing here goes where it need not.
+template <typename Visit>
+void VisitWidgets(QWidget *root, bool shownOnly, const Visit &visit)
+{
+    for (QObject *child : root->children()) {
+        if (!child->isWidgetType())
+            continue;
+        auto *widget = static_cast<QWidget *>(child);
+        if ((!shownOnly || widget->isVisible()) && visit(widget))
+            VisitWidgets(widget, shownOnly, visit);
+    }
+}
+
 // ---- What the user can touch ----
 
-// Open popups, the one on top last: a touch reaches only that one. Every popup of the window
-// covers it as its child.
+// Open popups, the one on top last: a touch reaches only that one. An open popup covers the
+// window as its child.
 QList<QDialog *> OpenPopups(QWidget *window)
 {
     QList<QDialog *> open;
@@ -273,10 +296,6 @@ QList<QDialog *> OpenPopups(QWidget *window)
         auto *dialog = qobject_cast<QDialog *>(child);
         if (dialog != nullptr && dialog->isVisible())
             open << dialog;
-    }
-    for (QDialog *dialog : window->findChildren<QDialog *>()) {
-        if (dialog->isVisible() && !open.contains(dialog))
-            open.prepend(dialog);
     }
     return open;
 }
@@ -299,19 +318,20 @@ QList<QAbstractButton *> Tappable(QWidget *window)
     const QList<QDialog *> popups = OpenPopups(window);
     QWidget *scope = popups.isEmpty() ? window : popups.last();
     QWidget *overlay = popups.isEmpty() ? Overlay(window) : nullptr;
-    QWidget *screens = window->findChild<QWidget *>(QStringLiteral("stackedWidget_main"));
     QList<QAbstractButton *> buttons;
-    for (QAbstractButton *button : scope->findChildren<QAbstractButton *>()) {
-        if (!button->isVisible() || !button->isEnabled())
-            continue;
-        if (overlay != nullptr && screens->isAncestorOf(button) && !overlay->isAncestorOf(button))
-            continue;
-        bool inPopup = false;
-        for (QWidget *w = button->parentWidget(); w != nullptr && w != scope; w = w->parentWidget())
-            inPopup = inPopup || qobject_cast<QDialog *>(w) != nullptr;
-        if (!inPopup)
-            buttons << button;
-    }
+    VisitWidgets(scope, true, [&](QWidget *widget) {
+        if (widget != scope && qobject_cast<QDialog *>(widget) != nullptr)
+            return false;
+        // What the overlay covers cannot be touched.
+        if (overlay != nullptr && widget->parentWidget() == overlay->parentWidget() && widget != overlay)
+            return false;
+        if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
+            if (button->isEnabled())
+                buttons << button;
+            return false;
+        }
+        return true;
+    });
     return buttons;
 }
 
@@ -319,12 +339,13 @@ QWidget *TappableChart(QWidget *window)
 {
     if (!OpenPopups(window).isEmpty() || Overlay(window) != nullptr)
         return nullptr;
-    QList<QWidget *> charts;
-    for (auto *chart : window->findChildren<ovra::GlobalElements::Chart *>()) {
-        if (chart->isVisible() && chart->isEnabled())
-            charts << chart;
-    }
-    return charts.isEmpty() ? nullptr : charts.first();
+    QWidget *found = nullptr;
+    VisitWidgets(window, true, [&found](QWidget *widget) {
+        if (found == nullptr && qobject_cast<ovra::GlobalElements::Chart *>(widget) != nullptr && widget->isEnabled())
+            found = widget;
+        return found == nullptr && qobject_cast<QAbstractButton *>(widget) == nullptr;
+    });
+    return found;
 }
 
 // Posted work runs (timers that are due, queued calls, layouts) and widgets that asked to
@@ -374,6 +395,12 @@ public:
             options.usbDir = m_stick.path();
         }));
         m_panel->InstallTranslations();
+        // The stick takes no backup: each one writes a report of every firing recorded so far,
+        // and a long walk records hundreds; saving and loading programs still work.
+        QDir(m_stick.path()).mkpath(ovra::Settings::UsbFiles::folderName);
+        QFile blocker(m_stick.path() + QLatin1Char('/') + ovra::Settings::UsbFiles::folderName +
+                      QStringLiteral("/backup"));
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
         QDir(m_panel->Home()).mkpath(QStringLiteral("Downloads"));
         // A received update is never unpacked here: its script would run at an hour's notice.
         m_panel->Window()->GetMessageHandler()->SetUnpackDelayMs(60 * 60 * 1000);
@@ -865,12 +892,17 @@ Failure Walk::CheckPrograms()
         if (!stored.contains(entry))
             return {QStringLiteral("favourites"), QStringLiteral("a favourite that is not stored")};
     }
-    for (const ProgramButton *row : Window()->findChildren<ProgramButton *>()) {
-        if (row->GetButtonProgram() != nullptr && !Store()->Holds(row->GetButtonProgram()))
-            return {QStringLiteral("programs"),
-                    QStringLiteral("the row \"%1\" holds a record the store has freed").arg(row->GetText())};
-    }
-    return {};
+    Failure failure;
+    VisitWidgets(Window(), false, [&](QWidget *widget) {
+        const auto *row = qobject_cast<const ProgramButton *>(widget);
+        if (row != nullptr && row->GetButtonProgram() != nullptr && !Store()->Holds(row->GetButtonProgram()))
+            failure = {QStringLiteral("programs"),
+                       QStringLiteral("the row \"%1\" holds a record the store has freed").arg(row->GetText())};
+        // Rows and buttons hold no rows.
+        return row == nullptr && qobject_cast<QAbstractButton *>(widget) == nullptr &&
+               qobject_cast<ovra::GlobalElements::Button *>(widget) == nullptr;
+    });
+    return failure;
 }
 
 QString Walk::Report(const Failure &failure, int step, const QString &origin) const
@@ -990,6 +1022,9 @@ int main(int argc, char **argv)
         if (!taken)
             rest << arguments.at(i);
     }
+    // A long walk takes longer than the test framework's five minutes a test function.
+    if (!qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT"))
+        qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(24 * 60 * 60 * 1000));
     TestRandomWalk test;
     return QTest::qExec(&test, rest);
 }
