@@ -3,6 +3,8 @@
 #include "communication/requests.h"
 #include "programs/heatfiletext.h"
 
+#include <algorithm>
+
 namespace ovra {
 namespace ProgramHandler {
 
@@ -108,14 +110,35 @@ void ProgramHandler::ParseProgToString(Program *prog)
 
 void ProgramHandler::Retire(Program *prog)
 {
-    if (prog != nullptr && !m_retired.contains(prog) && !m_programs.contains(prog))
+    if (prog == nullptr || m_programs.contains(prog))
+        return;
+    // Whatever still refers to a retired record may read it until ReleaseRetired(); the
+    // favourites list outlives that, so it lets go at once.
+    m_favorites.removeAll(prog);
+    if (!m_retired.contains(prog))
         m_retired.append(prog);
+}
+
+GlobalElements::Program *ProgramHandler::Live(Program *prog) const
+{
+    if (prog == nullptr || m_programs.contains(prog))
+        return prog;
+    // A list row may still show a record replaced since; the controller hears of the favourite
+    // by name, so it is meant for the record of that name now stored. A record the store does
+    // not hold at all is never read.
+    return m_retired.contains(prog) ? GetProgramByName(prog->GetName()) : nullptr;
 }
 
 void ProgramHandler::ReleaseRetired()
 {
     qDeleteAll(m_retired);
     m_retired.clear();
+}
+
+bool ProgramHandler::Holds(const Program *prog) const
+{
+    return std::any_of(m_programs.cbegin(), m_programs.cend(), [prog](const Program *p) { return p == prog; }) ||
+           std::any_of(m_retired.cbegin(), m_retired.cend(), [prog](const Program *p) { return p == prog; });
 }
 
 void ProgramHandler::Replace(int index, Program *fresh)
@@ -167,27 +190,25 @@ void ProgramHandler::Slot_AddReceivedProgram(Program *prog)
 
 void ProgramHandler::Slot_SetProgramToFav(Program *prog)
 {
-    const int own = m_programs.indexOf(prog);
-    if (own >= 0)
-        m_programs.at(own)->SetFav(true);
-    if (prog == nullptr)
+    Program *live = Live(prog);
+    if (live == nullptr)
         return;
-    const int index = LastIndexOf(m_favorites, prog->GetName());
+    live->SetFav(true);
+    const int index = LastIndexOf(m_favorites, live->GetName());
     if (index < 0)
-        m_favorites.append(prog);
+        m_favorites.append(live);
     else
-        m_favorites[index] = prog;
+        m_favorites[index] = live;
 }
 
 void ProgramHandler::Slot_DeleteProgramFromFavoriteList(Program *prog)
 {
-    const int index = m_favorites.indexOf(prog);
+    Program *live = Live(prog);
+    const int index = live == nullptr ? -1 : m_favorites.indexOf(live);
     if (index < 0)
         return;
     m_favorites.removeAt(index);
-    const int own = m_programs.indexOf(prog);
-    if (own >= 0)
-        m_programs.at(own)->SetFav(false);
+    live->SetFav(false);
 }
 
 void ProgramHandler::Slot_DeleteProgramFromList(const QString &name)

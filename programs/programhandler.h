@@ -11,8 +11,9 @@ namespace ProgramHandler {
 
 // The one store of heat programs. It owns every Program in its list. A record that is
 // replaced or deleted is retired rather than freed, because a list page may still hold a
-// button for it; ReleaseRetired() frees them once the pages have been rebuilt. Lists
-// returned by the getters are new objects the caller deletes; the programs stay the store's.
+// button for it; ReleaseRetired() frees them once the pages have been rebuilt. The favourites
+// list holds stored records only. Lists returned by the getters are new objects the caller
+// deletes; the programs stay the store's.
 class ProgramHandler : public QObject
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
     // The last program of that name, or nullptr.
     Program *GetProgramByName(const QString &name) const;
     QList<Program *> *GetFavoriteProgramList() const;
+    // The favourites list itself, as the panel set it; GetFavoriteProgramList() goes by the flags.
+    const QList<Program *> &GetFavoriteEntries() const { return m_favorites; }
     QList<Program *> *GetFixProgramList() const;
     // Despite the names these filter, keeping the store's order.
     QList<Program *> *GetProgramListSortedByManufacturer(const QString &manufacturer) const;
@@ -44,6 +47,8 @@ public:
     // Frees retired records; call when no page holds a program pointer from before.
     void ReleaseRetired();
     int RetiredCount() const { return m_retired.size(); }
+    // True while the record may still be read: stored, or retired and not yet released.
+    bool Holds(const Program *prog) const;
 
     static const QString userManufacturer;
     // The user's own programs are the ones that may be changed, deleted and shown in full.
@@ -61,6 +66,8 @@ signals:
 public slots:
     void Slot_AddProgramToList(ovra::GlobalElements::Program *prog);
     void Slot_AddReceivedProgram(ovra::GlobalElements::Program *prog);
+    // Both act on the stored record: a retired one stands for the record of its name that
+    // replaced it; one the store does not hold changes nothing.
     void Slot_SetProgramToFav(ovra::GlobalElements::Program *prog);
     void Slot_DeleteProgramFromFavoriteList(ovra::GlobalElements::Program *prog);
     void Slot_DeleteProgramFromList(const QString &name);
@@ -72,6 +79,8 @@ private:
     // Puts `fresh` where `old` stood in the program and favourites lists; retires `old`.
     void Replace(int index, Program *fresh);
     void Retire(Program *prog);
+    // The stored record a favourite change on `prog` is meant for, or nullptr.
+    Program *Live(Program *prog) const;
     QList<Program *> *Filtered(bool (*keep)(const Program *, const QString &), const QString &value) const;
 
     QList<Program *> m_programs;

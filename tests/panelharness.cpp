@@ -42,6 +42,18 @@ QStringList PanelHarness::Send(const QByteArray &fields)
     return parts;
 }
 
+QByteArray PanelHarness::Feed(const QByteArray &frame)
+{
+    return m_window->GetMessageHandler()->HandleFrame(frame);
+}
+
+QStringList PanelHarness::Queued() const
+{
+    QStringList requests = m_window->GetMessageHandler()->GetActualRequests().split(QStringLiteral("$$"));
+    requests.removeFirst(); // before the first separator
+    return requests;
+}
+
 void PanelHarness::InstallTranslations() const
 {
     const QString folder = Home() + QStringLiteral("/Downloads/translations/");

@@ -114,6 +114,11 @@ int PanelView::ShownPageIndex() const
     return Find<QStackedWidget>(QStringLiteral("stackedWidget"))->currentIndex();
 }
 
+bool PanelView::EditorHeld() const
+{
+    return m_view->IsEditMode();
+}
+
 PanelView::Screen PanelView::CurrentScreen() const
 {
     return static_cast<Screen>(Find<QStackedWidget>(QStringLiteral("stackedWidget_main"))->currentIndex());

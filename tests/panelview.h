@@ -34,6 +34,8 @@ public:
 
     ovra::Mainwindow::Page CurrentPage() const;
     int ShownPageIndex() const; // the inner stack's index, which may lag a bad page number
+    // A running program opened for a change keeps the editor on screen, whatever page is reported.
+    bool EditorHeld() const;
     // The outer stack: the pages, the splash, the material change or the door insulation.
     enum class Screen { Pages = 0, Splash = 1, MaterialChange = 2, DoorInsulation = 3 };
     Screen CurrentScreen() const;

@@ -54,6 +54,7 @@ private slots:
     void favourites();
     void deleteByName();
     void replacedRecordsStayUntilReleased();
+    void favouriteFromARowOfARetiredRecord();
     void filterRules();
 };
 
@@ -230,6 +231,48 @@ void TestProgramHandler::replacedRecordsStayUntilReleased()
     store->ReleaseRetired();
     QCOMPARE(store->RetiredCount(), 0);
     delete store; // frees the stored records as well
+}
+
+void TestProgramHandler::favouriteFromARowOfARetiredRecord()
+{
+    // A list row still holds a record the controller has just sent again when its star is
+    // tapped; the list is rebuilt (which frees retired records) and another favourite is set.
+    // The favourites list must never hold the retired record: the last step read it after it
+    // was freed (heap-use-after-free under the sanitizer build).
+    ProgramHandler store;
+    Program *old = make("P");
+    store.Slot_AddReceivedProgram(old);
+    store.Slot_AddReceivedProgram(make("Q"));
+    Program *fresh = make("P");
+    store.Slot_AddReceivedProgram(fresh);
+
+    store.Slot_SetProgramToFav(old); // the star on the row shown before the resend
+    store.ReleaseRetired();
+    Program *q = store.GetProgramByName(QStringLiteral("Q"));
+    store.Slot_SetProgramToFav(q);
+    // The favourite reached the record of that name, as the controller hears it by name.
+    QCOMPARE(store.GetFavoriteEntries(), (QList<Program *>{fresh, q}));
+    QVERIFY(fresh->IsFav());
+
+    // Off from a stale row as well; a favourite record replaced afterwards passes the entry on.
+    Program *older = fresh;
+    store.Slot_AddReceivedProgram(fresh = make("P"));
+    QCOMPARE(store.GetFavoriteEntries(), (QList<Program *>{fresh, q}));
+    store.Slot_DeleteProgramFromFavoriteList(older);
+    QCOMPARE(store.GetFavoriteEntries(), QList<Program *>{q});
+    QVERIFY(!fresh->IsFav());
+
+    // A deleted record's row, and a record the store never held, favour nothing.
+    store.Slot_DeleteProgramFromList(QStringLiteral("Q"));
+    QVERIFY(store.GetFavoriteEntries().isEmpty());
+    store.Slot_SetProgramToFav(q); // retired, and no record of its name is stored
+    Program stranger(QStringLiteral("P"), QStringLiteral("Zirkon"), {}, QStringLiteral("user"), false);
+    store.Slot_SetProgramToFav(&stranger);
+    QVERIFY(store.GetFavoriteEntries().isEmpty());
+    QVERIFY(!fresh->IsFav() && !stranger.IsFav());
+    store.ReleaseRetired();
+    store.Slot_SetProgramToFav(fresh);
+    QCOMPARE(store.GetFavoriteEntries(), QList<Program *>{fresh});
 }
 
 void TestProgramHandler::filterRules()
