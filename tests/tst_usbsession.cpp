@@ -1,5 +1,7 @@
 // The USB stick menu without a window: the session with the controller (its words, the
 // user's choices, the answer timer) and the panel's own file work between store and stick.
+// Where the menu may open, refused files, backups and a controller that never answers are
+// the window's tests (tst_service, tst_servicecore).
 #include "programs/heatfiletext.h"
 #include "programs/programhandler.h"
 #include "settings/usbfileaction.h"
@@ -74,38 +76,12 @@ class TestUsbSession : public QObject
     Q_OBJECT
 
 private slots:
-    void menuOpensOnlyWhereAllowed();
     void controllerUpdateAskedAndAnswered();
-    void controllerUpdateFailsWithoutAnAnswer();
     void updateProgressKeepsTheWaitAlive();
     void fileWorkRunsAfterThePopupAndIgnoresTheController();
-    void unaskedAndUnknownWords();
 
     void programsGoToTheStickAndBack();
-    void loadRefusedWholeLeavesTheStoreAlone();
-    void backupHoldsEveryProgram();
 };
-
-void TestUsbSession::menuOpensOnlyWhereAllowed()
-{
-    bool allowed = false;
-    UsbSession session([&allowed] { return allowed; });
-    Recorder recorder(session);
-    session.SlotControllerSays(QStringLiteral("in"));
-    QVERIFY(session.IsStickIn()); // the stick counts as in, the menu waits
-    QCOMPARE(recorder.Take(), QStringList());
-    allowed = true;
-    session.SlotControllerSays(QStringLiteral("in"));
-    QCOMPARE(recorder.Take(), QStringList{QStringLiteral("show")});
-    session.SlotControllerSays(QStringLiteral("out"));
-    QVERIFY(!session.IsStickIn());
-    QCOMPARE(recorder.Take(), QStringList{QStringLiteral("close")});
-
-    UsbSession anywhere(nullptr);
-    QSignalSpy shown(&anywhere, &UsbSession::SignalShowMenu);
-    anywhere.SlotControllerSays(QStringLiteral("in"));
-    QCOMPARE(shown.count(), 1);
-}
 
 void TestUsbSession::controllerUpdateAskedAndAnswered()
 {
@@ -146,23 +122,10 @@ void TestUsbSession::controllerUpdateAskedAndAnswered()
                                            QStringLiteral("failed: the stick was pulled"), QStringLiteral("close")}));
     QVERIFY(!session.IsAwaitingAnswer());
     QVERIFY(!session.LastResult().success);
-}
 
-void TestUsbSession::controllerUpdateFailsWithoutAnAnswer()
-{
-    UsbSession session(nullptr);
-    session.SetAnswerTimeoutMs(20);
-    session.SlotControllerSays(QStringLiteral("in"));
-    QSignalSpy finished(&session, &UsbSession::SignalFinished);
-    QTest::ignoreMessage(QtDebugMsg, "usb: failed: \"no answer from the controller\"");
-    session.Begin(Action::Config);
-    QVERIFY(finished.wait(5000));
-    QCOMPARE(finished.at(0), (QVariantList{false, QStringLiteral("no answer from the controller")}));
-    QCOMPARE(session.CurrentAction(), Action::None);
-    // A late answer finds nothing under way and is shown as the controller's own.
-    QSignalSpy unasked(&session, &UsbSession::SignalUnaskedResult);
+    // An update the controller began on its own is reported as a firmware update.
     session.SlotControllerSays(QStringLiteral("done"));
-    QCOMPARE(unasked.count(), 1);
+    QCOMPARE(recorder.Take(), (QStringList{QStringLiteral("unasked"), QStringLiteral("success")}));
 }
 
 void TestUsbSession::updateProgressKeepsTheWaitAlive()
@@ -227,27 +190,6 @@ void TestUsbSession::fileWorkRunsAfterThePopupAndIgnoresTheController()
     QVERIFY(session.LastResult().success);
 }
 
-void TestUsbSession::unaskedAndUnknownWords()
-{
-    UsbSession session(nullptr);
-    Recorder recorder(session);
-    // An update the controller began on its own is reported as a firmware update.
-    session.SlotControllerSays(QStringLiteral("done"));
-    QCOMPARE(recorder.Take(), (QStringList{QStringLiteral("unasked"), QStringLiteral("success")}));
-    QTest::ignoreMessage(QtDebugMsg, "usb: failed: \"the controller reports failed\"");
-    session.SlotControllerSays(QStringLiteral("failed"));
-    QCOMPARE(recorder.Take(),
-             (QStringList{QStringLiteral("unasked"), QStringLiteral("failed: the controller reports failed")}));
-
-    for (const QString &word : {QStringLiteral("IN"), QStringLiteral(""), QStringLiteral("done ")}) {
-        QTest::ignoreMessage(QtDebugMsg, qPrintable(QStringLiteral("usb: unknown state \"%1\"").arg(word)));
-        session.SlotControllerSays(word);
-    }
-    QCOMPARE(recorder.Take(), QStringList());
-    QVERIFY(!session.IsStickIn());
-    QCOMPARE(session.CurrentAction(), Action::None);
-}
-
 void TestUsbSession::programsGoToTheStickAndBack()
 {
     QTemporaryDir stick;
@@ -283,49 +225,6 @@ void TestUsbSession::programsGoToTheStickAndBack()
     QCOMPARE(requests,
              (QStringList{QStringLiteral("heatfile==") + ovra::GlobalElements::HeatfileText::Write(*crown),
                           QStringLiteral("heatfile==") + ovra::GlobalElements::HeatfileText::Write(*evening)}));
-}
-
-void TestUsbSession::loadRefusedWholeLeavesTheStoreAlone()
-{
-    QTemporaryDir stick;
-    ProgramHandler source;
-    source.Slot_AddReceivedProgram(Made(QStringLiteral("Abend"), ProgramHandler::userManufacturer, false));
-    source.Slot_AddReceivedProgram(Made(QStringLiteral("ZS Speed"), ProgramHandler::userManufacturer, false));
-    QString error;
-    QVERIFY(Files::SavePrograms(source, stick.path(), &error));
-
-    // Here "ZS Speed" is the maker's: the whole file is refused, "Abend" too.
-    ProgramHandler panel;
-    panel.Slot_AddReceivedProgram(Made(QStringLiteral("ZS Speed"), QStringLiteral("Zircos"), false));
-    QStringList requests;
-    QVERIFY(!Files::LoadPrograms(
-        panel, stick.path(), [&](const QString &request) { requests << request; }, &error));
-    QVERIFY2(error.contains(QStringLiteral("'ZS Speed' is taken")), qPrintable(error));
-    QCOMPARE(Names(*panel.GetProgramList()), QStringList{QStringLiteral("ZS Speed")});
-    QCOMPARE(requests, QStringList());
-}
-
-void TestUsbSession::backupHoldsEveryProgram()
-{
-    QTemporaryDir stick, home, logs;
-    ProgramHandler panel;
-    panel.Slot_AddReceivedProgram(Made(QStringLiteral("ZS Speed"), QStringLiteral("Zircos"), false));
-    panel.Slot_AddReceivedProgram(Made(QStringLiteral("Krone"), ProgramHandler::userManufacturer, false));
-    Files::BackupSources sources;
-    sources.deviceText = QStringLiteral("Model: X\n");
-    sources.serialNumber = QStringLiteral("S1-0087");
-    sources.logFolder = logs.path();
-    sources.now = QDateTime(QDate(2026, 11, 25), QTime(14, 30, 5));
-    sources.home = home.path();
-    const QString folder = stick.filePath(QStringLiteral("ovra/backup/S1-0087_20261125_143005"));
-    QString error;
-    QTest::ignoreMessage(QtDebugMsg, qPrintable(QStringLiteral("usb: backup written to \"%1\"").arg(folder)));
-    QVERIFY2(Files::Backup(panel, stick.path(), sources, &error), qPrintable(error));
-    QFile programs(folder + QStringLiteral("/programs.txt"));
-    QVERIFY(programs.open(QIODevice::ReadOnly));
-    const QByteArray text = programs.readAll();
-    QVERIFY(text.contains("name=ZS Speed;manufacturer=Zircos") && text.contains("name=Krone;manufacturer=user"));
-    QVERIFY(QFileInfo::exists(folder + QStringLiteral("/records/firings.csv")));
 }
 
 QTEST_GUILESS_MAIN(TestUsbSession)
