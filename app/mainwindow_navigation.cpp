@@ -211,8 +211,9 @@ void MainWindow::SlotExitButtonClicked()
     // A change of the running program, and its saving at once, end with the editor.
     m_changeInProcess = false;
     m_saveAtOnce = false;
-    Statemachine(Page::MainMenu);
+    // Out of edit mode first: the main menu is shown, not only reported.
     m_editMode = false;
+    Statemachine(Page::MainMenu);
 }
 
 void MainWindow::SlotBackButtonClicked()

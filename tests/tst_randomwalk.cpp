@@ -10,7 +10,7 @@
 //   tst_randomwalk --replay FILE [--record FILE]
 // or the same through RANDOMWALK_SEED, RANDOMWALK_STEPS, RANDOMWALK_RECORD, RANDOMWALK_REPLAY.
 // RANDOMWALK_VERBOSE prints every step as it is taken; RANDOMWALK_STRICT tolerates none of the
-// known faults of the window (see Check and CheckPage).
+// known faults of the window (see Check).
 #include "app/mainwindow.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
@@ -456,7 +456,6 @@ private:
     int m_pages = 0;          // pages the stack has
     int m_reportedPage = 0;   // the last "guistate==" that went out
     int m_lastValidPage = -1; // the last one of them that the stack has
-    bool m_editorLingers = false;
     bool m_updating = false;
     int m_updateTotal = 0;
     int m_highestBlock = -1;
@@ -847,15 +846,10 @@ Failure Walk::CheckPage()
         return {};
     // A page number the stack does not have leaves the page shown before it.
     int expected = lastValid;
-    // A running program opened for a change holds the editor on screen. Known and reported: its
-    // exit reports the main menu before the change ends, so the editor stays until the next
-    // page change; tolerated unless RANDOMWALK_STRICT is set.
-    const bool held = m_panel->EditorHeld();
-    const int editor = int(ovra::Mainwindow::Page::NewProg);
+    // A running program opened for a change holds the editor on screen.
     const int shown = m_panel->ShownPageIndex();
-    if (held || (m_editorLingers && shown == editor))
-        expected = editor;
-    m_editorLingers = !m_strict && (held || (m_editorLingers && shown == editor));
+    if (m_panel->EditorHeld())
+        expected = int(ovra::Mainwindow::Page::NewProg);
     if (shown != expected)
         return {QStringLiteral("page"),
                 QStringLiteral("page %1 is shown, the controller was told %2").arg(shown).arg(reported)};
