@@ -45,7 +45,6 @@ void FurnaceState::Follow(const MessageHandler *h)
         if (text == QLatin1String("True"))
             SetArgonOven(true);
     });
-    connect(h, &MessageHandler::SignalSetInitalStartup, this, [this] { SetCommissioning(true); });
     connect(h, &MessageHandler::SignalUserInteractionRequest, this, [this] { SetAwaitingUser(true); });
     connect(h, &MessageHandler::SignalHeatfileInfo, this, &FurnaceState::TakeHeatReport);
     connect(h, &MessageHandler::SignalRemainingTime, this, &FurnaceState::SetFiringEnd);

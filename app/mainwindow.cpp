@@ -303,6 +303,7 @@ void MainWindow::SlotSetRecvGuiState(const QString &state)
 
 void MainWindow::SlotSetInitialStartup()
 {
+    // The one place the controller's "initialstart" reaches the model.
     m_furnace.SetCommissioning(true);
 }
 
