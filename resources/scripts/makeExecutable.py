@@ -16,6 +16,7 @@ TARGETS = (
     os.path.join("Downloads", "decode_and_unzip_lin.py"),
     os.path.join("DispOn", "dispOn.py"),
     os.path.join("Downloads", "build", "ovra-panel"),
+    os.path.join("Downloads", "build_previous", "ovra-panel"),
 )
 RUN_BITS = stat.S_IXUSR | stat.S_IXGRP | stat.S_IXOTH
 
