@@ -1,3 +1,4 @@
+#include "app/buildproof.h"
 #include "app/commandline.h"
 #include "app/logutils.h"
 #include "app/mainwindow.h"
@@ -75,6 +76,9 @@ int main(int argc, char *argv[])
     initLogging();
 
     auto *window = new ovra::Mainwindow::MainWindow(options);
+    // The first page after the splash proves an installed build to the start-up script.
+    BuildProof proof(BuildProof::ManagedFolder(QCoreApplication::applicationDirPath(), options.home));
+    QObject::connect(&window->Furnace(), &FurnaceState::PageChanged, &proof, &BuildProof::OnPageShown);
     window->show();
     ServiceWatchdog watchdog;
     if (options.quitAfterStart)

@@ -64,6 +64,8 @@ void TestUpdateScript::refusedArchivesRestoreTheOldFolders_data()
     QTest::newRow("parent entry") << Entries{good, {"../../outside/evil.txt", "x"}} << QByteArray();
     QTest::newRow("inner parent entry") << Entries{{"build/../../evil.txt", "x"}} << QByteArray();
     QTest::newRow("absolute entry") << Entries{good, {absoluteTarget(), "x"}} << QByteArray();
+    QTest::newRow("no program") << Entries{{"build/lib.so", "x"}, {"translations/ovra_de.qm", "x"}} << QByteArray();
+    QTest::newRow("no translations") << Entries{good} << QByteArray();
     QTest::newRow("not a zip") << Entries{} << QByteArray("PK\x03\x04 this is no archive");
 }
 
