@@ -34,10 +34,8 @@ from __future__ import print_function
 import os
 import shutil
 import signal
-import stat
 import subprocess
 import sys
-import time
 import zipfile
 
 DEVICE_DOWNLOADS = "/home/pi/Downloads"
@@ -154,9 +152,6 @@ def extract_member(bundle, info, staging):
             os.fsync(out.fileno())
     finally:
         source.close()
-    mode = (info.external_attr >> 16) & 0o777
-    if mode:
-        os.chmod(destination, mode | stat.S_IRUSR | stat.S_IWUSR)
 
 
 def sync_tree(root):
@@ -206,7 +201,7 @@ def check(staging):
         return False
     # Archives made without Unix modes do not carry the run bit; the panel needs it.
     step("make %s executable" % program)
-    os.chmod(program, os.stat(program).st_mode | stat.S_IXUSR | stat.S_IXGRP | stat.S_IXOTH)
+    os.chmod(program, os.stat(program).st_mode | 0o755)
     if not os.access(program, os.X_OK):
         sys.stderr.write("archive refused: build/%s cannot run\n" % PROGRAM)
         return False
@@ -346,7 +341,10 @@ def install(downloads):
 
     value = switch(downloads, staging)
     if value == 0:
-        install_extras(staging, downloads)
+        try:
+            install_extras(staging, downloads)
+        except OSError as error:  # the panel is in place; the rest is not worth a failure
+            sys.stderr.write("archive's other files not all moved: %s\n" % error)
     for path in (trash, staging):
         remove(path)
     if value != 0:
