@@ -98,8 +98,9 @@ void TestUpdateSim::updateSurvivesLostDamagedAndSwappedBlocks()
 
     QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/build/ovra-panel")), program);
     QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/translations/ovra_de.qm")), translation);
-    QCOMPARE(QDir(downloads).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             (QStringList{"build", "build_previous", "decode_and_unzip_lin.py", "translations", "translations_previous"}));
+    QCOMPARE(
+        QDir(downloads).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        (QStringList{"build", "build_previous", "decode_and_unzip_lin.py", "translations", "translations_previous"}));
     QCOMPARE(UpdateFiles::Read(downloads + QStringLiteral("/build_previous/ovra-panel")), QByteArray("old program"));
     QCOMPARE(QDir(root.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), (QStringList{"home", "outside"}));
     QCOMPARE(UpdateFiles::Snapshot(root.filePath(QStringLiteral("outside"))), outsideHome);

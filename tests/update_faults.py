@@ -260,7 +260,7 @@ def startup():
         # No kernel module is loaded here: sudo is a stub that only notes what it was asked.
         stubs = os.path.join(root, "bin")
         write_tree(stubs, {"sudo": b"#!/bin/sh\necho \"$*\" >> \"$(dirname \"$0\")/sudo.log\"\n"}, ("sudo",))
-        env = dict(os.environ, PATH=stubs + os.pathsep + os.environ["PATH"], QT_QPA_PLATFORM="offscreen")
+        env = dict(os.environ, PATH=stubs + os.pathsep + os.environ["PATH"])
         ran = os.path.join(downloads, "ran")
 
         def start():

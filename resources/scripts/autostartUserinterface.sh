@@ -67,10 +67,11 @@ log() {
 
 # Renamed into place and synced: a power cut during the start leaves the old count or the new.
 count_start() {
-    echo "$ATTEMPT" >"$PANEL_DIR/start_attempts.tmp" &&
-        sync "$PANEL_DIR/start_attempts.tmp" &&
-        mv "$PANEL_DIR/start_attempts.tmp" "$PANEL_DIR/start_attempts" &&
-        sync "$PANEL_DIR"
+    echo "$ATTEMPT" >"$PANEL_DIR/start_attempts.tmp" || return 1
+    sync "$PANEL_DIR/start_attempts.tmp" 2>/dev/null
+    mv -f "$PANEL_DIR/start_attempts.tmp" "$PANEL_DIR/start_attempts" || return 1
+    sync "$PANEL_DIR" 2>/dev/null
+    return 0
 }
 
 if [ "$1" = "--which" ]; then
@@ -100,7 +101,9 @@ fi
 choose
 [ -n "$NOTE" ] && log "$NOTE"
 [ -n "$PANEL_DIR" ] || exit 1
-[ -n "$ATTEMPT" ] && count_start
+if [ -n "$ATTEMPT" ] && ! count_start; then
+    log "start of $PANEL_DIR not counted: $PANEL_DIR/start_attempts cannot be written"
+fi
 
 # Full-screen on the display without a window system; logs go to ../logs from the panel's folder.
 export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-eglfs}
