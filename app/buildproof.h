@@ -7,8 +7,8 @@ namespace ovra {
 namespace GlobalElements {
 
 // A newly installed build is started at most twice by the start-up script before it falls
-// back to the previous build, unless the build has proved itself: it has shown its first
-// page, so it runs and the controller talks to it. The proof is the file "proven" in the
+// back to the previous build, unless the build has proved itself: its window is up with the
+// first page shown and its event loop runs. The proof is the file "proven" in the
 // build's own folder; it moves with the folder when the update script renames it.
 class BuildProof : public QObject
 {
@@ -26,7 +26,7 @@ public:
     static bool Mark(const QString &folder);
 
 public slots:
-    // The first page shown: the first call marks the build, later ones do nothing.
+    // The window up: the first call marks the build, later ones do nothing.
     void OnPageShown();
 
 private:

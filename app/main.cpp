@@ -76,10 +76,12 @@ int main(int argc, char *argv[])
     initLogging();
 
     auto *window = new ovra::Mainwindow::MainWindow(options);
-    // The first page after the splash proves an installed build to the start-up script.
+    // A build whose window came up and whose event loop runs has proved itself to the start-up
+    // script. Waiting for the controller's first page instead would make a furnace whose
+    // controller stays silent for two boots fall back to the older build for no fault of this one.
     BuildProof proof(BuildProof::ManagedFolder(QCoreApplication::applicationDirPath(), options.home));
-    QObject::connect(&window->Furnace(), &FurnaceState::PageChanged, &proof, &BuildProof::OnPageShown);
     window->show();
+    QTimer::singleShot(0, &proof, &BuildProof::OnPageShown);
     ServiceWatchdog watchdog;
     if (options.quitAfterStart)
         QTimer::singleShot(0, &app, &QCoreApplication::quit);

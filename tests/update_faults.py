@@ -247,7 +247,7 @@ def full_card_changes_nothing():
 
 
 def startup():
-    """Two starts of a new build that never shows its first page, then the previous one."""
+    """Two starts of a new build that never brings up its window, then the previous one."""
     with tempfile.TemporaryDirectory(dir=WORK) as root:
         home = os.path.join(root, "home")
         downloads = os.path.join(home, "Downloads")

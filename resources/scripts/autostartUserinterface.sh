@@ -3,9 +3,9 @@
 # and the operating panel full-screen. The home folder is the one this script lives in.
 #
 # Which panel: Downloads/build/ovra-panel, the newest, once it has proved itself (the panel
-# writes build/proven when it has shown its first page) and for its first two starts before
+# writes build/proven once its window is up) and for its first two starts before
 # that (counted in build/start_attempts, written before each start of an unproven build).
-# After two starts in a row that never reached the first page, or when build/ is missing (an
+# After two starts in a row that never brought up the window, or when build/ is missing (an
 # update cut off between two renames), the previous build: Downloads/build_previous/, kept by
 # the update script (decode_and_unzip_lin.py) with its translations. Every start of an
 # unproven build and every fallback is logged in Downloads/startup.log, beside the panel's
@@ -48,7 +48,7 @@ choose() {
             return
         fi
         PANEL_DIR=$PREVIOUS
-        NOTE="fallback: $NEWEST did not reach its first page in $starts starts; starting $PREVIOUS"
+        NOTE="fallback: $NEWEST did not bring up its window in $starts starts; starting $PREVIOUS"
     elif runnable "$PREVIOUS"; then
         PANEL_DIR=$PREVIOUS
         NOTE="fallback: no complete build in $NEWEST; starting $PREVIOUS"
