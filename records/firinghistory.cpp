@@ -53,10 +53,12 @@ FiringHistory::FiringHistory(const QString &file)
     const std::pair<QString *, QString> columns[] = {{&m_job, QStringLiteral("job")},
                                                      {&m_device, QStringLiteral("device")}};
     for (const auto &column : columns) {
+        if (!m_open)
+            break;
         QSqlQuery q(db);
         q.prepare(QStringLiteral("SELECT COUNT(*) FROM pragma_table_info('firings') WHERE name = ?"));
         q.addBindValue(column.second);
-        if (m_open && q.exec() && q.next() && q.value(0).toInt() > 0)
+        if (q.exec() && q.next() && q.value(0).toInt() > 0)
             *column.first = QStringLiteral("f.") + column.second;
     }
 }
