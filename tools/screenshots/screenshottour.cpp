@@ -159,8 +159,12 @@ QStringList ScreenshotTour::Run()
             ui->label_Name->setText(QStringLiteral("GERÄTEDATEN"));
         } else if (page == int(Page::PlayProg) || page == int(Page::ProcessProg)) {
             // The program page's firing starts, with the job code scanned there.
-            if (page == int(Page::ProcessProg))
+            if (page == int(Page::ProcessProg)) {
                 ui->widget_playNewProg->GetButtonObject()->click();
+                // The later pictures of the program page show it as before a start.
+                m_window->EnablePlay();
+                ui->widget_timerPlayProg->setVisible(true);
+            }
             m_window->Slot_ShowChoosenProgram(speed, static_cast<Page>(page));
             if (page == int(Page::PlayProg))
                 Scan(QStringLiteral("A-2026/0117"));
