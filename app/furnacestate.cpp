@@ -167,12 +167,14 @@ void FurnaceState::SetSelftestResult(SelftestRow row, const QString &result)
     emit SelftestChanged(row, result);
 }
 
-void FurnaceState::RequestFiring(const QString &program, int preDryMinutes, const QString &delayedStart)
+void FurnaceState::RequestFiring(const QString &program, int preDryMinutes, const QString &delayedStart,
+                                 const QString &job)
 {
     m_requested = Firing();
     m_requested.program = program;
     m_requested.preDryMinutes = preDryMinutes;
     m_requested.delayedStart = delayedStart;
+    m_requested.job = job;
     emit FiringRequested(program);
 }
 

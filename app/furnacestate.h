@@ -52,6 +52,7 @@ struct Firing
     QString startTime;
     int preDryMinutes = 0; // as the panel asked for it; 0 for a firing it did not start
     QString delayedStart;  // "YYYYMMDD,HHMM" of the panel's delayed start, else empty
+    QString job;           // the job code the panel's start named (Process::JobCode), else empty
     Result result = Result::None;
 };
 
@@ -124,7 +125,8 @@ public slots:
     void SetSelftestResult(SelftestRow row, const QString &result);
 
     // The panel's start: kept until the controller's first report of that program.
-    void RequestFiring(const QString &program, int preDryMinutes, const QString &delayedStart);
+    void RequestFiring(const QString &program, int preDryMinutes, const QString &delayedStart,
+                       const QString &job = QString());
     void TakeHeatReport(const ovra::Communication::HeatReport &report);
     void SetFiringEnd(const QString &clock); // "esttime"
     // Only a running firing can end; the result of one that ended already is kept.
@@ -170,7 +172,7 @@ private:
     bool m_awaitingUser = false;
     Page m_page = Pageinterface::StartUp;
     Firing m_firing;
-    Firing m_requested; // program, pre-dry and delayed start of the panel's last start
+    Firing m_requested; // program, pre-dry, delayed start and job of the panel's last start
     QList<FailureEntry> m_failures;
     QList<FailureEntry> m_failureLog;
     QString m_selftest[5];

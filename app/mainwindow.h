@@ -7,6 +7,7 @@
 #include "app/paths.h"
 #include "faults/selftestprogress.h"
 #include "process/firingrules.h"
+#include "process/jobcode.h"
 #include "records/firingrecorder.h"
 #include "settings/devicereport.h"
 #include "settings/usbsession.h"
@@ -251,6 +252,8 @@ private:
     Records::FiringRecorder m_firingRecorder{m_paths.Home()};
     // What the panel knows of the furnace; declared after the recorder that observes it.
     GlobalElements::FurnaceState m_furnace;
+    // The job code for the next start, entered on the program page; follows the furnace's page.
+    Process::JobCode m_jobCode{m_furnace};
     // The page title as shown: the program's name on the program, process and editor pages.
     QString m_title;
     // The firing history, shown over the current page (records/mainwindow_records.cpp).

@@ -11,6 +11,7 @@
 #include "process/autostartnoteview.h"
 #include "process/chart.h"
 #include "process/firingrules.h"
+#include "process/jobcodebadge.h"
 #include "process/processtime.h"
 #include "process/temperaturetext.h"
 #include "programs/heatfiletext.h"
@@ -49,6 +50,8 @@ void MainWindow::ConnectProcessLink()
         [](const GlobalElements::DeviceInfo &device) {
             return Records::FiringReport::DeviceLines(Settings::DeviceReport::From(device));
         });
+    ui->widget_jobPlay->Attach(&m_jobCode, ui->stackedWidget_main);
+    ui->horizontalLayout_header->insertWidget(1, new Process::JobCodeBadge(m_furnace));
     connect(m_messageHandler, &MessageHandler::SignalArgon, this, &MainWindow::SlotSetArgonOven);
     connect(m_messageHandler, &MessageHandler::SignalMaterialChanged, this, &MainWindow::SlotMaterialChanged);
     connect(m_messageHandler, &MessageHandler::SignalInsulationMissing, this, &MainWindow::SlotInsulationMissing);
@@ -172,7 +175,7 @@ void MainWindow::SlotGenerateProgRequest()
         const QString timer = m_timerPopup->GetRequestedTimer();
         const QString request =
             delayed ? Requests::DelayedStart(timer, name, m_preDryMinutes) : Requests::Start(name, m_preDryMinutes);
-        m_furnace.RequestFiring(name, static_cast<int>(m_preDryMinutes), delayed ? timer : QString());
+        m_furnace.RequestFiring(name, static_cast<int>(m_preDryMinutes), delayed ? timer : QString(), m_jobCode.Take());
         m_preDryMinutes = 0;
         m_messageHandler->SetRequest(request);
         ui->widget_timerPlayProg->setVisible(false);

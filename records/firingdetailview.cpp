@@ -77,6 +77,10 @@ void FiringDetailView::Retranslate()
         font.setBold(true);
         item->setFont(font);
     };
+    if (!s.job.isEmpty()) {
+        heading(tr("Auftrag"));
+        facts->addItem(s.job);
+    }
     heading(tr("Start"));
     facts->addItem(QStringLiteral("%1 %2").arg(s.startDate, s.startTime).trimmed());
     heading(tr("Dauer"));

@@ -56,7 +56,7 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
     std::reverse(firings.begin(), firings.end());
     QString csv =
         line({QStringLiteral("start"), QStringLiteral("end"), QStringLiteral("program"), QStringLiteral("material"),
-              QStringLiteral("pre-dry"), QStringLiteral("result"), QStringLiteral("failures")});
+              QStringLiteral("pre-dry"), QStringLiteral("result"), QStringLiteral("failures"), QStringLiteral("job")});
     int done = 0;
     for (const FiringSummary &firing : qAsConst(firings)) {
         if (progress)
@@ -72,7 +72,7 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
         };
         csv += line({when(firing.startDate, firing.startTime), when(firing.endDate, firing.endTime), firing.program,
                      record.material, QString::number(record.preDryMinutes), firing.result,
-                     failed.join(QStringLiteral("; "))});
+                     failed.join(QStringLiteral("; ")), firing.job});
         QString samples = line({QStringLiteral("seconds"), QStringLiteral("celsius")});
         for (const Sample &s : qAsConst(record.samples))
             samples +=

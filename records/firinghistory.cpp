@@ -8,13 +8,19 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include <utility>
+
 namespace ovra {
 namespace Records {
 
 namespace {
-const QString summaryColumns =
-    QStringLiteral("f.id, f.program, f.start_date, f.start_time, f.end_date, f.end_time, f.result,"
-                   " (SELECT s.seconds FROM samples s WHERE s.firing = f.id ORDER BY s.n DESC LIMIT 1)");
+// `job`: the column's name, or an empty text for a file from before it was kept.
+QString summaryColumns(const QString &job)
+{
+    return QStringLiteral("f.id, f.program, f.start_date, f.start_time, f.end_date, f.end_time, f.result,"
+                          " (SELECT s.seconds FROM samples s WHERE s.firing = f.id ORDER BY s.n DESC LIMIT 1), %1")
+        .arg(job);
+}
 
 FiringSummary ReadSummary(const QSqlQuery &q)
 {
@@ -27,6 +33,7 @@ FiringSummary ReadSummary(const QSqlQuery &q)
     s.endTime = q.value(5).toString();
     s.result = q.value(6).toString();
     s.seconds = q.value(7).toInt();
+    s.job = q.value(8).toString();
     return s;
 }
 } // namespace
@@ -42,6 +49,18 @@ FiringHistory::FiringHistory(const QString &file)
     m_open = QFile::exists(file) && db.open();
     if (QFile::exists(file) && !m_open)
         qDebug() << "firing history: cannot open" << file << db.lastError().text();
+    // Read-only, an older file is read as it is: what it lacks reads as empty.
+    const std::pair<QString *, QString> columns[] = {{&m_job, QStringLiteral("job")},
+                                                     {&m_device, QStringLiteral("device")}};
+    for (const auto &column : columns) {
+        if (!m_open)
+            break;
+        QSqlQuery q(db);
+        q.prepare(QStringLiteral("SELECT COUNT(*) FROM pragma_table_info('firings') WHERE name = ?"));
+        q.addBindValue(column.second);
+        if (q.exec() && q.next() && q.value(0).toInt() > 0)
+            *column.first = QStringLiteral("f.") + column.second;
+    }
 }
 
 FiringHistory::~FiringHistory()
@@ -59,7 +78,7 @@ QList<FiringSummary> FiringHistory::List(int limit) const
     if (!m_open)
         return out;
     QSqlQuery q(QSqlDatabase::database(m_connection, false));
-    q.prepare(QStringLiteral("SELECT %1 FROM firings f ORDER BY f.id DESC LIMIT ?").arg(summaryColumns));
+    q.prepare(QStringLiteral("SELECT %1 FROM firings f ORDER BY f.id DESC LIMIT ?").arg(summaryColumns(m_job)));
     q.addBindValue(limit);
     if (!q.exec())
         qDebug() << "firing history:" << q.lastError().text();
@@ -74,19 +93,19 @@ bool FiringHistory::Load(qint64 id, FiringRecord *record) const
         return false;
     const QSqlDatabase db = QSqlDatabase::database(m_connection, false);
     QSqlQuery q(db);
-    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed, f.device FROM firings f"
+    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed, %2 FROM firings f"
                              " WHERE f.id = ?")
-                  .arg(summaryColumns));
+                  .arg(summaryColumns(m_job), m_device));
     q.addBindValue(id);
     if (!q.exec() || !q.next())
         return false;
     FiringRecord r;
     r.summary = ReadSummary(q);
-    r.heatfileText = q.value(8).toString();
-    r.material = q.value(9).toString();
-    r.preDryMinutes = q.value(10).toInt();
-    r.delayedStart = q.value(11).toString();
-    r.device = q.value(12).toString();
+    r.heatfileText = q.value(9).toString();
+    r.material = q.value(10).toString();
+    r.preDryMinutes = q.value(11).toInt();
+    r.delayedStart = q.value(12).toString();
+    r.device = q.value(13).toString();
 
     QSqlQuery samples(db);
     samples.setForwardOnly(true);

@@ -18,6 +18,7 @@ struct FiringSummary
     QString endDate;
     QString endTime;
     QString result;  // ResultWord(); empty while the firing is still being recorded
+    QString job;     // the job code; empty when none was given or the file is older than it
     int seconds = 0; // elapsed time of the last sample: how long the firing really ran
 };
 
@@ -59,6 +60,8 @@ public:
 private:
     QString m_connection;
     bool m_open = false;
+    QString m_job = QStringLiteral("''"); // the columns to read, or an empty text in their place
+    QString m_device = QStringLiteral("''");
 };
 
 } // namespace Records

@@ -14,7 +14,7 @@ namespace ovra {
 namespace Records {
 
 namespace {
-enum Role { IdRole = Qt::UserRole + 1, WhenRole, ProgramRole, DurationRole, ResultRole };
+enum Role { IdRole = Qt::UserRole + 1, WhenRole, ProgramRole, DurationRole, ResultRole, JobRole };
 
 // One firing a row: result symbol, program over date and time, duration at the right.
 class RowDelegate : public QStyledItemDelegate
@@ -56,8 +56,18 @@ public:
         font.setBold(false);
         painter->setFont(font);
         painter->setPen(QColor(0x53, 0x58, 0x5B));
-        painter->drawText(QRect(textLeft, card.top() + card.height() / 2 + 2, top.width(), card.height() / 2 - 6),
-                          Qt::AlignLeft | Qt::AlignTop, index.data(WhenRole).toString());
+        const QRect bottom(textLeft, card.top() + card.height() / 2 + 2, top.width(), card.height() / 2 - 6);
+        const QString when = index.data(WhenRole).toString();
+        painter->drawText(bottom, Qt::AlignLeft | Qt::AlignTop, when);
+        // The job code after the date, in the program's colour: what the lab looks a firing up by.
+        const QString job = index.data(JobRole).toString();
+        if (!job.isEmpty()) {
+            const QRect rest = bottom.adjusted(painter->fontMetrics().horizontalAdvance(when) + 24, 0, 0, 0);
+            painter->setPen(QColor(0x22, 0x31, 0x3F));
+            painter->drawText(rest, Qt::AlignLeft | Qt::AlignTop,
+                              painter->fontMetrics().elidedText(FiringHistoryView::tr("Auftrag %1").arg(job),
+                                                                Qt::ElideRight, rest.width()));
+        }
         painter->restore();
     }
 };
@@ -91,6 +101,7 @@ void FiringHistoryView::SetFirings(const QList<FiringSummary> &firings)
         item->setData(firing.program, ProgramRole);
         item->setData(FiringChart::DurationText(firing.seconds), DurationRole);
         item->setData(firing.result, ResultRole);
+        item->setData(firing.job, JobRole);
         item->setData(FiringPainter::ResultText(firing.result), Qt::AccessibleTextRole);
         m_model->appendRow(item);
     }

@@ -30,6 +30,7 @@ void FiringRecorder::Observe(const GlobalElements::FurnaceState &furnace, const 
         start.program = program;
         start.preDryMinutes = f->RequestedFiring().preDryMinutes;
         start.delayedStart = f->RequestedFiring().delayedStart;
+        start.job = f->RequestedFiring().job;
         Requested(start);
     });
     QObject::connect(f, &FurnaceState::FiringProgress, f, [this, f, describe] {

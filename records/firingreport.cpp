@@ -141,6 +141,8 @@ bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceRepor
     page.Row({tr("Betriebsstunden:"), Or(device.operatingHours)}, pairs);
 
     page.Heading(tr("Brand"));
+    if (!s.job.isEmpty())
+        page.Row({tr("Auftrag:"), s.job}, pairs);
     page.Row({tr("Start:"), Or(s.startDate + QLatin1Char(' ') + s.startTime)}, pairs);
     page.Row({tr("Ende:"), Or(s.endDate + QLatin1Char(' ') + s.endTime)}, pairs);
     page.Row({tr("Dauer:"), FiringChart::DurationText(s.seconds)}, pairs);

@@ -61,10 +61,15 @@ void FiringStore::Open()
              Exec(QStringLiteral("CREATE INDEX IF NOT EXISTS failures_firing ON failures(firing)"));
     if (!m_open)
         return;
-    // Files from before the furnace data was kept with each firing gain the column.
-    QSqlQuery columns(QStringLiteral("SELECT COUNT(*) FROM pragma_table_info('firings') WHERE name = 'device'"), db);
-    if (columns.next() && columns.value(0).toInt() == 0)
-        m_open = Exec(QStringLiteral("ALTER TABLE firings ADD COLUMN device TEXT"));
+    // Files from before the furnace data, or the job code, was kept with each firing gain the
+    // column; their firings read it as empty.
+    for (const QString &column : {QStringLiteral("device"), QStringLiteral("job")}) {
+        QSqlQuery columns(db);
+        columns.prepare(QStringLiteral("SELECT COUNT(*) FROM pragma_table_info('firings') WHERE name = ?"));
+        columns.addBindValue(column);
+        if (m_open && columns.exec() && columns.next() && columns.value(0).toInt() == 0)
+            m_open = Exec(QStringLiteral("ALTER TABLE firings ADD COLUMN %1 TEXT").arg(column));
+    }
     if (!m_open)
         return;
     // Whatever was open when the panel last went away was cut off.
@@ -117,10 +122,10 @@ qint64 FiringStore::Begin(const FiringStart &start)
     db.transaction();
     QSqlQuery query(db);
     query.prepare(QStringLiteral("INSERT INTO firings(program, heatfile, material, predry, delayed, start_date,"
-                                 " start_time, device) VALUES(?, ?, ?, ?, ?, ?, ?, ?)"));
+                                 " start_time, device, job) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?)"));
     for (const QVariant &v : {QVariant(start.program), QVariant(start.heatfileText), QVariant(start.material),
                               QVariant(start.preDryMinutes), QVariant(start.delayedStart), QVariant(start.date),
-                              QVariant(start.time), QVariant(start.device)})
+                              QVariant(start.time), QVariant(start.device), QVariant(start.job)})
         query.addBindValue(v);
     if (!query.exec()) {
         qDebug() << "firing records: cannot begin" << query.lastError().text();

@@ -24,6 +24,7 @@ struct FiringStart
     QString date;
     QString time;
     QString device; // the furnace as the controller last described it: FiringReport::DeviceLines()
+    QString job;    // the job code the operator gave the start (Process::JobCode), else empty
 };
 
 // One SQLite file of firings with their samples and failures. Samples go into an open

@@ -8,6 +8,7 @@
 #include "widgets/programbutton.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QtTest>
@@ -34,6 +35,14 @@ void PanelView::Tap(const QString &objectName) const
     QWidget *widget = Widget(objectName);
     QVERIFY2(widget != nullptr, qPrintable(QStringLiteral("no widget ") + objectName));
     Click(widget);
+}
+
+void PanelView::Scan(const QString &keys) const
+{
+    QWidget *target = QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : m_view;
+    for (const QChar c : keys)
+        QTest::sendKeyEvent(QTest::KeyAction::Click, target, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    QTest::keyClick(target, Qt::Key_Return);
 }
 
 QString PanelView::Text(const QString &objectName) const

@@ -22,6 +22,9 @@ public:
     // test when there is no such widget.
     void Tap(const QString &objectName) const;
     static void Click(QWidget *widget);
+    // Keys as a barcode scanner types them, like a keyboard, then Enter; sent to whatever has
+    // the keyboard focus, the window itself when nothing has.
+    void Scan(const QString &keys) const;
 
     // What a widget shows: the caption of a kit widget, a label's or button's text.
     QString Text(const QString &objectName) const;

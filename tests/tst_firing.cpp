@@ -16,6 +16,7 @@
 #include "programs/newprogram.h"
 #include "programs/programhandler.h"
 #include "records/firingdetailview.h"
+#include "records/firingexport.h"
 #include "records/firinghistoryview.h"
 #include "touch.h"
 #include "widgets/iconbutton.h"
@@ -51,6 +52,7 @@ private slots:
     void materialChangeAndInsulation();
     void argonCheckStopsTheFiring();
     void failedFiringInTheHistory();
+    void jobCodeFromScanToRecord();
 
 private:
     QStringList send(const QByteArray &fields);
@@ -427,6 +429,65 @@ void TestFiring::failedFiringInTheHistory()
     // A page the controller selects closes both views.
     m_panel->Send("guistate==3");
     QVERIFY(!detail->isVisible() && !history->isVisible());
+}
+
+void TestFiring::jobCodeFromScanToRecord()
+{
+    // A scanner types like a keyboard: each scan replaces the code, what a label cannot hold is
+    // left out, and 32 characters are the most.
+    QStringList line;
+    openProgram(QStringLiteral("Speed"));
+    QCOMPARE(m_panel->Text("widget_jobPlay"), QString());
+    m_panel->Scan(QString(40, QLatin1Char('7')));
+    QCOMPARE(m_panel->Text("widget_jobPlay"), QString(32, QLatin1Char('7')));
+    m_panel->Scan(QStringLiteral(" K-44#71.2€ "));
+    QCOMPARE(m_panel->Text("widget_jobPlay"), QStringLiteral("K-4471.2"));
+    QCOMPARE(m_window->CurrentPage(), Page::PlayProg); // Enter and space pressed nothing
+
+    // The panel's keyboard goes on from the code; "/" has a key of its own.
+    m_panel->Tap("widget_jobPlay");
+    QWidget *keyboard = m_panel->Widget("widget_jobKeyboard");
+    QVERIFY(keyboard->isVisible());
+    Tap(keyboard, {"pushButton_jobSlash", "pushButton_1", "pushButton_backspace", "pushButton_2"});
+    Tap(keyboard->findChild<ovra::GlobalElements::Iconbutton *>(QStringLiteral("widget_jobDone")));
+    QVERIFY(!keyboard->isVisible());
+    QCOMPARE(m_panel->Text("widget_jobPlay"), QStringLiteral("K-4471.2/2"));
+
+    // Leaving the page without a start drops the code: it cannot reach another program's firing.
+    m_panel->Tap("widget_backPlayNewProg");
+    openProgram(QStringLiteral("Speed"));
+    QCOMPARE(m_panel->Text("widget_jobPlay"), QString());
+    m_panel->Scan(QStringLiteral("A-2026/0117"));
+
+    // The start takes it: never on the line, gone for the next firing, shown while firing.
+    m_panel->Tap("widget_playNewProg");
+    line << send("temp==293");
+    QCOMPARE(line, QStringList{QStringLiteral("hpstart==Speed,0")});
+    QCOMPARE(m_panel->Text("widget_jobPlay"), QString());
+    line << send("hpinfo==Speed;95;1;heat");
+    QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
+    QVERIFY(m_panel->Shown("label_jobProcess"));
+    QVERIFY(m_panel->Text("label_jobProcess").endsWith(QStringLiteral("A-2026/0117")));
+    line << send("hpsuccess$$hpinfo==");
+    for (const QString &request : line + m_panel->Send("guistate==6"))
+        QVERIFY2(!request.contains(QStringLiteral("2026/0117")), qPrintable(request));
+    QVERIFY(!m_panel->Shown("label_jobProcess"));
+
+    // Kept with the record: in the history's row, the firing's detail and the export.
+    m_panel->Tap("widget_SettingsButtonFiringHistory");
+    auto *list = m_window->findChild<ovra::Records::FiringHistoryView *>()->findChild<QListView *>();
+    QVERIFY(list->model()->itemData(list->model()->index(0, 0)).values().contains(QStringLiteral("A-2026/0117")));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+    QTRY_VERIFY(
+        m_window->findChild<ovra::Records::FiringDetailView *>()->Facts().contains(QStringLiteral("A-2026/0117")));
+    QString error;
+    const QString out = m_panel->Home() + QStringLiteral("/out");
+    QVERIFY(ovra::Records::ExportFirings(m_panel->Home(), out, &error, false));
+    QFile csv(out + QStringLiteral("/firings.csv"));
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    const QList<QByteArray> rows = csv.readAll().split('\n');
+    QVERIFY(rows.at(0).trimmed().endsWith(",job"));
+    QVERIFY(rows.at(1).trimmed().endsWith(",success,,A-2026/0117"));
 }
 
 QTEST_MAIN(TestFiring)

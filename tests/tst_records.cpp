@@ -98,15 +98,23 @@ void TestRecords::resultsAndInterruption()
         QVERIFY(!store.IsOpen() && !QFile::exists(file)); // no firing, no file
     }
     {
-        // A file from before the furnace data was kept with each firing.
+        // A file from before the furnace data and the job code were kept with each firing, with
+        // a firing in it: read as it is, then given the columns, the firing kept.
         QDir().mkpath(home.path() + QStringLiteral("/records"));
         scalar(file, QStringLiteral("CREATE TABLE firings(id INTEGER PRIMARY KEY, program TEXT, heatfile TEXT, material"
                                     " TEXT, predry INTEGER, delayed TEXT, start_date TEXT, start_time TEXT,"
                                     " end_date TEXT, end_time TEXT, result TEXT)"));
+        scalar(file, QStringLiteral("CREATE TABLE samples(firing INTEGER, n INTEGER, seconds INTEGER, celsius REAL)"));
+        scalar(file, QStringLiteral("CREATE TABLE failures(firing INTEGER, time TEXT, text TEXT)"));
+        scalar(file, QStringLiteral("INSERT INTO firings(program, result) VALUES('old', 'success')"));
+        FiringRecord old;
+        QVERIFY(FiringHistory(file).Load(1, &old));
+        QVERIFY(old.summary.program == QStringLiteral("old") && old.summary.job.isEmpty() && old.device.isEmpty());
         FiringStore store(file);
         FiringStart a = start(QStringLiteral("A"));
         a.device = QStringLiteral("S1");
-        QCOMPARE(store.Begin(a), qint64(1));
+        a.job = QStringLiteral("A-2026/0117");
+        QCOMPARE(store.Begin(a), qint64(2));
         store.AddSample(0, 25.0);
         store.AddFailure(QStringLiteral("23.11.2026 10:05"), QStringLiteral("12"));
         store.End(Result::Failed, QStringLiteral("23.11.2026"), QStringLiteral("10:06"));
@@ -114,10 +122,12 @@ void TestRecords::resultsAndInterruption()
         store.AddSample(1, 30.0);
         store.End(Result::Stopped, QString(), QString());
     }
-    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result, ',') FROM firings")).toString(),
-             QStringLiteral("A=failed,B=stopped"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT group_concat(program || '=' || result || '=' || ifnull(job, '?'), ',')"
+                                         " FROM firings"))
+                 .toString(),
+             QStringLiteral("old=success=?,A=failed=A-2026/0117,B=stopped=?")); // none given: NULL, as before
     QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
-    QCOMPARE(scalar(file, QStringLiteral("SELECT device FROM firings WHERE id = 1")).toString(), QStringLiteral("S1"));
+    QCOMPARE(scalar(file, QStringLiteral("SELECT device FROM firings WHERE id = 2")).toString(), QStringLiteral("S1"));
 
     // Export: one line per firing, quoted where the text needs it, samples beside it.
     QString error;
@@ -125,9 +135,9 @@ void TestRecords::resultsAndInterruption()
     QFile csv(home.path() + QStringLiteral("/out/firings.csv"));
     QVERIFY(csv.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = csv.readAll().split('\n');
-    QCOMPARE(lines.size(), 4); // header, two firings, the last line break
-    QVERIFY(lines[1].contains(",failed,23.11.2026 10:05 12"));
-    QVERIFY(QFile::exists(home.path() + QStringLiteral("/out/firing-1-samples.csv")));
+    QCOMPARE(lines.size(), 5); // header, three firings, the last line break
+    QVERIFY(lines[2].contains(",failed,23.11.2026 10:05 12,A-2026/0117\r"));
+    QVERIFY(QFile::exists(home.path() + QStringLiteral("/out/firing-2-samples.csv")));
     // Quoting and a folder that cannot be made: the command-line test, over a shell.
 }
 

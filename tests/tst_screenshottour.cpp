@@ -31,13 +31,14 @@ void TestScreenshotTour::everyPageAndPopupIsRendered()
     // Kept in the build folder so that a person can look at them after the run.
     const QString folder = QStringLiteral(OVRA_BINARY_DIR "/screenshots");
     const QStringList files = ovra::Tools::ScreenshotTour(&window, folder).Run();
-    // Splash, 26 pages, 11 further views of programs and firings, the stick menu, two
-    // full-screen notices, every popup of the window, and the main pages in each of the
-    // tour's languages.
+    // Splash, 26 pages, 12 further views of programs and firings, the stick menu, two
+    // full-screen notices, every popup of the window, and the main pages and the firing
+    // history in each of the tour's languages.
     const int popups = window.findChildren<QDialog *>().size();
     const int languages =
-        ovra::Tools::ScreenshotTour::TourLanguages().size() * ovra::Tools::ScreenshotTour::TourPages().size();
-    QCOMPARE(files.size(), 1 + 26 + 11 + 1 + 2 + popups + languages);
+        ovra::Tools::ScreenshotTour::TourLanguages().size() *
+        (ovra::Tools::ScreenshotTour::TourPages().size() + ovra::Tools::ScreenshotTour::historyPictures);
+    QCOMPARE(files.size(), 1 + 26 + 12 + 1 + 2 + popups + languages);
     // The main menu in Spanish is not the German one, nor Japanese the Chinese one.
     auto picture = [&files](const QString &suffix) {
         for (const QString &file : files) {

@@ -530,6 +530,35 @@ Zurück?</source>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>工单 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>工单</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>扫描或输入</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>工单</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>字母、数字、- / . _ 和空格，最多 %1 个字符</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Zurück?</source>
         <source>Keine</source>
         <translation>无</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>工单</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Zurück?</source>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>尚无烧结记录</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>工单 %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Zurück?</source>
     <message>
         <source>Keine</source>
         <translation>无</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>工单：</translation>
     </message>
 </context>
 </TS>

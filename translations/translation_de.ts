@@ -530,6 +530,35 @@ Zurück?</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Auftrag %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>Scannen oder tippen</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Zurück?</translation>
         <source>Keine</source>
         <translation>Keine</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>Auftrag</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Zurück?</translation>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>Noch kein Brand aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Auftrag %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Zurück?</translation>
     <message>
         <source>Keine</source>
         <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>Auftrag:</translation>
     </message>
 </context>
 </TS>

@@ -530,6 +530,35 @@ Go back?</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Job %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Job</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>Scan or type</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Job</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>Letters, digits, - / . _ and spaces, at most %1 characters</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Go back?</translation>
         <source>Keine</source>
         <translation>None</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>Job</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Go back?</translation>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>No firing recorded yet</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Job %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Go back?</translation>
     <message>
         <source>Keine</source>
         <translation>None</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>Job:</translation>
     </message>
 </context>
 </TS>

@@ -530,6 +530,35 @@ Zurück?</source>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Pedido %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Pedido</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>Escanear o escribir</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Pedido</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>Letras, cifras, - / . _ y espacios, como máximo %1 caracteres</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Zurück?</source>
         <source>Keine</source>
         <translation>Ninguno</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>Pedido</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Zurück?</source>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>Aún no hay cocciones registradas</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Pedido %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Zurück?</source>
     <message>
         <source>Keine</source>
         <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>Pedido:</translation>
     </message>
 </context>
 </TS>

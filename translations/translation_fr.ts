@@ -530,6 +530,35 @@ Revenir en arrière&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Commande %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>Scanner ou saisir</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>Lettres, chiffres, - / . _ et espaces, %1 caractères au plus</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Revenir en arrière&#xa0;?</translation>
         <source>Keine</source>
         <translation>Aucun</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>Commande</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Revenir en arrière&#xa0;?</translation>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>Aucune cuisson enregistrée</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Commande %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Revenir en arrière&#xa0;?</translation>
     <message>
         <source>Keine</source>
         <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>Commande :</translation>
     </message>
 </context>
 </TS>

@@ -530,6 +530,35 @@ Tornare indietro?</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Commessa %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Commessa</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>Scansiona o digita</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Commessa</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>Lettere, cifre, - / . _ e spazi, al massimo %1 caratteri</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Tornare indietro?</translation>
         <source>Keine</source>
         <translation>Nessuno</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>Commessa</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Tornare indietro?</translation>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>Nessuna cottura registrata</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Commessa %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Tornare indietro?</translation>
     <message>
         <source>Keine</source>
         <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>Commessa:</translation>
     </message>
 </context>
 </TS>

@@ -530,6 +530,35 @@ Zurück?</source>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>작업 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>스캔 또는 입력</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>영문자, 숫자, - / . _ 및 공백, 최대 %1자</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Zurück?</source>
         <source>Keine</source>
         <translation>없음</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>작업</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Zurück?</source>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>기록된 소성이 없습니다</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>작업 %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Zurück?</source>
     <message>
         <source>Keine</source>
         <translation>없음</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>작업:</translation>
     </message>
 </context>
 </TS>

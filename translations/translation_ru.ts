@@ -530,6 +530,35 @@ Zurück?</source>
     </message>
 </context>
 <context>
+    <name>ovra::Process::JobCodeBadge</name>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Заказ %1</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeField</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Заказ</translation>
+    </message>
+    <message>
+        <source>Scannen oder tippen</source>
+        <translation>Сканируйте или введите</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::JobCodeKeyboard</name>
+    <message>
+        <source>Auftrag</source>
+        <translation>Заказ</translation>
+    </message>
+    <message>
+        <source>Buchstaben, Ziffern, - / . _ und Leerzeichen, höchstens %1 Zeichen</source>
+        <translation>Латинские буквы, цифры, - / . _ и пробелы, не более %1 символов</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Records::FiringDetailView</name>
     <message>
         <source>gemessen</source>
@@ -563,6 +592,10 @@ Zurück?</source>
         <source>Keine</source>
         <translation>Нет</translation>
     </message>
+    <message>
+        <source>Auftrag</source>
+        <translation>Заказ</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Records::FiringHistoryView</name>
@@ -577,6 +610,10 @@ Zurück?</source>
     <message>
         <source>Noch kein Brand aufgezeichnet</source>
         <translation>Обжиги ещё не записаны</translation>
+    </message>
+    <message>
+        <source>Auftrag %1</source>
+        <translation>Заказ %1</translation>
     </message>
 </context>
 <context>
@@ -711,6 +748,10 @@ Zurück?</source>
     <message>
         <source>Keine</source>
         <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Auftrag:</source>
+        <translation>Заказ:</translation>
     </message>
 </context>
 </TS>

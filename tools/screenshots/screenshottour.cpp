@@ -19,9 +19,11 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -78,6 +80,27 @@ void ScreenshotTour::Feed(const QByteArray &fields)
     settle();
 }
 
+void ScreenshotTour::Scan(const QString &code)
+{
+    for (const QChar c : code) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(m_window, &press);
+    }
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QApplication::sendEvent(m_window, &enter);
+    settle();
+}
+
+void ScreenshotTour::SaveHistory(const std::function<QString(const QString &)> &numbered, const QString &prefix,
+                                 qint64 firing)
+{
+    m_window->Statemachine(GlobalElements::Pageinterface::Settings);
+    m_window->GetUi()->widget_SettingsButtonFiringHistory->GetPushButtonObject()->click();
+    Save(numbered(prefix + QStringLiteral("firinghistory")));
+    emit m_window->findChild<Records::FiringHistoryView *>()->SignalOpen(firing);
+    Save(numbered(prefix + QStringLiteral("firingdetail")));
+}
+
 bool ScreenshotTour::Save(const QString &name)
 {
     settle();
@@ -121,7 +144,7 @@ QStringList ScreenshotTour::Run()
     Feed("stdoor==pass$$stheater==pass$$stcooling==fail");
     Feed("error==E1234,E201");
     FeedPrograms();
-    const qint64 recorded = SeedFiringRecords();
+    const qint64 recorded = m_recorded = SeedFiringRecords();
     Feed("guistate==26"); // leaves the device data page, which ends commissioning
     Feed("guistate==12");
     Feed("guistate==26");
@@ -135,7 +158,16 @@ QStringList ScreenshotTour::Run()
             ui->stackedWidget->setCurrentIndex(page); // shown only once at start-up
             ui->label_Name->setText(QStringLiteral("GERÄTEDATEN"));
         } else if (page == int(Page::PlayProg) || page == int(Page::ProcessProg)) {
+            // The program page's firing starts, with the job code scanned there.
+            if (page == int(Page::ProcessProg)) {
+                ui->widget_playNewProg->GetButtonObject()->click();
+                // The later pictures of the program page show it as before a start.
+                m_window->EnablePlay();
+                ui->widget_timerPlayProg->setVisible(true);
+            }
             m_window->Slot_ShowChoosenProgram(speed, static_cast<Page>(page));
+            if (page == int(Page::PlayProg))
+                Scan(QStringLiteral("A-2026/0117"));
         } else if (page == int(Page::ChangeProg)) {
             m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
             m_window->Statemachine(Page::ChangeProg);
@@ -207,12 +239,16 @@ QStringList ScreenshotTour::Run()
     Feed("hpfailed$$hpinfo==");
     Save(numbered(QStringLiteral("process_abort")));
 
+    // The job code typed on the panel's keyboard.
+    m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+    ui->widget_jobPlay->click();
+    Scan(QStringLiteral("Praxis Lange 14"));
+    ui->widget_jobPlay->click();
+    Save(numbered(QStringLiteral("program_jobkeyboard")));
+    Scan(QString());
+
     // The firing history over the settings page, and one firing opened.
-    m_window->Statemachine(Page::Settings);
-    ui->widget_SettingsButtonFiringHistory->GetPushButtonObject()->click();
-    Save(numbered(QStringLiteral("firinghistory")));
-    emit m_window->findChild<Records::FiringHistoryView *>()->SignalOpen(recorded);
-    Save(numbered(QStringLiteral("firingdetail")));
+    SaveHistory(numbered, QString(), recorded);
 
     m_window->Statemachine(Page::MainMenu);
     ui->stackedWidget_main->setCurrentIndex(2);
@@ -283,14 +319,17 @@ void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)>
     for (const QString &language : TourLanguages()) {
         Feed("lang==" + language.toLatin1());
         for (int page : TourPages()) {
-            if (page == Page::PlayProg)
+            if (page == Page::PlayProg) {
                 m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
-            else
+                Scan(QStringLiteral("A-2026/0117"));
+            } else {
                 m_window->Statemachine(static_cast<Page>(page));
+            }
             if (page == Page::Selftest)
                 Feed("stdoor==pass$$stheater==pass$$stcooling==fail$$st==fail");
             Save(numbered(QStringLiteral("%1_%2").arg(language, QString::fromLatin1(pageNames[page]))));
         }
+        SaveHistory(numbered, language + QLatin1Char('_'), m_recorded);
         m_window->Statemachine(Page::MainMenu);
         ui->stackedWidget_main->setCurrentIndex(0);
     }
@@ -301,8 +340,10 @@ qint64 ScreenshotTour::SeedFiringRecords()
 {
     // Earlier days' firings as the panel would have recorded them; the tour's own come after.
     Records::FiringStore store(Records::FiringStore::FileIn(m_window->GetPaths().Home()));
-    const auto begin = [this, &store](const char *name, const QString &date, const QString &time, int preDry) {
+    const auto begin = [this, &store](const char *name, const QString &date, const QString &time, int preDry,
+                                      const QString &job = QString()) {
         Records::FiringStart start;
+        start.job = job;
         start.program = QString::fromUtf8(name);
         if (const GlobalElements::Program *program = m_window->GetProgramHandler()->GetProgramByName(start.program)) {
             start.heatfileText = GlobalElements::HeatfileText::Write(*program);
@@ -338,11 +379,12 @@ qint64 ScreenshotTour::SeedFiringRecords()
     begin("Brücke 14-gliedrig", QStringLiteral("19.11.2026"), QStringLiteral("16:40"), 0);
     fire({{8, 1100, 60}, {4, 1480, 150}}, 9000, 0);
     store.End(Records::Result::Interrupted, QString(), QString());
-    begin("DC Zirkon HT", QStringLiteral("20.11.2026"), QStringLiteral("09:05"), 0);
+    begin("DC Zirkon HT", QStringLiteral("20.11.2026"), QStringLiteral("09:05"), 0, QStringLiteral("K-4471.2"));
     fire({{10, 1000, 30}, {5, 1530, 120}}, 6400, 0);
     store.AddFailure(QStringLiteral("20.11.2026 10:52"), QStringLiteral("E1234"));
     store.End(Records::Result::Failed, QStringLiteral("20.11.2026"), QStringLiteral("10:52"));
-    const qint64 shown = begin("Zirkon Speed", QStringLiteral("21.11.2026"), QStringLiteral("13:30"), 10);
+    const qint64 shown =
+        begin("Zirkon Speed", QStringLiteral("21.11.2026"), QStringLiteral("13:30"), 10, QStringLiteral("A-2026/0112"));
     fire({{10, 130, 10}, {40, 900, 0}, {25, 1450, 20}, {10, 1530, 40}}, 11000, 0);
     store.AddFailure(QStringLiteral("21.11.2026 14:41"), QStringLiteral("E201"));
     store.End(Records::Result::Success, QStringLiteral("21.11.2026"), QStringLiteral("16:34"));

@@ -30,11 +30,16 @@ public:
     static bool InstallTranslations(const QString &builtFolder, const QString &home);
     // The languages the tour shows its main pages in, by the controller's keyword.
     static QStringList TourLanguages();
-    // The pages shown in each of them.
+    // The pages shown in each of them, then the firing history and one firing in it.
     static QList<int> TourPages();
+    static constexpr int historyPictures = 2;
 
 private:
     void Feed(const QByteArray &fields);
+    // Types a job code as a barcode scanner does: its keys, then Enter.
+    void Scan(const QString &code);
+    // The firing history over the settings page, and `firing` opened in it.
+    void SaveHistory(const std::function<QString(const QString &)> &numbered, const QString &prefix, qint64 firing);
     void FeedPrograms();
     qint64 SeedFiringRecords();
     bool Save(const QString &name);
@@ -44,6 +49,7 @@ private:
     Mainwindow::MainWindow *m_window;
     QString m_folder;
     QStringList m_written;
+    qint64 m_recorded = 0; // the seeded firing the history opens
 };
 
 } // namespace Tools
