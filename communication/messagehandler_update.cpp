@@ -119,8 +119,12 @@ void MessageHandler::HandleUpdate(QString &block)
         // Line noise in the header: the block it was is unknown, so the first one still
         // missing is asked for; asking for every number up to it could queue a million.
         const int missing = LowestMissingBlock();
-        qDebug() << "update: block number" << number << "beyond the total of" << m_totalBlocks << "; asking for block"
-                 << missing;
+        const QString log = QStringLiteral("update: block number %1 beyond the total of %2, %3")
+                                .arg(number)
+                                .arg(m_totalBlocks)
+                                .arg(missing >= 0 ? QStringLiteral("block %1 asked for instead").arg(missing)
+                                                  : QStringLiteral("nothing to ask for"));
+        qDebug().noquote() << log;
         if (missing >= 0)
             ResendUpdateBlock(missing);
         return;
@@ -141,7 +145,9 @@ bool MessageHandler::DecodeDataBlocks(const QString &block, QByteArray &data, in
 void MessageHandler::AcceptBlock(int number, const QByteArray &data, bool valid)
 {
     if (number < m_nextBlock) {
-        qDebug() << "update: block" << number << (valid ? "" : "(damaged)") << "is already in the file, ignored";
+        qDebug().noquote() << QStringLiteral("update: block %1 is already in the file, ignored%2")
+                                  .arg(number)
+                                  .arg(valid ? QString() : QStringLiteral(" (damaged)"));
         return;
     }
     if (valid) {
