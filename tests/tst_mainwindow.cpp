@@ -38,6 +38,7 @@ private slots:
     void selftestProgressAndResult();
     void selftestFromServiceStays();
     void failuresShowTheWorstSymbol();
+    void pinPadRefusesAfterFiveWrongEntries();
 
 private:
     // Feeds one controller frame and returns the requests that went out with the answer.
@@ -272,6 +273,29 @@ void TestMainWindow::failuresShowTheWorstSymbol()
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("deletefailurelist")});
     send("error==E77");
     QVERIFY(m_panel->Shown("pushButton_infoMainMenu"));
+}
+
+void TestMainWindow::pinPadRefusesAfterFiveWrongEntries()
+{
+    send("code==42$$guistate==8");
+    QCOMPARE(m_window->CurrentPage(), Page::ServicePIN);
+    QWidget *pad = m_panel->Widget("widget_numpad");
+    const auto enter = [pad](const QString &keys) {
+        for (const QChar key : keys)
+            PanelView::Click(pad->findChild<QPushButton *>(QStringLiteral("pushButton_") + key));
+        PanelView::Click(pad->findChild<QPushButton *>(QStringLiteral("pushButton_ok")));
+    };
+    for (int i = 0; i < 4; ++i)
+        enter(QStringLiteral("41"));
+    QCOMPARE(m_panel->Text("label_servicePinLock"), QString());
+    enter(QStringLiteral("41"));
+    QCOMPARE(m_panel->Text("label_servicePinLock"), QStringLiteral("Zu viele falsche Eingaben.\nGesperrt: noch 60 s"));
+
+    // Locked, the right PIN opens nothing; the page says so again when entered anew.
+    enter(QStringLiteral("0042"));
+    QCOMPARE(m_window->CurrentPage(), Page::ServicePIN);
+    send("guistate==3$$guistate==8");
+    QVERIFY(m_panel->Text("label_servicePinLock").startsWith(QStringLiteral("Zu viele falsche Eingaben.")));
 }
 
 QTEST_MAIN(TestMainWindow)
