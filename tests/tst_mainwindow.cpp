@@ -4,9 +4,11 @@
 #include "communication/frame.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
+#include "communication/updateblock.h"
 #include "faults/errorhandler.h"
 #include "faults/popupdeletefailurelist.h"
 #include "panelharness.h"
+#include "popups/popupusb.h"
 #include "touch.h"
 #include "widgets/iconbutton.h"
 
@@ -39,6 +41,7 @@ private slots:
     void selftestFromServiceStays();
     void failuresShowTheWorstSymbol();
     void pinPadRefusesAfterFiveWrongEntries();
+    void updateLeftUnfinishedIsShownFailed();
 
 private:
     // Feeds one controller frame and returns the requests that went out with the answer.
@@ -296,6 +299,18 @@ void TestMainWindow::pinPadRefusesAfterFiveWrongEntries()
     QCOMPARE(m_window->CurrentPage(), Page::ServicePIN);
     send("guistate==3$$guistate==8");
     QVERIFY(m_panel->Text("label_servicePinLock").startsWith(QStringLiteral("Zu viele falsche Eingaben.")));
+}
+
+void TestMainWindow::updateLeftUnfinishedIsShownFailed()
+{
+    // The controller falls silent one block short; asked once, it stays silent.
+    m_window->GetMessageHandler()->SetUpdateQuietTiming(10, 1);
+    send("update==2");
+    m_panel->Feed(Frame::startByte + ovra::Communication::UpdateBlock::Encode(0, "zero") + Frame::endByte);
+    auto *usb = m_window->findChild<ovra::Popups::PopupUSB *>();
+    QTRY_COMPARE_WITH_TIMEOUT(usb->GetText(), QStringLiteral("  Fehlgeschlagen."), 5000);
+    QVERIFY(usb->isVisible());
+    QVERIFY(!m_window->GetMessageHandler()->IsUpdateActive());
 }
 
 QTEST_MAIN(TestMainWindow)
