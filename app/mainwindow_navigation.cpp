@@ -128,7 +128,7 @@ void MainWindow::PreparePageDeviceDataStartUp()
 void MainWindow::PreparePageServicePin()
 {
     ui->lineEdit_servicePin->clear();
-    ui->widget_numpad->Initialize(ui->lineEdit_servicePin, Page::Service);
+    ui->widget_numpad->Initialize(ui->lineEdit_servicePin, ui->label_servicePinLock, Page::Service);
 }
 
 QList<MainWindow::Tile> MainWindow::Tiles() const

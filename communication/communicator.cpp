@@ -29,6 +29,8 @@ Communicator::Communicator(MessageHandler *handler, QObject *parent, const QStri
     // Queued: the slot runs from the event loop, never inside the port's own emission.
     connect(m_port, &QSerialPort::readyRead, this, &Communicator::SlotHandleMessage, Qt::QueuedConnection);
     connect(m_port, &QSerialPort::errorOccurred, this, &Communicator::SlotHandleError);
+    if (m_handler)
+        connect(m_handler, &MessageHandler::SignalUnaskedFrame, this, &Communicator::SendUnasked);
 }
 
 bool Communicator::IsPortOpen() const
@@ -58,6 +60,16 @@ void Communicator::Dispatch(const QByteArray &frame)
         m_port->write(answer);
         qDebug() << "Pis Answer: " << answer;
     }
+}
+
+void Communicator::SendUnasked(const QByteArray &frame)
+{
+    if (!m_port->isOpen()) {
+        qDebug() << "serial port closed, not sent: " << frame;
+        return;
+    }
+    m_port->write(frame);
+    qDebug() << "Pis unasked frame: " << frame;
 }
 
 void Communicator::SlotHandleError(QSerialPort::SerialPortError error)

@@ -14,7 +14,8 @@ namespace Communication {
 class MessageHandler;
 
 // Owns the serial line to the controller: collects bytes into frames, hands each frame to
-// the MessageHandler and writes its answer back. The panel never writes anything else.
+// the MessageHandler and writes its answer back. The one frame the panel writes unasked is the
+// handler's re-ask for update blocks when the controller has fallen silent mid-update.
 class Communicator : public QObject
 {
     Q_OBJECT
@@ -38,6 +39,7 @@ public slots:
 
 private:
     void Dispatch(const QByteArray &frame);
+    void SendUnasked(const QByteArray &frame);
 
     QSerialPort *m_port;
     MessageHandler *m_handler;

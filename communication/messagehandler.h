@@ -6,6 +6,7 @@
 #include "programs/program.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QObject>
 #include <QProcess>
 #include <QSet>
@@ -57,6 +58,12 @@ public:
     void SetUnpackDelayMs(int ms);
     void SetUnpackInterpreters(const QStringList &programs);
     void GetReceivingFileBlocks() {}
+    // A controller that falls silent during an update is asked for the missing blocks
+    // `tries` times, `intervalMs` apart; after one more interval of silence the update has
+    // failed. Tests shorten the wait.
+    static constexpr int defaultUpdateQuietMs = 5000;
+    static constexpr int defaultUpdateQuietTries = 3;
+    void SetUpdateQuietTiming(int intervalMs, int tries);
 
 public slots:
     void SetRequest(const QString &request);
@@ -103,6 +110,10 @@ signals:
     void SignalSetInitalStartup();
     void SignalHeatfileCount(int count);
     void SignalUpdateProgress(const QString &text);
+    // A frame the panel sends without one to answer: the requests for missing update blocks
+    // when the controller has fallen silent (it reads the panel's update answers whenever
+    // they come). The transport writes it as it stands.
+    void SignalUnaskedFrame(const QByteArray &frame);
 
 private:
     using Action = bool (MessageHandler::*)(const QString &parameter);
@@ -163,10 +174,13 @@ private:
     void InitializeUpdater(QString blockCount);
     void HandleUpdate(QString &block);
     bool DecodeDataBlocks(const QString &block, QByteArray &data, int &number);
-    bool IsBlockExpected(int number);
-    bool ApplyFileData(const QString &block, QByteArray &data, int number, int size, bool valid);
+    void AcceptBlock(int number, const QByteArray &data, bool valid);
+    void WriteBlock(const QByteArray &data);
+    void WriteHeldBlocks();
+    int LowestMissingBlock() const;
     void ResendUpdateBlock(int number);
-    void BulkApplyStoredBlocks();
+    void OnUpdateQuiet();
+    void FailUpdate(const QString &why);
     void CloseUpdater();
     void StartUnpackInterpreter();
     void OnUnpackProcessError(QProcess::ProcessError error);
@@ -178,16 +192,19 @@ private:
     const GlobalElements::Paths m_paths;
 
     bool m_updateActive = false;
-    bool m_resendMode = false;
     int m_blockNumberWidth = 6;
     int m_lengthWidth = 3;
     int m_totalBlocks = 0;
-    // Not reset by a new update: a second update in the same run continues from these.
-    int m_appliedBlocks = 0;
+    // The file holds blocks 0 to m_nextBlock - 1 and nothing else; each update starts at 0.
+    int m_nextBlock = 0;
     int m_highestBlock = -1;
     QString m_lastProgress;
-    QStringList m_storedBlocks; // raw texts of blocks that came ahead of a gap
-    QSet<int> m_expectedBlocks; // asked for again, not yet received
+    QMap<int, QByteArray> m_heldBlocks; // valid blocks that came ahead of a missing one
+    QSet<int> m_damagedAhead;           // came damaged ahead of a missing one, not asked for yet
+    QSet<int> m_awaitedBlocks;          // asked for again, not yet received intact
+    QTimer *m_quietTimer;
+    int m_quietTries = defaultUpdateQuietTries;
+    int m_quietAsked = 0; // re-asks since the last block
     QDataStream *m_outputStream = nullptr;
     QFile *m_outputFile = nullptr;
     QProcess *m_unpackProcess;

@@ -2,6 +2,7 @@
 // script that installs it.
 #include "communication/messagehandler.h"
 
+#include "communication/frame.h"
 #include "communication/updateblock.h"
 #include "communication/updatescript.h"
 
@@ -11,7 +12,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <utility>
 
 namespace ovra {
 namespace Communication {
@@ -19,6 +19,9 @@ namespace Communication {
 namespace {
 const QString outputFilePath = QStringLiteral("/home/pi/Downloads/outfile.txt");
 const QString unpackScriptPath = QStringLiteral("/home/pi/Downloads/decode_and_unzip_lin.py");
+// Requests in one re-ask after silence: a controller that stopped early must not be sent
+// thousands of them in one frame.
+constexpr int maxQuietRequests = 32;
 } // namespace
 
 void MessageHandler::SetUpUpdateReception()
@@ -27,8 +30,12 @@ void MessageHandler::SetUpUpdateReception()
     m_unpackTimer = new QTimer();
     m_unpackTimer->setInterval(defaultUnpackDelayMs);
     m_unpackInterpreters = UpdateScript::DefaultInterpreters();
+    m_quietTimer = new QTimer();
+    m_quietTimer->setSingleShot(true);
+    m_quietTimer->setInterval(defaultUpdateQuietMs);
 
     connect(m_unpackTimer, &QTimer::timeout, this, &MessageHandler::SlotStartUpdate);
+    connect(m_quietTimer, &QTimer::timeout, this, &MessageHandler::OnUpdateQuiet);
     connect(m_unpackProcess, &QProcess::readyReadStandardOutput, this, &MessageHandler::Slot_UpdateProcess_Output);
     connect(m_unpackProcess, &QProcess::readyReadStandardError, this, &MessageHandler::Slot_UpdateProcess_Error);
     connect(m_unpackProcess, &QProcess::errorOccurred, this, &MessageHandler::OnUnpackProcessError);
@@ -42,6 +49,7 @@ MessageHandler::~MessageHandler()
     m_unpackProcess->disconnect(this);
     delete m_unpackProcess;
     delete m_unpackTimer;
+    delete m_quietTimer;
     delete m_outputStream;
     delete m_outputFile;
 }
@@ -56,15 +64,22 @@ void MessageHandler::SetUnpackInterpreters(const QStringList &programs)
     m_unpackInterpreters = programs;
 }
 
+void MessageHandler::SetUpdateQuietTiming(int intervalMs, int tries)
+{
+    m_quietTimer->setInterval(intervalMs);
+    m_quietTries = tries;
+}
+
 void MessageHandler::InitializeUpdater(QString blockCount)
 {
     if (!m_outputFile)
         m_outputFile = new QFile(m_paths.Resolve(outputFilePath));
+    delete m_outputStream;
+    m_outputStream = nullptr;
     // Unbuffered: each block is on disk once applied, one write per block.
     if (m_outputFile->open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
         if (m_outputFile->pos() != 0)
             m_outputFile->resize(0);
-        delete m_outputStream;
         m_outputStream = new QDataStream(m_outputFile);
     } else {
         // The blocks are still counted and answered; the script then finds no file.
@@ -74,8 +89,17 @@ void MessageHandler::InitializeUpdater(QString blockCount)
     const int total = blockCount.toInt();
     if (total > 0)
         m_totalBlocks = total;
+    // A new file: what an earlier update wrote or held has no place in it.
+    m_nextBlock = 0;
+    m_highestBlock = -1;
+    m_lastProgress.clear();
+    m_heldBlocks.clear();
+    m_damagedAhead.clear();
+    m_awaitedBlocks.clear();
+    m_quietAsked = 0;
     qDebug() << "update started:" << m_totalBlocks << "blocks";
     m_updateActive = true;
+    m_quietTimer->start();
 }
 
 void MessageHandler::HandleUpdate(QString &block)
@@ -85,33 +109,32 @@ void MessageHandler::HandleUpdate(QString &block)
         qDebug() << "update: frame without block number ignored:" << block.left(32);
         return;
     }
+    m_quietTimer->start();
+    m_quietAsked = 0;
 
     QByteArray data;
     int number = 0;
     const bool valid = DecodeDataBlocks(block, data, number);
-    // A number past the announced total is line noise in the header; asking for every block
-    // up to it could queue a million requests.
-    if (m_totalBlocks >= 1 && number >= m_totalBlocks) {
-        qDebug() << "update: block number" << number << "beyond the total of" << m_totalBlocks << "ignored";
+    if (number >= m_totalBlocks) {
+        // Line noise in the header: the block it was is unknown, so the first one still
+        // missing is asked for; asking for every number up to it could queue a million.
+        const int missing = LowestMissingBlock();
+        const QString log = QStringLiteral("update: block number %1 beyond the total of %2, %3")
+                                .arg(number)
+                                .arg(m_totalBlocks)
+                                .arg(missing >= 0 ? QStringLiteral("block %1 asked for instead").arg(missing)
+                                                  : QStringLiteral("nothing to ask for"));
+        qDebug().noquote() << log;
+        if (missing >= 0)
+            ResendUpdateBlock(missing);
         return;
     }
-    const int size = data.size();
 
-    if (!m_resendMode) {
-        ApplyFileData(block, data, number, size, valid);
-    } else if (!IsBlockExpected(number)) {
-        m_storedBlocks.append(block);
-    } else if (std::any_of(m_expectedBlocks.cbegin(), m_expectedBlocks.cend(),
-                           [number](int missing) { return missing < number; })) {
-        // An earlier block asked for is still missing (it came damaged again): this one
-        // waits, or it would be written before it.
-        m_storedBlocks.append(block);
-    } else if (ApplyFileData(block, data, number, size, valid) && m_expectedBlocks.isEmpty()) {
-        BulkApplyStoredBlocks();
-    }
-
+    for (int missing = m_highestBlock + 1; missing < number; ++missing)
+        ResendUpdateBlock(missing);
     if (number > m_highestBlock)
         m_highestBlock = number;
+    AcceptBlock(number, data, valid);
 }
 
 bool MessageHandler::DecodeDataBlocks(const QString &block, QByteArray &data, int &number)
@@ -119,78 +142,143 @@ bool MessageHandler::DecodeDataBlocks(const QString &block, QByteArray &data, in
     return UpdateBlock::Decode(block, data, number, m_blockNumberWidth, m_lengthWidth);
 }
 
-bool MessageHandler::IsBlockExpected(int number)
+void MessageHandler::AcceptBlock(int number, const QByteArray &data, bool valid)
 {
-    return m_expectedBlocks.remove(number);
+    if (number < m_nextBlock) {
+        qDebug().noquote() << QStringLiteral("update: block %1 is already in the file, ignored%2")
+                                  .arg(number)
+                                  .arg(valid ? QString() : QStringLiteral(" (damaged)"));
+        return;
+    }
+    if (valid) {
+        m_awaitedBlocks.remove(number);
+        m_damagedAhead.remove(number);
+        if (number == m_nextBlock) {
+            WriteBlock(data);
+            WriteHeldBlocks();
+        } else if (!m_heldBlocks.contains(number)) {
+            m_heldBlocks.insert(number, data);
+        } else {
+            qDebug() << "update: block" << number << "is already held, repeat ignored";
+        }
+        return;
+    }
+    if (m_heldBlocks.contains(number)) {
+        qDebug() << "update: damaged copy of block" << number << "ignored, an intact one is held";
+    } else if (number == m_nextBlock || m_awaitedBlocks.contains(number)) {
+        ResendUpdateBlock(number);
+    } else {
+        // Asked for when the blocks before it are in, like a block that came ahead of a gap.
+        m_damagedAhead.insert(number);
+    }
 }
 
-bool MessageHandler::ApplyFileData(const QString &block, QByteArray &data, int number, int size, bool valid)
+void MessageHandler::WriteBlock(const QByteArray &data)
 {
-    const int expected = m_highestBlock + 1;
-    if (number > expected) {
-        for (int missing = expected; missing < number; ++missing)
-            ResendUpdateBlock(missing);
-        m_storedBlocks.append(block);
-        return false;
-    }
-    if (!valid) {
-        ResendUpdateBlock(number);
-        return false;
-    }
-
-    ++m_appliedBlocks;
     if (m_outputStream)
-        m_outputStream->writeRawData(data.constData(), size);
-    const QString progress = UpdateBlock::ProgressText(m_appliedBlocks, m_totalBlocks);
+        m_outputStream->writeRawData(data.constData(), data.size());
+    ++m_nextBlock;
+    const QString progress = UpdateBlock::ProgressText(m_nextBlock, m_totalBlocks);
     if (!progress.isEmpty() && progress != m_lastProgress) {
         m_lastProgress = progress;
         qDebug() << "Sending update progress:" << progress;
         emit SignalUpdateProgress(progress);
     }
-    if (m_appliedBlocks == m_totalBlocks)
+    if (m_nextBlock == m_totalBlocks)
         CloseUpdater();
-    return true;
+}
+
+void MessageHandler::WriteHeldBlocks()
+{
+    while (m_updateActive) {
+        const auto held = m_heldBlocks.find(m_nextBlock);
+        if (held == m_heldBlocks.end()) {
+            if (m_damagedAhead.remove(m_nextBlock))
+                ResendUpdateBlock(m_nextBlock);
+            return;
+        }
+        const QByteArray data = held.value();
+        m_heldBlocks.erase(held);
+        WriteBlock(data);
+    }
+}
+
+int MessageHandler::LowestMissingBlock() const
+{
+    int number = m_nextBlock;
+    while (m_heldBlocks.contains(number))
+        ++number;
+    return number < m_totalBlocks ? number : -1;
 }
 
 void MessageHandler::ResendUpdateBlock(int number)
 {
-    m_resendMode = true;
-    m_expectedBlocks.insert(number);
+    m_awaitedBlocks.insert(number);
     qDebug() << "update: block" << number << "asked for again";
     SetRequest(QStringLiteral("resend==") + QString::number(number));
 }
 
-void MessageHandler::BulkApplyStoredBlocks()
+void MessageHandler::OnUpdateQuiet()
 {
-    // One pass over what is stored now, in block order (blocks asked for more than once may
-    // have arrived in another); a block that has to wait again is stored anew and stays for
-    // the next closed gap instead of spinning here.
-    QStringList stored = std::exchange(m_storedBlocks, QStringList());
-    std::stable_sort(stored.begin(), stored.end(), [this](const QString &a, const QString &b) {
-        return a.leftRef(m_blockNumberWidth).toInt() < b.leftRef(m_blockNumberWidth).toInt();
-    });
-    for (const QString &block : qAsConst(stored)) {
-        if (!m_updateActive)
-            break;
-        QByteArray data;
-        int number = 0;
-        const bool valid = DecodeDataBlocks(block, data, number);
-        ApplyFileData(block, data, number, data.size(), valid);
+    if (!m_updateActive)
+        return;
+    if (m_quietAsked >= m_quietTries) {
+        FailUpdate(QStringLiteral("no block from the controller after %1 requests; %2 of %3 blocks received")
+                       .arg(m_quietAsked)
+                       .arg(m_nextBlock)
+                       .arg(m_totalBlocks));
+        return;
     }
-    // A stored block found damaged has just been asked for again: until it arrives, later
-    // blocks must wait, or it would be written after them.
-    if (m_expectedBlocks.isEmpty())
-        m_resendMode = false;
+    ++m_quietAsked;
+    // The gaps known so far and the block after the last one seen: the controller may have
+    // sent it, and it was lost.
+    QList<int> missing;
+    const int last = std::min(m_highestBlock + 1, m_totalBlocks - 1);
+    for (int number = m_nextBlock; number <= last && missing.size() < maxQuietRequests; ++number) {
+        if (!m_heldBlocks.contains(number))
+            missing << number;
+    }
+    qDebug() << "update: no block for" << m_quietTimer->interval() << "ms, asking again (" << m_quietAsked << "of"
+             << m_quietTries << "):" << missing;
+    for (int number : qAsConst(missing)) {
+        m_damagedAhead.remove(number);
+        ResendUpdateBlock(number);
+    }
+    if (!m_requests.isEmpty()) {
+        const QByteArray body = GetActualRequests().toUtf8().mid(Frame::fieldSeparator.size());
+        ResetRequest();
+        emit SignalUnaskedFrame(Frame::Build(body));
+    }
+    m_quietTimer->start();
+}
+
+void MessageHandler::FailUpdate(const QString &why)
+{
+    m_quietTimer->stop();
+    qDebug().noquote() << "update failed:" << why;
+    delete m_outputStream;
+    m_outputStream = nullptr;
+    // Nobody may unpack a file with holes in it.
+    if (m_outputFile) {
+        m_outputFile->close();
+        m_outputFile->remove();
+    }
+    m_updateActive = false;
+    m_heldBlocks.clear();
+    m_damagedAhead.clear();
+    m_awaitedBlocks.clear();
+    emit SignalUSB(QStringLiteral("failed"));
 }
 
 void MessageHandler::CloseUpdater()
 {
+    m_quietTimer->stop();
     if (m_outputFile && m_outputFile->isOpen()) {
         m_outputFile->flush();
         m_outputFile->waitForBytesWritten(200);
         m_outputFile->close();
     }
-    qDebug() << "update received:" << m_appliedBlocks << "blocks";
+    qDebug() << "update received:" << m_nextBlock << "blocks";
     SetRequest(QStringLiteral("endupdate"));
     SetRequest(QStringLiteral("hx3update"));
     m_updateActive = false;

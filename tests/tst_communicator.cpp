@@ -3,6 +3,7 @@
 #include "communication/communicator.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
+#include "communication/updateblock.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -125,6 +126,7 @@ private slots:
     void noiseLeavesThePanelAnswering();
     void nonAsciiNameIsCheckedOverItsBytes_data();
     void nonAsciiNameIsCheckedOverItsBytes();
+    void silentControllerIsAskedForMissingBlocks();
 
 private:
     // Writes one chunk and waits until the panel has read and handled it.
@@ -357,6 +359,21 @@ void TestCommunicator::nonAsciiNameIsCheckedOverItsBytes()
     } else {
         QCOMPARE(info.count(), 0);
     }
+}
+
+void TestCommunicator::silentControllerIsAskedForMissingBlocks()
+{
+    // Mid-update the panel speaks only to ask for blocks; when the controller falls silent no
+    // frame of its will come to carry the request, so it goes out on a frame of its own.
+    m_handler->SetUpdateQuietTiming(50, 3);
+    const auto sendFrame = [this](const QByteArray &frame) {
+        sendChunk(frame.left(frame.size() - 1));
+        sendChunk(frame.right(1));
+    };
+    sendFrame(Frame::Build("update==2"));
+    QCOMPARE(waitForAnswer(), Frame::Build("ack"));
+    sendFrame(Frame::startByte + ovra::Communication::UpdateBlock::Encode(0, "zero") + Frame::endByte);
+    QCOMPARE(waitForAnswer(), Frame::Build("resend==1"));
 }
 
 QTEST_GUILESS_MAIN(TestCommunicator)

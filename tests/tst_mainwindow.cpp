@@ -4,9 +4,11 @@
 #include "communication/frame.h"
 #include "communication/internalcommunicator.h"
 #include "communication/messagehandler.h"
+#include "communication/updateblock.h"
 #include "faults/errorhandler.h"
 #include "faults/popupdeletefailurelist.h"
 #include "panelharness.h"
+#include "popups/popupusb.h"
 #include "touch.h"
 #include "widgets/iconbutton.h"
 
@@ -38,6 +40,8 @@ private slots:
     void selftestProgressAndResult();
     void selftestFromServiceStays();
     void failuresShowTheWorstSymbol();
+    void pinPadRefusesAfterFiveWrongEntries();
+    void updateLeftUnfinishedIsShownFailed();
 
 private:
     // Feeds one controller frame and returns the requests that went out with the answer.
@@ -272,6 +276,41 @@ void TestMainWindow::failuresShowTheWorstSymbol()
     QCOMPARE(send("temp==300"), QStringList{QStringLiteral("deletefailurelist")});
     send("error==E77");
     QVERIFY(m_panel->Shown("pushButton_infoMainMenu"));
+}
+
+void TestMainWindow::pinPadRefusesAfterFiveWrongEntries()
+{
+    send("code==42$$guistate==8");
+    QCOMPARE(m_window->CurrentPage(), Page::ServicePIN);
+    QWidget *pad = m_panel->Widget("widget_numpad");
+    const auto enter = [pad](const QString &keys) {
+        for (const QChar key : keys)
+            PanelView::Click(pad->findChild<QPushButton *>(QStringLiteral("pushButton_") + key));
+        PanelView::Click(pad->findChild<QPushButton *>(QStringLiteral("pushButton_ok")));
+    };
+    for (int i = 0; i < 4; ++i)
+        enter(QStringLiteral("41"));
+    QCOMPARE(m_panel->Text("label_servicePinLock"), QString());
+    enter(QStringLiteral("41"));
+    QCOMPARE(m_panel->Text("label_servicePinLock"), QStringLiteral("Zu viele falsche Eingaben.\nGesperrt: noch 60 s"));
+
+    // Locked, the right PIN opens nothing; the page says so again when entered anew.
+    enter(QStringLiteral("0042"));
+    QCOMPARE(m_window->CurrentPage(), Page::ServicePIN);
+    send("guistate==3$$guistate==8");
+    QVERIFY(m_panel->Text("label_servicePinLock").startsWith(QStringLiteral("Zu viele falsche Eingaben.")));
+}
+
+void TestMainWindow::updateLeftUnfinishedIsShownFailed()
+{
+    // The controller falls silent one block short; asked once, it stays silent.
+    m_window->GetMessageHandler()->SetUpdateQuietTiming(10, 1);
+    send("update==2");
+    m_panel->Feed(Frame::startByte + ovra::Communication::UpdateBlock::Encode(0, "zero") + Frame::endByte);
+    auto *usb = m_window->findChild<ovra::Popups::PopupUSB *>();
+    QTRY_COMPARE_WITH_TIMEOUT(usb->GetText(), QStringLiteral("  Fehlgeschlagen."), 5000);
+    QVERIFY(usb->isVisible());
+    QVERIFY(!m_window->GetMessageHandler()->IsUpdateActive());
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -459,7 +459,6 @@ private:
     bool m_updating = false;
     int m_updateTotal = 0;
     int m_highestBlock = -1;
-    int m_appliedAtMost = 0; // never fewer than the panel has applied
     int m_blocksThisUpdate = 0;
     QList<int> m_resends;
 };
@@ -500,7 +499,7 @@ QByteArray Walk::NextBlock()
     if (!m_resends.isEmpty())
         number = m_resends.takeFirst();
     else if (number >= m_updateTotal)
-        number = m_updateTotal - 1; // a repeat is written again and counted
+        number = m_updateTotal - 1; // a repeat, ignored: the panel waits for what it asked for
     else if (Chance(10) && number + 1 < m_updateTotal)
         number += 1; // the one before it is lost on the line
     QByteArray block = UpdateBlock::Encode(number, payload(number));
@@ -646,12 +645,11 @@ QByteArray Walk::RandomField()
          [&] {
              return any({"", " ", "\\r"});
          }},
-        // An update now and then, always of more blocks than were applied so far, so that it can
-        // end: the panel's counts run on from one update to the next.
+        // An update now and then; each starts a new file.
         {1,
          [&] {
              if (!m_updating && Chance(25))
-                 return "update==" + QByteArray::number(m_appliedAtMost + int(m_random.bounded(1, 5)));
+                 return "update==" + QByteArray::number(int(m_random.bounded(1, 5)));
              return QByteArray("update");
          }},
         {15, [&] { return "temp==" + number(273, Chance(70) ? 560 : 1800); }},
@@ -743,6 +741,8 @@ Failure Walk::Send(const Step &step, QString *outcome)
             if (Accepted(command) && command.startsWith(QLatin1String("update=="))) {
                 m_updating = true;
                 m_blocksThisUpdate = 0;
+                m_highestBlock = -1;
+                m_resends.clear();
                 if (command.mid(8).toInt() > 0)
                     m_updateTotal = command.mid(8).toInt();
             }
@@ -753,12 +753,9 @@ Failure Walk::Send(const Step &step, QString *outcome)
             ++m_blocksThisUpdate;
             QByteArray data;
             int number = 0;
-            const bool valid = UpdateBlock::Decode(text, data, number);
-            if (number < m_updateTotal) {
+            UpdateBlock::Decode(text, data, number);
+            if (number < m_updateTotal)
                 m_highestBlock = qMax(m_highestBlock, number);
-                if (valid)
-                    ++m_appliedAtMost;
-            }
         }
     }
     if (requests.mid(0, waiting.size()) != waiting)

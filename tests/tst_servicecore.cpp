@@ -6,6 +6,7 @@
 #include "communication/internalcommunicator.h"
 #include "programs/heatfiletext.h"
 #include "programs/program.h"
+#include "settings/pinguard.h"
 #include "settings/usbfiles.h"
 #include "settings/usbstick.h"
 #include "updatefiles.h"
@@ -25,6 +26,7 @@
 
 using ovra::Communication::InternalCommunicator;
 using ovra::GlobalElements::Program;
+using ovra::Settings::PinGuard;
 using ovra::Settings::UsbFiles;
 using UpdateFiles::Read;
 using UpdateFiles::Write;
@@ -69,6 +71,9 @@ private slots:
     void scriptUpkeepRewritesOnlyWhatDiffers();
     void loadingIsAllOrNothing();
     void stickFailuresAndBackup();
+    void pinIsTheControllersNumber_data();
+    void pinIsTheControllersNumber();
+    void pinGuardLocksOutGuessing();
 };
 
 void TestServiceCore::wordsAndClients()
@@ -253,6 +258,64 @@ void TestServiceCore::stickFailuresAndBackup()
     QVERIFY(Read(folder + QStringLiteral("/programs.txt")).contains("name=Krone;manufacturer=Zircos"));
     QCOMPARE(Read(folder + QStringLiteral("/device.txt")), QByteArray("Model: X\n"));
     QCOMPARE(Read(folder + QStringLiteral("/logs/Log_1.txt")), QByteArray("line\n"));
+}
+
+void TestServiceCore::pinIsTheControllersNumber_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<uint>("code");
+    QTest::addColumn<bool>("correct");
+    QTest::newRow("leading zeros") << "0042" << 42u << true;
+    QTest::newRow("ten digits, the largest") << "4294967295" << 4294967295u << true;
+    QTest::newRow("ten digits, zero-padded") << "0000000042" << 42u << true;
+    QTest::newRow("eleven digits") << "00000000042" << 42u << false;
+    // Past 32 bits: not read modulo 2^32.
+    QTest::newRow("2^32 + 42") << "4294967338" << 42u << false;
+    // A code the controller sent as non-numeric arrives as 0; only an entry reads as 0.
+    QTest::newRow("empty is not zero") << "" << 0u << false;
+    QTest::newRow("sign") << "+12" << 12u << false;
+}
+
+void TestServiceCore::pinIsTheControllersNumber()
+{
+    QFETCH(QString, typed);
+    QFETCH(uint, code);
+    QTEST(PinGuard::Matches(typed, true, code), "correct");
+    QVERIFY(!PinGuard::Matches(typed, false, code)); // nothing is right before the controller's code
+}
+
+void TestServiceCore::pinGuardLocksOutGuessing()
+{
+    qint64 now = 1000;
+    PinGuard guard([&now] { return now; });
+    const auto wrongFiveTimes = [&guard] {
+        for (int i = 0; i < PinGuard::triesBeforeLock; ++i)
+            QCOMPARE(guard.Check(QStringLiteral("1"), true, 7), PinGuard::Verdict::Wrong);
+    };
+    // Entries without a code from the controller are no guesses.
+    for (int i = 0; i < 10; ++i)
+        QCOMPARE(guard.Check(QStringLiteral("7"), false, 0), PinGuard::Verdict::Wrong);
+    QVERIFY(!guard.IsLocked());
+
+    // 60 s, 120 s, 240 s: the right PIN is refused meanwhile.
+    for (const int seconds : {60, 120, 240}) {
+        wrongFiveTimes();
+        QCOMPARE(guard.SecondsLeft(), seconds);
+        now += seconds * 1000 - 1;
+        QCOMPARE(guard.SecondsLeft(), 1);
+        QCOMPARE(guard.Check(QStringLiteral("7"), true, 7), PinGuard::Verdict::Locked);
+        now += 1;
+        QVERIFY(!guard.IsLocked());
+    }
+    // Four wrong, then right: the count starts afresh, and so does the lock's length.
+    for (int i = 0; i < PinGuard::triesBeforeLock - 1; ++i)
+        guard.Check(QStringLiteral("1"), true, 7);
+    QCOMPARE(guard.Check(QStringLiteral("07"), true, 7), PinGuard::Verdict::Correct);
+    for (int i = 0; i < PinGuard::triesBeforeLock - 1; ++i)
+        guard.Check(QStringLiteral("1"), true, 7);
+    QVERIFY(!guard.IsLocked());
+    guard.Check(QStringLiteral("1"), true, 7);
+    QCOMPARE(guard.SecondsLeft(), 60);
 }
 
 QTEST_GUILESS_MAIN(TestServiceCore)

@@ -37,8 +37,6 @@ private slots:
 
     void programButtonReflectsTheRecordSilently();
 
-    void pinComparison_data();
-    void pinComparison();
     void pinPad();
 
     void keyboardInsertsAtCursor();
@@ -150,34 +148,12 @@ void TestWidgetKit::programButtonReflectsTheRecordSilently()
     QCOMPARE(fav.count(), 0);
 }
 
-void TestWidgetKit::pinComparison_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("hasCode");
-    QTest::addColumn<uint>("code");
-    QTest::addColumn<bool>("correct");
-    QTest::newRow("leading zero reads as number") << "0815" << true << 815u << true;
-    // A code the controller sent as non-numeric arrives as 0; only an entry reads as 0.
-    QTest::newRow("empty is not zero") << "" << true << 0u << false;
-    QTest::newRow("typed zero vs zero") << "0" << true << 0u << true;
-    QTest::newRow("sign") << "+12" << true << 12u << false;
-}
-
-void TestWidgetKit::pinComparison()
-{
-    QFETCH(QString, typed);
-    QFETCH(bool, hasCode);
-    QFETCH(uint, code);
-    QFETCH(bool, correct);
-    QCOMPARE(NumPad::IsCodeCorrect(typed, hasCode, code), correct);
-}
-
 void TestWidgetKit::pinPad()
 {
     QLineEdit field(QStringLiteral("left over"));
     NumPad pad;
     pad.show();
-    pad.Initialize(&field, Pageinterface::ServiceProgs);
+    pad.Initialize(&field, nullptr, Pageinterface::ServiceProgs);
     QVERIFY(field.text().isEmpty());
     QSignalSpy correct(&pad, &NumPad::SignalCorrectCode);
     QSignalSpy wrong(&pad, &NumPad::SignalWrongCode);

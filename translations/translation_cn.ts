@@ -205,6 +205,15 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>错误输入次数过多。
+已锁定：剩余 %1 秒</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

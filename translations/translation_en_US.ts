@@ -205,6 +205,15 @@ and restart the process.</translation>
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>Too many wrong entries.
+Locked: %1 s left</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

@@ -205,6 +205,15 @@ y reinicie el proceso.</translation>
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>Demasiadas entradas incorrectas.
+Bloqueado: quedan %1 s</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

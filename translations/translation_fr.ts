@@ -205,6 +205,15 @@ puis relancez le processus.</translation>
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>Trop de saisies erronées.
+Bloqué : encore %1 s</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

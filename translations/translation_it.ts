@@ -205,6 +205,15 @@ e riavviare il processo.</translation>
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>Troppi inserimenti errati.
+Bloccato: ancora %1 s</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

@@ -205,6 +205,15 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>잘못된 입력이 너무 많습니다.
+잠김: %1초 남음</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

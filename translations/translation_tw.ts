@@ -205,6 +205,15 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::NumPad</name>
+    <message>
+        <source>Zu viele falsche Eingaben.
+Gesperrt: noch %1 s</source>
+        <translation>錯誤輸入次數過多。
+已鎖定：剩餘 %1 秒</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::TableHead</name>
     <message>
         <source>Nr.</source>

@@ -4,7 +4,9 @@
 #include "widgets/buttonkit.h"
 #include "widgets/widgetstyle.h"
 
+#include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 
 namespace ovra {
 namespace GlobalElements {
@@ -15,9 +17,11 @@ namespace {
 const int keyIconSide = 36;
 } // namespace
 
-NumPad::NumPad(QWidget *parent) : QWidget(parent), ui(new Ui::NumPad)
+NumPad::NumPad(QWidget *parent) : QWidget(parent), ui(new Ui::NumPad), m_lockTick(new QTimer(this))
 {
     ui->setupUi(this);
+    m_lockTick->setInterval(1000);
+    connect(m_lockTick, &QTimer::timeout, this, &NumPad::ShowLock);
 
     ButtonKit::ConnectTextKeys(this, [this](const QString &digit) { OnDigit(digit); });
     ButtonKit::SetKeyFace(ui->pushButton_clear, QStringLiteral(":/Icons/backspace.png"), QStringLiteral("\u232B"),
@@ -32,12 +36,14 @@ NumPad::~NumPad()
     delete ui;
 }
 
-void NumPad::Initialize(QLineEdit *field, Pageinterface::en_pages target)
+void NumPad::Initialize(QLineEdit *field, QLabel *status, Pageinterface::en_pages target)
 {
     if (m_field && m_field != field)
         ShowWrong(false);
     m_field = field;
+    m_status = status;
     m_target = target;
+    ShowLock();
     if (!m_field)
         return;
     m_field->clear();
@@ -49,19 +55,6 @@ void NumPad::Initialize(QLineEdit *field, Pageinterface::en_pages target)
 bool NumPad::IsShowingWrong() const
 {
     return m_field && m_field->property(codeStateProperty).toString() == QLatin1String("wrong");
-}
-
-bool NumPad::IsCodeCorrect(const QString &typed, bool hasCode, unsigned int code)
-{
-    if (!hasCode || typed.isEmpty())
-        return false;
-    for (const QChar c : typed) {
-        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
-            return false;
-    }
-    bool ok = false;
-    const unsigned int value = typed.toUInt(&ok);
-    return ok && value == code;
 }
 
 QSize NumPad::sizeHint() const
@@ -77,7 +70,7 @@ void NumPad::SetCode(unsigned int code)
 
 void NumPad::OnDigit(const QString &digit)
 {
-    if (!m_field)
+    if (!m_field || m_guard.IsLocked())
         return;
     ShowWrong(false);
     if (m_field->text().size() >= maxDigits)
@@ -97,17 +90,30 @@ void NumPad::OnOk()
 {
     if (!m_field)
         return;
-    const bool correct = IsCodeCorrect(m_field->text(), m_hasCode, m_code);
+    const Settings::PinGuard::Verdict verdict = m_guard.Check(m_field->text(), m_hasCode, m_code);
     // The PIN does not stay in the field either way: the page is left open on a panel
     // anyone can walk up to.
     m_field->clear();
-    if (correct) {
+    if (verdict == Settings::PinGuard::Verdict::Correct) {
         ShowWrong(false);
         emit SignalCorrectCode(m_target);
-    } else {
-        ShowWrong(true);
-        emit SignalWrongCode();
+        return;
     }
+    ShowWrong(true);
+    if (verdict == Settings::PinGuard::Verdict::Wrong)
+        emit SignalWrongCode();
+    ShowLock();
+}
+
+void NumPad::ShowLock()
+{
+    const int seconds = m_guard.SecondsLeft();
+    if (seconds > 0)
+        m_lockTick->start();
+    else
+        m_lockTick->stop();
+    if (m_status)
+        m_status->setText(seconds > 0 ? tr("Zu viele falsche Eingaben.\nGesperrt: noch %1 s").arg(seconds) : QString());
 }
 
 void NumPad::ShowWrong(bool wrong)

@@ -38,7 +38,7 @@ public:
     // nothing is left to send.
     bool next(Sending *sending);
     // The panel asks for a block. A block on its way right now, or still to come, is not
-    // sent twice: the panel writes every copy it gets while nothing is missing.
+    // sent twice: a second copy would only cost line time.
     void requestResend(int number, int inFlight);
     // The last block again, for a panel that never saw the end of the file.
     void resendLast();
