@@ -7,6 +7,7 @@
 #include "app/paths.h"
 #include "faults/selftestprogress.h"
 #include "process/firingrules.h"
+#include "process/firingsummary.h"
 #include "records/firingrecorder.h"
 #include "settings/devicereport.h"
 #include "settings/usbsession.h"
@@ -225,7 +226,6 @@ private:
     void FillProgramPage(GlobalElements::Program *program, bool play);
     void PreparePageProcess(int from);
     // The caption under the result symbol, in the language now shown; none without a result.
-    void ShowResultCaption(const char *source);
     void ShowProcessEndButtons();
     void RemoveAutostartNote();
     void SetPlayButtonCaptions();
@@ -251,6 +251,7 @@ private:
     Records::FiringRecorder m_firingRecorder{m_paths.Home()};
     // What the panel knows of the furnace; declared after the recorder that observes it.
     GlobalElements::FurnaceState m_furnace;
+    Process::FiringSummary m_firingSummary;
     // The page title as shown: the program's name on the program, process and editor pages.
     QString m_title;
     // The firing history, shown over the current page (records/mainwindow_records.cpp).
@@ -312,7 +313,6 @@ private:
     QString m_shownProgramName;
     // Set while Slot_ShowChoosenProgram switches to the page it has just filled.
     bool m_programPageFilled = false;
-    const char *m_resultSource = nullptr;
 
     // Navigation memory; the current page is the furnace model's.
     PageOrigins m_origins;

@@ -186,6 +186,21 @@ e reinicie o processo.</translation>
     </message>
 </context>
 <context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Erro grave</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Informação</translation>
+    </message>
+</context>
+<context>
     <name>ovra::GlobalElements::NewProgram</name>
     <message>
         <source>Programm sichern</source>
@@ -464,10 +479,6 @@ e reinicie o processo.</translation>
         <translation>Programa interrompido</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Erro %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Secagem</translation>
     </message>
@@ -490,6 +501,10 @@ e reinicie o processo.</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Registros de queima</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Parar</translation>
     </message>
 </context>
 <context>
@@ -527,6 +542,59 @@ Voltar?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR indisponível</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pré-secagem</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Patamar</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Aquecimento</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segmento %1 de %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segmento %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>faltam %1:%2 h</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Temperatura máxima</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e mais %1</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Sem erros</translation>
     </message>
 </context>
 <context>

@@ -32,6 +32,8 @@ public:
     static QStringList TourLanguages();
     // The pages shown in each of them.
     static QList<int> TourPages();
+    // The languages the process page is shown in, a firing and its result, in °C and °F.
+    static QStringList ProcessLanguages();
 
 private:
     void Feed(const QByteArray &fields);
@@ -40,6 +42,7 @@ private:
     bool Save(const QString &name);
     bool SavePopup(const QString &name, QDialog *popup);
     void SaveLanguages(const std::function<QString(const QString &)> &numbered);
+    void SaveProcessLanguages(const std::function<QString(const QString &)> &numbered);
 
     Mainwindow::MainWindow *m_window;
     QString m_folder;
