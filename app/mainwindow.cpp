@@ -141,7 +141,7 @@ void MainWindow::CreateComponents()
     m_errorHandler = new GlobalElements::ErrorHandler();
     m_popupMaterial = new Popups::Popup(this);
     m_popupSettings = new Popups::PopupSettings(this);
-    m_popupDeleteFailureList = new Popups::PopupDeleteFailureList(this);
+    m_popupDeleteFailureList = new Popups::PopupDeleteFailureList(this, m_errorHandler);
     m_timerPopup = new Popups::TimerPopup(this);
     m_popupLicense = new Popups::PopupLicense(this);
     m_popupTimeAdjust = new Popups::PopupTimeAdjust(this);

@@ -108,8 +108,9 @@ void MainWindow::ErrorHandling()
     ui->pushButton_infoMainMenu->setIcon(GlobalElements::IconCache::Get(icon));
     ui->widget_processError->setStyleSheet(icon.isEmpty() ? QString()
                                                           : QStringLiteral("background-image: url(%1);").arg(icon));
-    ui->textEdit_test->setPlainText(GlobalElements::FailureSeverity::Lines(list));
-    ui->textEdit_mainMenu->setPlainText(GlobalElements::FailureSeverity::Lines(list));
+    // The menus' small boxes keep the codes alone: their symbol says the worst severity.
+    ui->textEdit_test->setPlainText(list);
+    ui->textEdit_mainMenu->setPlainText(list);
     m_popupFailure->SetFailurePopupText(GlobalElements::FailureSeverity::Lines(m_errorHandler->GetProcessErrorList()));
 }
 

@@ -76,7 +76,10 @@ FiringGlanceView::FiringGlanceView(QWidget *parent)
     grid->addWidget(m_progress, 2, 0, 1, 3);
     // The temperature takes what it needs; stage and time share the rest.
     m_temperature->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    m_temperature->setMaximumWidth(340); // a garbled reading must not push the stage off the page
+    // Wide enough for "2732°F", so that stage and time stay put as the figures change; a
+    // garbled reading must not push them off the page.
+    m_temperature->setMinimumWidth(300);
+    m_temperature->setMaximumWidth(340);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     grid->setRowMinimumHeight(2, 34);

@@ -79,6 +79,8 @@ void MainWindow::RetranslateWindow()
     SetSelftestCaptions();
     ui->textEdit_FailureList->setPlainText(GlobalElements::FailureSeverity::History(m_furnace.FailureLog()));
     ErrorHandling();
+    ui->widget_processGlance->Refresh();
+    ui->widget_processSummary->Refresh();
     SetPlayButtonCaptions();
 }
 

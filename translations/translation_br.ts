@@ -99,6 +99,10 @@ e reinicie o processo.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>A lista de erros será excluída definitivamente!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e mais %1</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>错误列表将被永久删除！</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>另有 %1 条</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

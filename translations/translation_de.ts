@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>Fehlerliste wird endgültig gelöscht!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>und %1 weitere</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

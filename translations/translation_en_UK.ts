@@ -99,6 +99,10 @@ and restart the process.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>The error list will be deleted permanently!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>and %1 more</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

@@ -99,6 +99,10 @@ y reinicie el proceso.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>¡La lista de errores se borrará definitivamente!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>y %1 más</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

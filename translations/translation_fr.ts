@@ -99,6 +99,10 @@ puis relancez le processus.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>La liste des erreurs sera définitivement supprimée&#xa0;!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>et %1 de plus</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

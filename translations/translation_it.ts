@@ -99,6 +99,10 @@ e riavviare il processo.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>L&apos;elenco errori verrà eliminato definitivamente!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e altri %1</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>エラーリストを完全に削除します！</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>他 %1 件</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

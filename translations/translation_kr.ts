@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>오류 목록이 영구 삭제됩니다!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>외 %1건</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>Список ошибок будет удалён безвозвратно!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>и ещё %1</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>

@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>錯誤清單將被永久刪除！</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>另有 %1 條</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
