@@ -199,13 +199,14 @@ QStringList ScreenshotTour::Run()
     m_window->Slot_ShowChoosenProgram(store->GetProgramByName(QStringLiteral("Mein Langzeit")), Page::ProcessProg);
     Feed("temp==1473$$hpinfo==Mein Langzeit;45;2;hold");
     Save(numbered(QStringLiteral("process_fahrenheit")));
-    Feed("hpsuccess$$hpinfo==");
+    Feed("time==1020$$hpsuccess$$hpinfo==");
     Save(numbered(QStringLiteral("process_success")));
-    Feed("unit==c");
+    Feed("unit==c$$time==0935");
     m_window->Slot_ShowChoosenProgram(speed, Page::ProcessProg);
     Feed("temp==1073$$hpinfo==Zirkon Speed;90;1;heat");
-    Feed("hpfailed$$hpinfo==");
+    Feed("time==0950$$hpfailed$$hpinfo==");
     Save(numbered(QStringLiteral("process_abort")));
+    Feed("time==0935");
     // Pre-drying, then a firing that ends with a failure of each severity.
     m_window->Slot_ShowChoosenProgram(speed, Page::ProcessProg);
     Feed("temp==333$$hpinfo==Zirkon Speed;142;pre;pre");
