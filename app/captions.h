@@ -74,16 +74,17 @@ constexpr const char *Celsius = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow"
 constexpr const char *Fahrenheit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "°F  Fahrenheit");
 constexpr const char *Bereit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Bereit");
 constexpr const char *ProgressFailed = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "  Fehlgeschlagen.");
-// Under the result symbol of the process page; the failure that ended a firing follows.
+// Beside the result symbol of the process page.
 constexpr const char *ProgrammBeendet = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Programm beendet");
 constexpr const char *ProgrammAbgebrochen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Programm abgebrochen");
-constexpr const char *FehlerCode = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Fehler %1");
 // The program page's bottom row says what each button does; the time is the firing's end.
 constexpr const char *Trocknen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Trocknen");
 constexpr const char *Startzeit = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Startzeit");
 constexpr const char *Tuer = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Tür");
 constexpr const char *Start = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Start");
 constexpr const char *EndeUm = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Ende %1");
+// The process page's stop button says what it does, from across the room.
+constexpr const char *Stopp = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Stopp");
 } // namespace Captions
 
 } // namespace Mainwindow

@@ -200,6 +200,7 @@ void FurnaceState::TakeHeatReport(const HeatReport &report)
     m_firing.stageText = report.stageText;
     m_firing.phase = report.phase;
     m_firing.minutesLeft = report.minutesLeft;
+    m_firing.minutesKnown = report.minutesKnown;
     m_firing.end = Process::ProcessTime::EndOfDay(m_time, report.minutesLeft);
     if (begins)
         emit FiringStarted();

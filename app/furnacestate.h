@@ -47,8 +47,9 @@ struct Firing
     QString stageText;
     Phase phase = Phase::Heat;
     qint64 minutesLeft = 0;
-    QString end;       // "hh:mm", the controller's "esttime" or reckoned from the minutes left
-    QString startDate; // the controller's clock at the first report
+    bool minutesKnown = false; // the last report's minutes were a number
+    QString end;               // "hh:mm", the controller's "esttime" or reckoned from the minutes left
+    QString startDate;         // the controller's clock at the first report
     QString startTime;
     int preDryMinutes = 0; // as the panel asked for it; 0 for a firing it did not start
     QString delayedStart;  // "YYYYMMDD,HHMM" of the panel's delayed start, else empty

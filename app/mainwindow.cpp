@@ -141,7 +141,7 @@ void MainWindow::CreateComponents()
     m_errorHandler = new GlobalElements::ErrorHandler();
     m_popupMaterial = new Popups::Popup(this);
     m_popupSettings = new Popups::PopupSettings(this);
-    m_popupDeleteFailureList = new Popups::PopupDeleteFailureList(this);
+    m_popupDeleteFailureList = new Popups::PopupDeleteFailureList(this, m_errorHandler);
     m_timerPopup = new Popups::TimerPopup(this);
     m_popupLicense = new Popups::PopupLicense(this);
     m_popupTimeAdjust = new Popups::PopupTimeAdjust(this);
@@ -186,11 +186,8 @@ void MainWindow::ConnectOvenLink()
     connect(&m_furnace, &GlobalElements::FurnaceState::ClockChanged, this, &MainWindow::DrawClock);
     connect(h, &MessageHandler::SignalGuiState, this, &MainWindow::SlotSetRecvGuiState);
     // The controller's "esttime" is the clock time the firing ends at, and says so.
-    connect(&m_furnace, &GlobalElements::FurnaceState::FiringEndChanged, this, [this](const QString &end) {
-        const QString text = Caption(Captions::EndeUm).arg(end);
-        ui->widget_showPlayTime->SetText(text);
-        ui->widget_showProcessTime->SetText(text);
-    });
+    connect(&m_furnace, &GlobalElements::FurnaceState::FiringEndChanged, this,
+            [this](const QString &end) { ui->widget_showPlayTime->SetText(Caption(Captions::EndeUm).arg(end)); });
     connect(h, &MessageHandler::SignalOvenConnected, this, &MainWindow::Statemachine);
     connect(&m_furnace, &GlobalElements::FurnaceState::SelftestChanged, this,
             [this](GlobalElements::FurnaceState::SelftestRow row, const QString &result) {

@@ -8,6 +8,7 @@
 #include "faults/selftestprogress.h"
 #include "process/firingrules.h"
 #include "process/jobcode.h"
+#include "process/firingsummary.h"
 #include "records/firingrecorder.h"
 #include "settings/devicereport.h"
 #include "settings/usbsession.h"
@@ -226,7 +227,6 @@ private:
     void FillProgramPage(GlobalElements::Program *program, bool play);
     void PreparePageProcess(int from);
     // The caption under the result symbol, in the language now shown; none without a result.
-    void ShowResultCaption(const char *source);
     void ShowProcessEndButtons();
     void RemoveAutostartNote();
     void SetPlayButtonCaptions();
@@ -254,6 +254,7 @@ private:
     GlobalElements::FurnaceState m_furnace;
     // The job code for the next start, entered on the program page; follows the furnace's page.
     Process::JobCode m_jobCode{m_furnace};
+    Process::FiringSummary m_firingSummary;
     // The page title as shown: the program's name on the program, process and editor pages.
     QString m_title;
     // The firing history, shown over the current page (records/mainwindow_records.cpp).
@@ -315,7 +316,6 @@ private:
     QString m_shownProgramName;
     // Set while Slot_ShowChoosenProgram switches to the page it has just filled.
     bool m_programPageFilled = false;
-    const char *m_resultSource = nullptr;
 
     // Navigation memory; the current page is the furnace model's.
     PageOrigins m_origins;

@@ -17,7 +17,7 @@ HeatReport ParseHeatReport(const QString &report)
         return info;
     info.kind = HeatReport::Kind::Progress;
     info.program = fields.at(0);
-    info.minutesLeft = fields.at(1).toLongLong();
+    info.minutesLeft = fields.at(1).toLongLong(&info.minutesKnown);
     info.stageText = fields.at(3);
     if (fields.at(2) == QLatin1String("pre"))
         info.phase = HeatReport::Phase::PreDry;

@@ -17,7 +17,8 @@ struct HeatReport
     enum class Phase { Heat, Hold, PreDry };
     Kind kind = Kind::Unreadable;
     QString program;
-    qint64 minutesLeft = 0; // not a number reads as 0
+    qint64 minutesLeft = 0;    // not a number reads as 0
+    bool minutesKnown = false; // the field was a number
     Phase phase = Phase::Heat;
     unsigned int stage = 0; // pre-drying, and a stage that is not a number, read as 0
     QString stageText;      // the controller's word, handed on to the chart as it came

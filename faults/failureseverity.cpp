@@ -1,5 +1,9 @@
 #include "faults/failureseverity.h"
 
+#include "app/furnacestate.h"
+
+#include <QCoreApplication>
+
 namespace ovra {
 namespace GlobalElements {
 namespace FailureSeverity {
@@ -33,6 +37,41 @@ QString WorstIcon(const QStringList &codes)
         }
     }
     return icon;
+}
+
+QString Word(const QString &code)
+{
+    switch (code.size()) {
+    case severe: return QCoreApplication::translate("ovra::GlobalElements::FailureSeverity", "Schwerer Fehler");
+    case medium: return QCoreApplication::translate("ovra::GlobalElements::FailureSeverity", "Warnung");
+    case information: return QCoreApplication::translate("ovra::GlobalElements::FailureSeverity", "Hinweis");
+    default: return QString();
+    }
+}
+
+QString Line(const QString &code)
+{
+    const QString word = Word(code);
+    return word.isEmpty() ? code : code + QStringLiteral("  ") + word;
+}
+
+QString Lines(const QString &codesOneALine)
+{
+    QStringList lines = codesOneALine.split(QLatin1Char('\n'));
+    const bool closed = codesOneALine.endsWith(QLatin1Char('\n'));
+    if (closed)
+        lines.removeLast();
+    for (QString &line : lines)
+        line = Line(line);
+    return lines.join(QLatin1Char('\n')) + (closed ? QStringLiteral("\n") : QString());
+}
+
+QString History(const QList<FailureEntry> &failures)
+{
+    QString lines;
+    for (const FailureEntry &f : failures)
+        lines += f.date + QStringLiteral(", ") + f.time + QStringLiteral(": ") + Line(f.code) + QLatin1Char('\n');
+    return lines;
 }
 
 } // namespace FailureSeverity

@@ -83,10 +83,7 @@ void MainWindow::SlotErrorHandling(const QString &codes)
     // The model has taken the codes already, each with the controller's clock.
     for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts))
         m_errorHandler->AddError(code);
-    QString lines;
-    for (const GlobalElements::FailureEntry &f : m_furnace.FailureLog())
-        lines += f.date + QStringLiteral(", ") + f.time + QStringLiteral(": ") + f.code + QLatin1Char('\n');
-    ui->textEdit_FailureList->setPlainText(lines);
+    ui->textEdit_FailureList->setPlainText(GlobalElements::FailureSeverity::History(m_furnace.FailureLog()));
 }
 
 void MainWindow::SlotResetError(const QString &codes)
@@ -111,9 +108,10 @@ void MainWindow::ErrorHandling()
     ui->pushButton_infoMainMenu->setIcon(GlobalElements::IconCache::Get(icon));
     ui->widget_processError->setStyleSheet(icon.isEmpty() ? QString()
                                                           : QStringLiteral("background-image: url(%1);").arg(icon));
+    // The menus' small boxes keep the codes alone: their symbol says the worst severity.
     ui->textEdit_test->setPlainText(list);
     ui->textEdit_mainMenu->setPlainText(list);
-    m_popupFailure->SetFailurePopupText(m_errorHandler->GetProcessErrorList());
+    m_popupFailure->SetFailurePopupText(GlobalElements::FailureSeverity::Lines(m_errorHandler->GetProcessErrorList()));
 }
 
 void MainWindow::SlotDeleteFailure()

@@ -1,6 +1,7 @@
 #include "faults/popupfailure.h"
 
 #include "faults/errorhandler.h"
+#include "faults/failureseverity.h"
 #include "ui_popupfailure.h"
 #include "widgets/confirmbuttons.h"
 
@@ -40,7 +41,7 @@ QString PopupFailure::GetFailurePopupText() const
 void PopupFailure::SlotErrorListChanged()
 {
     if (m_errors)
-        SetFailurePopupText(m_errors->GetProcessErrorList());
+        SetFailurePopupText(GlobalElements::FailureSeverity::Lines(m_errors->GetProcessErrorList()));
 }
 
 } // namespace Popups

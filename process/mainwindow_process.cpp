@@ -42,6 +42,12 @@ void MainWindow::ConnectProcessLink()
     connect(&m_furnace, &FurnaceState::FiringProgress, this, &MainWindow::SlotHeatfileInProgress);
     connect(&m_furnace, &FurnaceState::FiringOver, this, &MainWindow::SlotHeatfileInProgress);
     connect(&m_furnace, &FurnaceState::FiringEnded, this, &MainWindow::SlotSetHeatProcessResult);
+    m_firingSummary.Observe(m_furnace);
+    ui->widget_processSummary->Follow(&m_firingSummary, [this] { return m_furnace.IsFahrenheit(); });
+    ui->widget_processGlance->Follow(&m_furnace, [this](const QString &name) {
+        GlobalElements::Program *program = m_programHandler->GetProgramByName(name);
+        return program != nullptr ? program->GetMatrix() : nullptr;
+    });
     m_firingRecorder.Observe(
         m_furnace,
         [this](const QString &name) {
@@ -144,10 +150,8 @@ void MainWindow::PreparePageProcess(int from)
     if (!m_furnace.IsFiring())
         ui->widget_chart_process->ClearProgress();
     // Entered anew, the page shows no result of an earlier firing; repeated, it keeps its own.
-    if (from != Page::ProcessProg) {
-        ui->label_processResult->setStyleSheet(QString());
-        ShowResultCaption(nullptr);
-    }
+    if (from != Page::ProcessProg)
+        m_firingSummary.Dismiss();
     ui->widget_temp->setVisible(false);
     ui->widget_processErrorInfo->setEnabled(false);
     ui->widget_processErrorInfo->setVisible(false);
@@ -156,6 +160,7 @@ void MainWindow::PreparePageProcess(int from)
     ui->widget_backProcessProg->setVisible(false);
     ui->widget_doorProcessProg->setVisible(false);
     ui->widget_stopProcessProg->setVisible(true);
+    ui->widget_stopProcessProg->SetText(Caption(Captions::Stopp));
     ui->widget_processPreDryInfo->setVisible(false);
     ui->widget_processPreDryInfo->SetChecked(false);
     ui->widget_processPreDryInfo->setAttribute(Qt::WA_TransparentForMouseEvents, true);
@@ -226,17 +231,10 @@ void MainWindow::SlotHeatfileInProgress()
 void MainWindow::SlotSetHeatProcessResult(Communication::FiringResult result)
 {
     using Communication::FiringResult;
-    if (result == FiringResult::Stopped)
-        return; // drawn by the stop itself
-    if (result == FiringResult::Success) {
-        ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/success.png);"));
+    if (result == FiringResult::Success)
         ui->widget_chart_process->UpdateChart(99, QStringLiteral("done"), m_furnace.Shown().value);
-        ShowResultCaption(Captions::ProgrammBeendet);
-    } else {
-        ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
-        ShowResultCaption(Captions::ProgrammAbgebrochen);
-    }
-    ShowProcessEndButtons();
+    if (result != FiringResult::Stopped) // the stop draws its own end
+        ShowProcessEndButtons();
 }
 
 void MainWindow::SlotReqStopHeatfile(bool confirmed)
@@ -244,9 +242,6 @@ void MainWindow::SlotReqStopHeatfile(bool confirmed)
     if (!confirmed)
         return;
     m_furnace.EndFiring(Communication::FiringResult::Stopped);
-    // The result symbol is only ever success or abort, so a stop has no failure symbol to keep.
-    ui->label_processResult->setStyleSheet(QStringLiteral("background-image: url(:/Prozess/abort.png);"));
-    ShowResultCaption(Captions::ProgrammAbgebrochen);
     m_messageHandler->SetRequest(Requests::Stop());
     ShowProcessEndButtons();
 }
@@ -259,23 +254,13 @@ void MainWindow::ShowProcessEndButtons()
     ui->widget_doorProcessProg->setVisible(true);
 }
 
-void MainWindow::ShowResultCaption(const char *source)
-{
-    m_resultSource = source;
-    QString text = source != nullptr ? Caption(source) : QString();
-    // The newest failure of the firing is the one that ended it.
-    const QString failure = m_errorHandler->GetProcessErrorList().section(QLatin1Char('\n'), 0, 0);
-    if (source == Captions::ProgrammAbgebrochen && !failure.isEmpty())
-        text += QLatin1Char('\n') + Caption(Captions::FehlerCode).arg(failure);
-    ui->label_processResultText->setText(text);
-}
-
 void MainWindow::SetPlayButtonCaptions()
 {
     ui->widget_timerPreDry->SetText(Caption(Captions::Trocknen));
     ui->widget_timerPlayProg->SetText(Caption(Captions::Startzeit));
     ui->widget_doorPlayNewProg->SetText(Caption(Captions::Tuer));
     ui->widget_playNewProg->SetText(Caption(Captions::Start));
+    ui->widget_stopProcessProg->SetText(Caption(Captions::Stopp));
 }
 
 void MainWindow::SlotChartClicked()
@@ -305,9 +290,8 @@ void MainWindow::CalculateProcessTime(GlobalElements::Program *program, unsigned
 
 void MainWindow::DisplayRemainingTime(qint64 minutes)
 {
-    const QString end = Caption(Captions::EndeUm).arg(Process::ProcessTime::EndOfDay(m_furnace.Time(), minutes));
-    ui->widget_showPlayTime->SetText(end);
-    ui->widget_showProcessTime->SetText(end);
+    ui->widget_showPlayTime->SetText(
+        Caption(Captions::EndeUm).arg(Process::ProcessTime::EndOfDay(m_furnace.Time(), minutes)));
 }
 
 void MainWindow::UpdateProcessTime()
@@ -424,7 +408,7 @@ void MainWindow::SlotDoorIsolationInsert()
 
 void MainWindow::SlotTempReceived()
 {
-    for (GlobalElements::DisplayElementIcon *shown : {ui->widget_tempPlay, ui->widget_tempProcess, ui->widget_temp})
+    for (GlobalElements::DisplayElementIcon *shown : {ui->widget_tempPlay, ui->widget_temp})
         shown->SetText(m_furnace.Shown().text);
     CheckTempDoor();
 }

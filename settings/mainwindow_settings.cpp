@@ -3,6 +3,7 @@
 #include "app/mainwindow.h"
 #include "communication/messagehandler.h"
 #include "communication/requests.h"
+#include "faults/failureseverity.h"
 #include "popups/popupbase.h"
 #include "popups/popuplicense.h"
 #include "popups/popuptimeadjust.h"
@@ -76,7 +77,10 @@ void MainWindow::RetranslateWindow()
     PreparePageUSBMenu();
     SetDeviceDataCaptions();
     SetSelftestCaptions();
-    ShowResultCaption(m_resultSource);
+    ui->textEdit_FailureList->setPlainText(GlobalElements::FailureSeverity::History(m_furnace.FailureLog()));
+    ErrorHandling();
+    ui->widget_processGlance->Refresh();
+    ui->widget_processSummary->Refresh();
     SetPlayButtonCaptions();
 }
 

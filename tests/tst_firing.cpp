@@ -22,8 +22,10 @@
 #include "widgets/iconbutton.h"
 #include "widgets/programbutton.h"
 
+#include <QLabel>
 #include <QLineSeries>
 #include <QListView>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTcpSocket>
 #include <QtTest>
@@ -45,6 +47,7 @@ private slots:
     void programPageIsRebuiltOnEntry();
     void progressReportsDriveTheProcessPage();
     void resultAndStop();
+    void processPageAtAGlance();
     void chartOpensTheEditorOnlyWhileFiring();
     void saveAtOnceEndsWithTheEditor();
     void hotDoorWarning();
@@ -204,7 +207,7 @@ void TestFiring::progressReportsDriveTheProcessPage()
     send("hpinfo==Speed;95;pre;pre");
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
     QVERIFY(!m_panel->Enabled("widget_exitProcessProg"));
-    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("Ende 11:35"));
+    QCOMPARE(m_panel->Text("label_glanceEnd"), QStringLiteral("Ende 11:35"));
 
     send("temp==773$$hpinfo==Speed;80;1;heat");
     QVERIFY(!m_panel->Shown("widget_processPreDryInfo"));
@@ -218,7 +221,7 @@ void TestFiring::progressReportsDriveTheProcessPage()
     QCOMPARE(holds->restarts, 1);
 
     send("hpinfo==Speed;1;2"); // fewer than four fields: dropped
-    QCOMPARE(m_panel->Text("widget_showProcessTime"), QStringLiteral("Ende 11:20"));
+    QCOMPARE(m_panel->Text("label_glanceEnd"), QStringLiteral("Ende 11:20"));
     send("hpinfo==Unknown;5;1;heat"); // a name not in the store switches nothing
     QCOMPARE(m_window->CurrentPage(), Page::ProcessProg);
 
@@ -245,9 +248,10 @@ void TestFiring::resultAndStop()
     QVERIFY(!m_panel->Shown("widget_stopProcessProg"));
     QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm beendet"));
 
-    send("error==E201$$hpfailed"); // the failure that ended the firing is named under the symbol
-    QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
-    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen\nFehler E201"));
+    send("error==E201$$hpfailed"); // the failure that ended the firing is named beside the symbol
+    QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("border-image: url(:/Prozess/abort.png);"));
+    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen"));
+    QCOMPARE(m_panel->Text("label_summaryFailures"), QStringLiteral("E201  Warnung"));
 
     // The stop asks first: the cross keeps the firing, OK stops it and shows the abort.
     send("guistate==3$$hpinfo==Speed;90;1;heat");
@@ -264,8 +268,46 @@ void TestFiring::resultAndStop()
     QCOMPARE(send("temp==293"), QStringList{QStringLiteral("hpstop")});
     QVERIFY(!m_window->Furnace().IsFiring());
     QCOMPARE(m_window->Furnace().CurrentFiring().result, ovra::Communication::FiringResult::Stopped);
-    QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QCOMPARE(m_panel->Style("label_processResult"), QStringLiteral("border-image: url(:/Prozess/abort.png);"));
     QVERIFY(!m_panel->Shown("widget_stopProcessProg"));
+}
+
+void TestFiring::processPageAtAGlance()
+{
+    // A firing the controller runs: pre-dry, a ramp, the last hold, then its end with failures.
+    send("guistate==3$$date==20261122$$time==0900$$temp==293");
+    send("hpinfo==Speed;130;pre;pre");
+    QCOMPARE(m_panel->Text("label_glanceTemperature"), QStringLiteral("20°C"));
+    QCOMPARE(m_panel->Text("label_glanceStage"), QStringLiteral("Vortrocknen"));
+    QCOMPARE(m_panel->Text("label_glanceSegment"), QString());
+    QCOMPARE(m_panel->Text("label_glanceRemaining"), QStringLiteral("noch 2:10 h"));
+    QVERIFY(!m_panel->Shown("widget_processSummary"));
+    QCOMPARE(m_panel->Text("widget_stopProcessProg"), QStringLiteral("Stopp"));
+
+    send("time==0942$$temp==1273$$hpinfo==Speed;88;1;heat");
+    QCOMPARE(m_panel->Text("label_glanceStage"), QStringLiteral("Aufheizen"));
+    QCOMPARE(m_panel->Text("label_glanceSegment"), QStringLiteral("Segment 1 von 2"));
+    QCOMPARE(m_panel->Text("label_glanceRemaining"), QStringLiteral("noch 1:28 h"));
+    QVERIFY(m_panel->Shown("progressBar_glance"));
+    QVERIFY(m_panel->Find<QProgressBar>("progressBar_glance")->value() > 0);
+
+    send("time==1110$$temp==1723$$hpinfo==Speed;0;2;hold$$error==F07,E201$$hpfailed$$hpinfo==");
+    QVERIFY(m_panel->Shown("widget_processSummary"));
+    QVERIFY(!m_panel->Shown("progressBar_glance"));
+    QCOMPARE(m_panel->Text("label_glanceStage"), QString());
+    QCOMPARE(m_panel->Text("label_processResultText"), QStringLiteral("Programm abgebrochen"));
+    QCOMPARE(m_panel->Text("label_summaryFailures"), QStringLiteral("E201  Warnung\nF07  Schwerer Fehler"));
+    QStringList shown;
+    for (const QLabel *label : m_panel->Widget("widget_processSummary")->findChildren<QLabel *>())
+        shown << label->text();
+    for (const char *value : {"2:10 h", "11:10", "1450°C"})
+        QVERIFY2(shown.contains(QString::fromUtf8(value)), value);
+
+    // Leaving the page puts the summary away; coming back shows none.
+    m_panel->Tap("widget_backProcessProg");
+    send("guistate==18");
+    QCOMPARE(m_panel->CurrentPage(), Page::ProcessProg);
+    QVERIFY(!m_panel->Shown("widget_processSummary"));
 }
 
 void TestFiring::chartOpensTheEditorOnlyWhileFiring()

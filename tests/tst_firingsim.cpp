@@ -110,7 +110,7 @@ void TestFiringWithSimulator::firings()
     auto *stop = window.findChild<ovra::Popups::PopupStop *>();
     QTRY_VERIFY(stop->isVisible());
     PanelView::Click(stop->findChild<QPushButton *>(QStringLiteral("pushButton_OK")));
-    QCOMPARE(view.Style("label_processResult"), QStringLiteral("background-image: url(:/Prozess/abort.png);"));
+    QCOMPARE(view.Style("label_processResult"), QStringLiteral("border-image: url(:/Prozess/abort.png);"));
     QTRY_VERIFY_WITH_TIMEOUT(sim.Printed(QStringLiteral("firing stopped")), 5000);
     // Both firings are on record: the first with a sample for every report of its run.
     const ovra::Records::FiringHistory history(ovra::Records::FiringStore::FileIn(view.Home()));

@@ -265,7 +265,7 @@ void TestMainWindow::failuresShowTheWorstSymbol()
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/schwer.png);"));
     QVERIFY(m_panel->Find<QTextEdit>("textEdit_FailureList")
                 ->toPlainText()
-                .startsWith(QStringLiteral("22.11.2026, 09:05: E12\n")));
+                .startsWith(QStringLiteral("22.11.2026, 09:05: E12  Schwerer Fehler\n")));
     send("reseterror==E12");
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/mittel.png);"));
 

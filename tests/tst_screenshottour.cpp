@@ -31,14 +31,16 @@ void TestScreenshotTour::everyPageAndPopupIsRendered()
     // Kept in the build folder so that a person can look at them after the run.
     const QString folder = QStringLiteral(OVRA_BINARY_DIR "/screenshots");
     const QStringList files = ovra::Tools::ScreenshotTour(&window, folder).Run();
-    // Splash, 26 pages, 12 further views of programs and firings, the stick menu, two
-    // full-screen notices, every popup of the window, and the main pages and the firing
-    // history in each of the tour's languages.
+    // Splash, 26 pages, 14 further views of programs and firings, the stick menu, two
+    // full-screen notices, every popup of the window, the main pages and the firing history in
+    // each of the tour's languages, and a firing with its result in each unit and language of
+    // the process page.
     const int popups = window.findChildren<QDialog *>().size();
     const int languages =
         ovra::Tools::ScreenshotTour::TourLanguages().size() *
         (ovra::Tools::ScreenshotTour::TourPages().size() + ovra::Tools::ScreenshotTour::historyPictures);
-    QCOMPARE(files.size(), 1 + 26 + 12 + 1 + 2 + popups + languages);
+    const int processPages = ovra::Tools::ScreenshotTour::ProcessLanguages().size() * 2 * 2;
+    QCOMPARE(files.size(), 1 + 26 + 14 + 1 + 2 + popups + languages + processPages);
     // The main menu in Spanish is not the German one, nor Japanese the Chinese one.
     auto picture = [&files](const QString &suffix) {
         for (const QString &file : files) {

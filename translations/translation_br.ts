@@ -99,6 +99,10 @@ e reinicie o processo.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>A lista de erros será excluída definitivamente!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e mais %1</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ e reinicie o processo.</translation>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Definir horário de início</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Erro grave</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Informação</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Bloqueado: restam %1 s</translation>
         <translation>Programa interrompido</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Erro %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Secagem</translation>
     </message>
@@ -499,6 +514,10 @@ Bloqueado: restam %1 s</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Registros de queima</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Parar</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Voltar?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR indisponível</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pré-secagem</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Patamar</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Aquecimento</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segmento %1 de %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segmento %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>faltam %1:%2 h</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Temperatura máxima</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e mais %1</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Sem erros</translation>
     </message>
 </context>
 <context>

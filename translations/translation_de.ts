@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>Fehlerliste wird endgültig gelöscht!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>und %1 weitere</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Startzeit festlegen</source>
         <translation>Startzeit festlegen</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Schwerer Fehler</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Gesperrt: noch %1 s</translation>
         <translation>Programm abgebrochen</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Fehler %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Trocknen</translation>
     </message>
@@ -499,6 +514,10 @@ Gesperrt: noch %1 s</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Brennprotokolle</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Stopp</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Zurück?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR Code nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Vortrocknen</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Aufheizen</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segment %1 von %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segment %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>noch %1:%2 h</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Höchste Temperatur</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Keine Fehler</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@ and restart the process.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>The error list will be deleted permanently!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>and %1 more</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ and restart the process.</translation>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Set start time</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Severe error</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Notice</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Locked: %1 s left</translation>
         <translation>Program aborted</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Error %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Dry</translation>
     </message>
@@ -499,6 +514,10 @@ Locked: %1 s left</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Firing records</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Stop</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Go back?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR code not available</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pre-drying</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Holding</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Heating</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segment %1 of %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segment %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>%1:%2 h left</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Duration</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Highest temperature</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>No errors</translation>
     </message>
 </context>
 <context>

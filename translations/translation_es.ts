@@ -99,6 +99,10 @@ y reinicie el proceso.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>¡La lista de errores se borrará definitivamente!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>y %1 más</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ y reinicie el proceso.</translation>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Fijar hora de inicio</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Error grave</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Información</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Bloqueado: quedan %1 s</translation>
         <translation>Programa cancelado</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Error %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Secar</translation>
     </message>
@@ -499,6 +514,10 @@ Bloqueado: quedan %1 s</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Registros de cocción</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Parar</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR no disponible</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Presecado</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Mantenimiento</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Calentamiento</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segmento %1 de %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segmento %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>quedan %1:%2 h</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Temperatura máxima</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Sin errores</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@ puis relancez le processus.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>La liste des erreurs sera définitivement supprimée&#xa0;!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>et %1 de plus</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ puis relancez le processus.</translation>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Définir l&apos;heure de départ</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Erreur grave</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Bloqué : encore %1 s</translation>
         <translation>Programme interrompu</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Erreur %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Séchage</translation>
     </message>
@@ -499,6 +514,10 @@ Bloqué : encore %1 s</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Journaux de cuisson</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Arrêt</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Revenir en arrière&#xa0;?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Code QR non disponible</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Pré-séchage</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Palier</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Chauffe</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segment %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segment %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>reste %1:%2 h</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Température maximale</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Aucune erreur</translation>
     </message>
 </context>
 <context>

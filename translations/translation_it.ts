@@ -99,6 +99,10 @@ e riavviare il processo.</translation>
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>L&apos;elenco errori verrà eliminato definitivamente!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e altri %1</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ e riavviare il processo.</translation>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Imposta ora di avvio</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Errore grave</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Avvertenza</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Informazione</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Bloccato: ancora %1 s</translation>
         <translation>Programma interrotto</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Errore %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Essiccare</translation>
     </message>
@@ -499,6 +514,10 @@ Bloccato: ancora %1 s</translation>
     <message>
         <source>Brennprotokolle</source>
         <translation>Registri di cottura</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Stop</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Tornare indietro?</translation>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Codice QR non disponibile</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Preessiccazione</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Mantenimento</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Riscaldamento</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Segmento %1 di %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Segmento %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>ancora %1:%2 h</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Temperatura massima</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Nessun errore</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>エラーリストを完全に削除します！</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>他 %1 件</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Startzeit festlegen</source>
         <translation>開始時刻の設定</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>重大なエラー</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>情報</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Gesperrt: noch %1 s</source>
         <translation>プログラム中止</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>エラー %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>乾燥</translation>
     </message>
@@ -499,6 +514,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Brennprotokolle</source>
         <translation>焼成記録</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>停止</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QRコードは利用できません</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>予備乾燥</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>昇温</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>セグメント %1/%2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>セグメント %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>残り %1:%2 時間</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>所要時間</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>最高温度</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>他 %1 件</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>エラーなし</translation>
     </message>
 </context>
 <context>

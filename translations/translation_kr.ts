@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>오류 목록이 영구 삭제됩니다!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>외 %1건</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Startzeit festlegen</source>
         <translation>시작 시간 설정</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>심각한 오류</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>안내</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Gesperrt: noch %1 s</source>
         <translation>프로그램 중단</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>오류 %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>건조</translation>
     </message>
@@ -499,6 +514,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Brennprotokolle</source>
         <translation>소성 기록</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>정지</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR 코드를 사용할 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>예비 건조</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>유지</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>승온</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>세그먼트 %1/%2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>세그먼트 %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>남은 시간 %1:%2</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>소요 시간</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>최고 온도</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>외 %1건</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>오류 없음</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>Список ошибок будет удалён безвозвратно!</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>и ещё %1</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Startzeit festlegen</source>
         <translation>Задать время старта</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>Серьёзная ошибка</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Примечание</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Gesperrt: noch %1 s</source>
         <translation>Программа прервана</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>Ошибка %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>Сушка</translation>
     </message>
@@ -499,6 +514,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Brennprotokolle</source>
         <translation>Журнал обжигов</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>Стоп</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR-код недоступен</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>Предсушка</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>Выдержка</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>Нагрев</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>Сегмент %1 из %2</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>Сегмент %1</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>осталось %1:%2 ч</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>Длительность</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>Окончание</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>Макс. температура</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>и ещё %1</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>Ошибок нет</translation>
     </message>
 </context>
 <context>

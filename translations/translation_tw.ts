@@ -99,6 +99,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Fehlerliste wird endgültig gelöscht!</source>
         <translation>錯誤清單將被永久刪除！</translation>
     </message>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>另有 %1 條</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -183,6 +187,21 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Startzeit festlegen</source>
         <translation>設定啟動時間</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::GlobalElements::FailureSeverity</name>
+    <message>
+        <source>Schwerer Fehler</source>
+        <translation>嚴重錯誤</translation>
+    </message>
+    <message>
+        <source>Warnung</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>提示</translation>
     </message>
 </context>
 <context>
@@ -473,10 +492,6 @@ Gesperrt: noch %1 s</source>
         <translation>程式已中止</translation>
     </message>
     <message>
-        <source>Fehler %1</source>
-        <translation>錯誤 %1</translation>
-    </message>
-    <message>
         <source>Trocknen</source>
         <translation>乾燥</translation>
     </message>
@@ -499,6 +514,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Brennprotokolle</source>
         <translation>燒結記錄</translation>
+    </message>
+    <message>
+        <source>Stopp</source>
+        <translation>停止</translation>
     </message>
 </context>
 <context>
@@ -536,6 +555,59 @@ Zurück?</source>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR 碼無法使用</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringGlance</name>
+    <message>
+        <source>Vortrocknen</source>
+        <translation>預乾燥</translation>
+    </message>
+    <message>
+        <source>Halten</source>
+        <translation>保溫</translation>
+    </message>
+    <message>
+        <source>Aufheizen</source>
+        <translation>升溫</translation>
+    </message>
+    <message>
+        <source>Segment %1 von %2</source>
+        <translation>第 %1 段，共 %2 段</translation>
+    </message>
+    <message>
+        <source>Segment %1</source>
+        <translation>第 %1 段</translation>
+    </message>
+    <message>
+        <source>noch %1:%2 h</source>
+        <translation>剩餘 %1:%2 小時</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummary</name>
+    <message>
+        <source>Dauer</source>
+        <translation>時長</translation>
+    </message>
+    <message>
+        <source>Ende</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Höchste Temperatur</source>
+        <translation>最高溫度</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Process::FiringSummaryView</name>
+    <message>
+        <source>und %1 weitere</source>
+        <translation>另有 %1 條</translation>
+    </message>
+    <message>
+        <source>Keine Fehler</source>
+        <translation>無錯誤</translation>
     </message>
 </context>
 <context>

@@ -231,13 +231,22 @@ QStringList ScreenshotTour::Run()
     m_window->Slot_ShowChoosenProgram(store->GetProgramByName(QStringLiteral("Mein Langzeit")), Page::ProcessProg);
     Feed("temp==1473$$hpinfo==Mein Langzeit;45;2;hold");
     Save(numbered(QStringLiteral("process_fahrenheit")));
-    Feed("hpsuccess$$hpinfo==");
+    Feed("time==1020$$hpsuccess$$hpinfo==");
     Save(numbered(QStringLiteral("process_success")));
-    Feed("unit==c");
+    Feed("unit==c$$time==0935");
     m_window->Slot_ShowChoosenProgram(speed, Page::ProcessProg);
     Feed("temp==1073$$hpinfo==Zirkon Speed;90;1;heat");
-    Feed("hpfailed$$hpinfo==");
+    Feed("time==0950$$hpfailed$$hpinfo==");
     Save(numbered(QStringLiteral("process_abort")));
+    Feed("time==0935");
+    // Pre-drying, then a firing that ends with a failure of each severity.
+    m_window->Slot_ShowChoosenProgram(speed, Page::ProcessProg);
+    Feed("temp==333$$hpinfo==Zirkon Speed;142;pre;pre");
+    Save(numbered(QStringLiteral("process_predry")));
+    Feed("temp==1800$$time==1152$$hpinfo==Zirkon Speed;25;3;hold");
+    Feed("error==F07,E201,I3050$$hpfailed$$hpinfo==");
+    Save(numbered(QStringLiteral("process_result_failures")));
+    Feed("time==0935");
 
     // The job code typed on the panel's keyboard.
     m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
@@ -280,6 +289,7 @@ QStringList ScreenshotTour::Run()
         SavePopup(numbered(QStringLiteral("popup_") + name), popup);
     }
     SaveLanguages(numbered);
+    SaveProcessLanguages(numbered);
     return m_written;
 }
 
@@ -310,6 +320,29 @@ QList<int> ScreenshotTour::TourPages()
 {
     return {Page::MainMenu,   Page::Progs,    Page::Settings,    Page::Service,  Page::Lists,   Page::LangSelect,
             Page::UnitSelect, Page::DateTime, Page::DeviceData2, Page::Selftest, Page::NewProg, Page::PlayProg};
+}
+
+QStringList ScreenshotTour::ProcessLanguages()
+{
+    return {QStringLiteral("deutsch"),  QStringLiteral("englischUS"), QStringLiteral("franzoesisch"),
+            QStringLiteral("russisch"), QStringLiteral("japanisch"),  QStringLiteral("chinesishc")};
+}
+
+void ScreenshotTour::SaveProcessLanguages(const std::function<QString(const QString &)> &numbered)
+{
+    GlobalElements::Program *speed = m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Zirkon Speed"));
+    for (const QString &language : ProcessLanguages()) {
+        Feed("lang==" + language.toLatin1());
+        for (const char *unit : {"c", "f"}) {
+            Feed(QByteArray("unit==") + unit + "$$time==0935");
+            m_window->Slot_ShowChoosenProgram(speed, Page::ProcessProg);
+            Feed("temp==1373$$hpinfo==Zirkon Speed;74;2;hold");
+            Save(numbered(QStringLiteral("%1_%2_process").arg(language, QLatin1String(unit))));
+            Feed("temp==1528$$time==1104$$error==F07,E201$$hpsuccess$$hpinfo==");
+            Save(numbered(QStringLiteral("%1_%2_process_result").arg(language, QLatin1String(unit))));
+        }
+    }
+    Feed("unit==c$$time==0935$$lang==deutsch");
 }
 
 void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)> &numbered)

@@ -33,6 +33,8 @@ public:
     // The pages shown in each of them, then the firing history and one firing in it.
     static QList<int> TourPages();
     static constexpr int historyPictures = 2;
+    // The languages the process page is shown in, a firing and its result, in °C and °F.
+    static QStringList ProcessLanguages();
 
 private:
     void Feed(const QByteArray &fields);
@@ -45,6 +47,7 @@ private:
     bool Save(const QString &name);
     bool SavePopup(const QString &name, QDialog *popup);
     void SaveLanguages(const std::function<QString(const QString &)> &numbered);
+    void SaveProcessLanguages(const std::function<QString(const QString &)> &numbered);
 
     Mainwindow::MainWindow *m_window;
     QString m_folder;
