@@ -6,7 +6,7 @@ namespace ovra {
 namespace Popups {
 
 PopupDeleteFailureList::PopupDeleteFailureList(QWidget *parent)
-    : PopupConfirm(Role::Danger, parent, "pushButton_OKDel", "pushButton_XDel")
+    : PopupConfirm(Role::Destructive, parent, "pushButton_OKDel", "pushButton_XDel")
 {
     connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
         if (confirmed)
@@ -17,7 +17,9 @@ PopupDeleteFailureList::PopupDeleteFailureList(QWidget *parent)
 
 void PopupDeleteFailureList::Translate()
 {
-    SetTexts(QCoreApplication::translate("PopupDeleteFailureList", "Fehlerliste wird endgültig gelöscht!"));
+    SetTexts(QCoreApplication::translate("PopupDeleteFailureList", "Fehler löschen"),
+             QCoreApplication::translate("PopupDeleteFailureList", "Fehlerliste wird endgültig gelöscht!"),
+             QCoreApplication::translate("PopupDeleteFailureList", "Löschen"));
 }
 
 } // namespace Popups

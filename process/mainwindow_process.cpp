@@ -145,7 +145,6 @@ void MainWindow::PreparePageProcess(int from)
         ui->label_processResult->setStyleSheet(QString());
         ShowResultCaption(nullptr);
     }
-    ui->widget_temp->setVisible(false);
     ui->widget_processErrorInfo->setEnabled(false);
     ui->widget_processErrorInfo->setVisible(false);
     ui->widget_processError->setStyleSheet(QStringLiteral("background: transparent;"));

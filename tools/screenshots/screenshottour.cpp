@@ -16,6 +16,7 @@
 #include "widgets/button.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -122,6 +123,7 @@ QStringList ScreenshotTour::Run()
     Feed("error==E1234,E201");
     FeedPrograms();
     const qint64 recorded = SeedFiringRecords();
+    m_recorded = recorded;
     Feed("guistate==26"); // leaves the device data page, which ends commissioning
     Feed("guistate==12");
     Feed("guistate==26");
@@ -230,21 +232,48 @@ QStringList ScreenshotTour::Run()
     Save(numbered(QStringLiteral("usb_stick")));
     m_window->GenerateQRCode();
 
-    m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+    SavePopups(numbered, QString());
+    SaveLanguages(numbered);
+    return m_written;
+}
+
+void ScreenshotTour::SetLanguages(const QStringList &keywords, bool everything)
+{
+    m_languages = keywords;
+    m_everything = everything;
+}
+
+void ScreenshotTour::SavePopups(const std::function<QString(const QString &)> &numbered, const QString &prefix)
+{
+    m_window->Slot_ShowChoosenProgram(m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Zirkon Speed")),
+                                      Page::PlayProg);
     const QList<QDialog *> popups = m_window->findChildren<QDialog *>();
     for (QDialog *popup : popups) // one at a time, each over the page alone
         popup->close();
     for (QDialog *popup : popups) {
         if (auto *usb = qobject_cast<Popups::PopupUSB *>(popup)) {
-            usb->SetText(QStringLiteral("  Firmware Aktualisierung...\n  Bitte warten..."));
+            usb->SetText(QCoreApplication::translate("ovra::MainWindow::MainWindow",
+                                                     "  Firmware Aktualisierung...\n  Bitte warten..."));
             usb->SlotUpdateProgress(QStringLiteral("37%"));
+            usb->SetBusy(true);
         }
         const QString name =
             QString::fromLatin1(popup->metaObject()->className()).section(QStringLiteral("::"), -1).toLower();
-        SavePopup(numbered(QStringLiteral("popup_") + name), popup);
+        SavePopup(numbered(prefix + QStringLiteral("popup_") + name), popup);
     }
-    SaveLanguages(numbered);
-    return m_written;
+}
+
+void ScreenshotTour::SaveExtras(const std::function<QString(const QString &)> &numbered, const QString &prefix)
+{
+    Ui::MainWindow *ui = m_window->GetUi();
+    m_window->Statemachine(Page::DisplayManufacturer);
+    Save(numbered(prefix + QStringLiteral("filtermanufacturer")));
+    m_window->Statemachine(Page::Settings);
+    ui->widget_SettingsButtonFiringHistory->GetPushButtonObject()->click();
+    Save(numbered(prefix + QStringLiteral("firinghistory")));
+    emit m_window->findChild<Records::FiringHistoryView *>()->SignalOpen(m_recorded);
+    Save(numbered(prefix + QStringLiteral("firingdetail")));
+    m_window->Statemachine(Page::MainMenu);
 }
 
 bool ScreenshotTour::InstallTranslations(const QString &builtFolder, const QString &home)
@@ -280,7 +309,7 @@ void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)>
 {
     Ui::MainWindow *ui = m_window->GetUi();
     GlobalElements::Program *speed = m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Zirkon Speed"));
-    for (const QString &language : TourLanguages()) {
+    for (const QString &language : qAsConst(m_languages)) {
         Feed("lang==" + language.toLatin1());
         for (int page : TourPages()) {
             if (page == Page::PlayProg)
@@ -290,6 +319,10 @@ void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)>
             if (page == Page::Selftest)
                 Feed("stdoor==pass$$stheater==pass$$stcooling==fail$$st==fail");
             Save(numbered(QStringLiteral("%1_%2").arg(language, QString::fromLatin1(pageNames[page]))));
+        }
+        if (m_everything) {
+            SaveExtras(numbered, language + QLatin1Char('_'));
+            SavePopups(numbered, language + QLatin1Char('_'));
         }
         m_window->Statemachine(Page::MainMenu);
         ui->stackedWidget_main->setCurrentIndex(0);

@@ -33,6 +33,10 @@ public:
     // The pages shown in each of them.
     static QList<int> TourPages();
 
+    // Other languages than the tour's; with `everything` each of them also shows every popup,
+    // the filter page and the firing history.
+    void SetLanguages(const QStringList &keywords, bool everything);
+
 private:
     void Feed(const QByteArray &fields);
     void FeedPrograms();
@@ -40,10 +44,15 @@ private:
     bool Save(const QString &name);
     bool SavePopup(const QString &name, QDialog *popup);
     void SaveLanguages(const std::function<QString(const QString &)> &numbered);
+    void SavePopups(const std::function<QString(const QString &)> &numbered, const QString &prefix);
+    void SaveExtras(const std::function<QString(const QString &)> &numbered, const QString &prefix);
 
     Mainwindow::MainWindow *m_window;
     QString m_folder;
     QStringList m_written;
+    QStringList m_languages = TourLanguages();
+    bool m_everything = false;
+    qint64 m_recorded = 0;
 };
 
 } // namespace Tools
