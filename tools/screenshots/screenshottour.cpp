@@ -7,6 +7,7 @@
 #include "popups/timerpopup.h"
 #include "programs/heatfiletext.h"
 #include "programs/newprogram.h"
+#include "programs/programfilter.h"
 #include "programs/programhandler.h"
 #include "programs/tablerow.h"
 #include "records/firingdetailview.h"
@@ -161,7 +162,8 @@ QStringList ScreenshotTour::Run()
             // One choice made, as the user would.
             const auto buttons = ui->stackedWidget->currentWidget()->findChildren<GlobalElements::Button *>();
             for (GlobalElements::Button *button : buttons) {
-                if (button->GetText() == QLatin1String("user") || button->GetText() == QLatin1String("Zirkon"))
+                if (button->GetText() == GlobalElements::ProgramFilter::ShownValue(QStringLiteral("user")) ||
+                    button->GetText() == QLatin1String("Zirkon"))
                     button->SetChecked(true);
             }
         }
