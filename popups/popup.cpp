@@ -17,7 +17,6 @@ QPushButton *MaterialButton(const char *name, const QString &photo)
     button->setObjectName(QString::fromLatin1(name));
     button->setProperty("popupRole", QStringLiteral("choice"));
     button->setFocusPolicy(Qt::NoFocus);
-    button->setMinimumHeight(120);
     button->setIconSize(QSize(120, 72));
     // Set here and not in a form: a form would decode both photos at start-up.
     button->setIcon(GlobalElements::IconCache::Get(photo));
@@ -30,11 +29,11 @@ Popup::Popup(QWidget *parent)
     : PopupBase(parent), m_argon(MaterialButton("pushButton_ArgonPopup", QStringLiteral(":/Material/Argon.jpg"))),
       m_zirkon(MaterialButton("pushButton_ZirkonPopup", QStringLiteral(":/Material/Zirkon.jpg")))
 {
-    resize(600, 260);
+    resize(680, 260);
     auto *row = new QHBoxLayout;
     row->setSpacing(24);
-    row->addWidget(m_argon);
-    row->addWidget(m_zirkon);
+    row->addWidget(m_argon, 1);
+    row->addWidget(m_zirkon, 1);
     Body()->addStretch(1);
     Body()->addLayout(row);
     Body()->addStretch(1);

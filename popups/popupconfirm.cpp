@@ -9,7 +9,7 @@ namespace Popups {
 
 PopupConfirm::PopupConfirm(Role role, QWidget *parent, const char *okName, const char *cancelName) : PopupBase(parent)
 {
-    SetAccent(role == Role::Caution ? Accent::Caution : Accent::Danger);
+    SetAccent(Accent::Danger);
     if (cancelName) {
         m_cancel = AddButton(QString::fromLatin1(cancelName), Verb::Neutral);
         connect(m_cancel, &QPushButton::clicked, this, [this] { Answer(false); });

@@ -15,9 +15,9 @@ class PopupConfirm : public PopupBase
     Q_OBJECT
 
 public:
-    // Destructive: red band, red action (what it does cannot be undone). Caution: amber band.
-    // Failure: red band over a notice.
-    enum class Role { Destructive, Caution, Failure };
+    // Both under a red band. Destructive: the action cannot be undone and is red. Failure: a
+    // notice of something that went wrong.
+    enum class Role { Destructive, Failure };
 
 signals:
     // Sent before the popup closes: true for the action, false for the way out.
