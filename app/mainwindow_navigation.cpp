@@ -26,8 +26,6 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
         return;
     }
     Page page = redirect.page;
-    if (redirect.showTemperature)
-        ui->widget_temp->setVisible(true);
 
     QString title;
     const char *titleSource = nullptr;
@@ -67,6 +65,7 @@ void MainWindow::Statemachine(Pageinterface::en_pages requested)
 
     if (!m_editMode || page == Page::NewProg)
         ui->stackedWidget->setCurrentIndex(static_cast<int>(page));
+    ui->widget_temp->setVisible(PageTables::HeaderShowsTemperature(page));
 
     if (page != current)
         m_messageHandler->SetRequest(Communication::Requests::GuiState(page));

@@ -124,10 +124,8 @@ Redirect ResolveRequest(Page requested, Page current, bool startupShown, bool in
             result.action = Redirect::Action::Ignore;
             return result;
         }
-        if (requested == Page::OvenReady && !initialStartup) {
+        if (requested == Page::OvenReady && !initialStartup)
             result.page = Page::MainMenu;
-            result.showTemperature = true;
-        }
     }
     if (initialStartup && (requested == Page::MainMenu || (requested == Page::OvenReady && startupShown))) {
         if (current == Page::LangSelect) {
@@ -135,9 +133,13 @@ Redirect ResolveRequest(Page requested, Page current, bool startupShown, bool in
             return result;
         }
         result.page = Page::MainMenu;
-        result.showTemperature = true;
     }
     return result;
+}
+
+bool HeaderShowsTemperature(Page shown)
+{
+    return shown != Page::ProcessProg;
 }
 
 bool RemembersPlayOrigin(int from)

@@ -40,9 +40,11 @@ struct Redirect
     enum class Action { Show, Ignore, EndCommissioning };
     Action action = Action::Show;
     Page page = Page::StartUp;
-    bool showTemperature = false; // the header's temperature comes with the main menu
 };
 Redirect ResolveRequest(Page requested, Page current, bool startupShown, bool initialStartup);
+
+// The header's temperature shows on every page but the process page, which shows its own.
+bool HeaderShowsTemperature(Page shown);
 
 // Whether `from` is remembered as the origin when `to` is entered.
 bool RemembersPlayOrigin(int from);

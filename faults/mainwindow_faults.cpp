@@ -36,7 +36,6 @@ void MainWindow::PreparePageSelftest()
     ui->widget_exitSelftest->setVisible(false);
     ui->widget_backSelftest->setVisible(false);
     SetSelftestCaptions();
-    ui->progressBar_selftest->setValue(0);
 }
 
 void MainWindow::SetSelftestCaptions()
@@ -45,20 +44,21 @@ void MainWindow::SetSelftestCaptions()
     ui->widget_testDoor->SetText(Caption(Captions::Tuermechanik));
     ui->widget_testHeatsystem->SetText(Caption(Captions::Heizsystem));
     ui->widget_testCooling->SetText(Caption(Captions::Kuehlsystem));
+    ui->progressBar_selftest->setValue(m_selftestProgress.Value());
+    ui->progressBar_selftest->setFormat(m_selftestProgress.Text());
 }
 
 void MainWindow::SlotIncreaseSelftestProgress(const QString &)
 {
     using Row = GlobalElements::SelftestProgress::Row;
     const QObject *row = sender();
-    int add = 0;
     if (row == ui->widget_testHeatsystem)
-        add = m_selftestProgress.Count(Row::Heater);
+        m_selftestProgress.Count(Row::Heater);
     else if (row == ui->widget_testCooling)
-        add = m_selftestProgress.Count(Row::Cooling);
+        m_selftestProgress.Count(Row::Cooling);
     else if (row == ui->widget_testDoor)
-        add = m_selftestProgress.Count(Row::Door);
-    ui->progressBar_selftest->setValue(ui->progressBar_selftest->value() + add);
+        m_selftestProgress.Count(Row::Door);
+    SetSelftestCaptions();
 }
 
 void MainWindow::SlotSelftestResult(const QString &result)

@@ -14,7 +14,7 @@ constexpr int namedFailures = 4;
 } // namespace
 
 PopupDeleteFailureList::PopupDeleteFailureList(QWidget *parent, GlobalElements::ErrorHandler *errors)
-    : PopupConfirm(Role::Danger, parent, "pushButton_OKDel", "pushButton_XDel"), m_errors(errors)
+    : PopupConfirm(Role::Destructive, parent, "pushButton_OKDel", "pushButton_XDel"), m_errors(errors)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
         if (confirmed)
@@ -36,7 +36,8 @@ void PopupDeleteFailureList::Translate()
                      .arg(codes.size() - namedFailures);
     if (!lines.isEmpty())
         text += QStringLiteral("\n\n") + lines.join(QLatin1Char('\n'));
-    SetTexts(text);
+    SetTexts(QCoreApplication::translate("PopupDeleteFailureList", "Fehler löschen"), text,
+             QCoreApplication::translate("PopupDeleteFailureList", "Löschen"));
 }
 
 void PopupDeleteFailureList::showEvent(QShowEvent *event)

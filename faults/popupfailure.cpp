@@ -2,18 +2,28 @@
 
 #include "faults/errorhandler.h"
 #include "faults/failureseverity.h"
-#include "ui_popupfailure.h"
-#include "widgets/confirmbuttons.h"
+
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QVariant>
 
 namespace ovra {
 namespace Popups {
 
 PopupFailure::PopupFailure(ovra::GlobalElements::ErrorHandler *errors, QWidget *parent)
-    : PopupBase(parent), ui(new Ui::PopupFailure), m_errors(errors)
+    : PopupBase(parent), m_list(new QPlainTextEdit), m_ok(AddButton(QStringLiteral("pushButton_OK"), Verb::Action)),
+      m_errors(errors)
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, nullptr);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &QDialog::accept);
+    resize(560, 380);
+    SetAccent(Accent::Danger);
+    SetTitleIcon(QStringLiteral(":/Failure/schwer.png"));
+    m_list->setObjectName(QStringLiteral("plainTextEdit_Failure"));
+    m_list->setReadOnly(true);
+    m_list->setFocusPolicy(Qt::NoFocus);
+    Body()->addWidget(m_list, 1);
+    connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
+    Translate();
     if (m_errors) {
         connect(m_errors, &GlobalElements::ErrorHandler::SignalErrorListChanged, this,
                 &PopupFailure::SlotErrorListChanged);
@@ -25,17 +35,18 @@ PopupFailure::~PopupFailure() = default;
 
 void PopupFailure::Translate()
 {
-    ui->retranslateUi(this);
+    SetTitle(tr("Fehler"));
+    m_ok->setText(tr("OK"));
 }
 
 void PopupFailure::SetFailurePopupText(const QString &text)
 {
-    ui->plainTextEdit_Failure->setPlainText(text);
+    m_list->setPlainText(text);
 }
 
 QString PopupFailure::GetFailurePopupText() const
 {
-    return ui->plainTextEdit_Failure->toPlainText();
+    return m_list->toPlainText();
 }
 
 void PopupFailure::SlotErrorListChanged()

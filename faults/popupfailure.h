@@ -4,11 +4,8 @@
 
 #include <QPointer>
 
-#include <memory>
-
-namespace Ui {
-class PopupFailure;
-}
+class QPlainTextEdit;
+class QPushButton;
 
 namespace ovra {
 namespace GlobalElements {
@@ -37,7 +34,8 @@ private slots:
     void SlotErrorListChanged();
 
 private:
-    std::unique_ptr<Ui::PopupFailure> ui;
+    QPlainTextEdit *m_list;
+    QPushButton *m_ok;
     QPointer<ovra::GlobalElements::ErrorHandler> m_errors;
 };
 

@@ -1,5 +1,7 @@
 #include "faults/selftestprogress.h"
 
+#include <QCoreApplication>
+
 namespace ovra {
 namespace GlobalElements {
 
@@ -9,7 +11,17 @@ int SelftestProgress::Count(Row row)
     if (counted)
         return 0;
     counted = true;
-    return 25;
+    return step;
+}
+
+int SelftestProgress::Done() const
+{
+    return int(m_counted[0]) + int(m_counted[1]) + int(m_counted[2]);
+}
+
+QString SelftestProgress::Text() const
+{
+    return QCoreApplication::translate("SelftestProgress", "%1 von %2 Prüfungen abgeschlossen").arg(Done()).arg(rows);
 }
 
 } // namespace GlobalElements

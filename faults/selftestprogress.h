@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace ovra {
 namespace GlobalElements {
 
@@ -14,7 +16,14 @@ public:
     // The amount the bar moves for this result (25 or 0).
     int Count(Row row);
 
-    static constexpr int maximum = 75;
+    // The rows counted so far, the bar's value for them, and what the bar says about them.
+    int Done() const;
+    int Value() const { return Done() * step; }
+    QString Text() const;
+
+    static constexpr int step = 25;
+    static constexpr int rows = 3;
+    static constexpr int maximum = rows * step;
 
 private:
     bool m_counted[3] = {false, false, false};

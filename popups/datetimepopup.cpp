@@ -2,9 +2,11 @@
 
 #include "popups/digitentry.h"
 #include "ui_datetimepopup.h"
-#include "widgets/confirmbuttons.h"
 
+#include <QPushButton>
 #include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+#include <QVariant>
 
 namespace ovra {
 namespace Popups {
@@ -17,10 +19,13 @@ const DateTimeField fieldOrder[] = {DateTimeField::Day, DateTimeField::Month, Da
 } // namespace
 
 DateTimePopup::DateTimePopup(QWidget *parent)
-    : PopupBase(parent), ui(new Ui::DateTimePopup), m_entry(new DigitEntry(this))
+    : PopupBase(parent), ui(new Ui::DateTimePopup), m_form(new QWidget),
+      m_cancel(AddButton(QStringLiteral("pushButton_cancel"), Verb::Neutral)),
+      m_ok(AddButton(QStringLiteral("pushButton_ok"), Verb::Action)), m_entry(new DigitEntry(this))
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_ok, ui->pushButton_cancel);
+    resize(760, 440);
+    ui->setupUi(m_form);
+    Body()->addWidget(m_form, 1);
     // The comma key is part of the key set but has no meaning in a date or a time.
     ui->pushButton_com->hide();
     ui->label_Error->hide();
@@ -42,16 +47,18 @@ DateTimePopup::DateTimePopup(QWidget *parent)
     m_entry->ConnectPad({ui->pushButton_0, ui->pushButton_1, ui->pushButton_2, ui->pushButton_3, ui->pushButton_4,
                          ui->pushButton_5, ui->pushButton_6, ui->pushButton_7, ui->pushButton_8, ui->pushButton_9},
                         ui->pushButton_clr, ui->pushButton_enter);
-    connect(ui->pushButton_ok, &QPushButton::clicked, this, [this] { Confirm(); });
-    connect(ui->pushButton_cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ok, &QPushButton::clicked, this, [this] { Confirm(); });
+    connect(m_cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 DateTimePopup::~DateTimePopup() = default;
 
 void DateTimePopup::Translate()
 {
-    ui->retranslateUi(this);
-    ui->label_Title->setText(Title());
+    ui->retranslateUi(m_form);
+    SetTitle(Title());
+    m_cancel->setText(tr("Abbrechen"));
+    m_ok->setText(ConfirmVerb());
 }
 
 DateTimeEntry DateTimePopup::GetEntry() const

@@ -8,6 +8,7 @@
 #include <memory>
 
 class QLineEdit;
+class QPushButton;
 
 namespace Ui {
 class DateTimePopup;
@@ -19,7 +20,8 @@ namespace Popups {
 class DigitEntry;
 
 // The one date-and-time form: five digit fields (day, month, year, hour, minute) typed on a
-// digit pad, with OK and cancel. The popups that use it give the title and decide on OK.
+// digit pad, with the pad's "next field" key and one confirm button beside cancel. The
+// popups that use it give the title and the confirm verb, and decide on confirm.
 class DateTimePopup : public PopupBase
 {
     Q_OBJECT
@@ -35,6 +37,7 @@ protected:
     explicit DateTimePopup(QWidget *parent);
 
     virtual QString Title() const = 0;
+    virtual QString ConfirmVerb() const = 0;
     // OK pressed: the popup stays open unless this accepts it.
     virtual void Confirm() = 0;
 
@@ -48,6 +51,9 @@ protected:
     std::unique_ptr<Ui::DateTimePopup> ui;
 
 private:
+    QWidget *m_form;
+    QPushButton *m_cancel;
+    QPushButton *m_ok;
     DigitEntry *m_entry;
     QVector<QLineEdit *> m_fields;
 };

@@ -1,25 +1,54 @@
 #include "popups/popup.h"
 
-#include "ui_popup.h"
 #include "widgets/iconcache.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QVariant>
 
 namespace ovra {
 namespace Popups {
 
-// The buttons reach the slots through setupUi's connect-by-name.
-Popup::Popup(QWidget *parent) : PopupBase(parent), ui(new Ui::Popup)
+namespace {
+QPushButton *MaterialButton(const char *name, const QString &photo)
 {
-    ui->setupUi(this);
-    // Set here rather than in the form: the form would decode both photos at start-up.
-    ui->pushButton_ArgonPopup->setIcon(GlobalElements::IconCache::Get(QStringLiteral(":/Material/Argon.jpg")));
-    ui->pushButton_ZirkonPopup->setIcon(GlobalElements::IconCache::Get(QStringLiteral(":/Material/Zirkon.jpg")));
+    auto *button = new QPushButton;
+    button->setObjectName(QString::fromLatin1(name));
+    button->setProperty("popupRole", QStringLiteral("choice"));
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setIconSize(QSize(120, 72));
+    // Set here and not in a form: a form would decode both photos at start-up.
+    button->setIcon(GlobalElements::IconCache::Get(photo));
+    return button;
+}
+} // namespace
+
+// The answer is the choice itself: the card has no button row.
+Popup::Popup(QWidget *parent)
+    : PopupBase(parent), m_argon(MaterialButton("pushButton_ArgonPopup", QStringLiteral(":/Material/Argon.jpg"))),
+      m_zirkon(MaterialButton("pushButton_ZirkonPopup", QStringLiteral(":/Material/Zirkon.jpg")))
+{
+    resize(680, 260);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(24);
+    row->addWidget(m_argon, 1);
+    row->addWidget(m_zirkon, 1);
+    Body()->addStretch(1);
+    Body()->addLayout(row);
+    Body()->addStretch(1);
+    connect(m_argon, &QPushButton::clicked, this, &Popup::on_pushButton_ArgonPopup_clicked);
+    connect(m_zirkon, &QPushButton::clicked, this, &Popup::on_pushButton_ZirkonPopup_clicked);
+    Translate();
 }
 
 Popup::~Popup() = default;
 
 void Popup::Translate()
 {
-    ui->retranslateUi(this);
+    SetTitle(tr("Argon oder Zirkon?"));
+    m_argon->setText(tr("Argon"));
+    m_zirkon->setText(tr("Zirkon"));
 }
 
 void Popup::on_pushButton_ArgonPopup_clicked()

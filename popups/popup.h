@@ -2,11 +2,7 @@
 
 #include "popups/popupbase.h"
 
-#include <memory>
-
-namespace Ui {
-class Popup;
-}
+class QPushButton;
 
 namespace ovra {
 namespace Popups {
@@ -32,7 +28,8 @@ public slots:
     void on_pushButton_ZirkonPopup_clicked();
 
 private:
-    std::unique_ptr<Ui::Popup> ui;
+    QPushButton *m_argon;
+    QPushButton *m_zirkon;
 };
 
 } // namespace Popups

@@ -6,18 +6,21 @@ namespace ovra {
 namespace Popups {
 
 PopupArgonFailure::PopupArgonFailure(QWidget *parent)
-    : PopupConfirm(Role::Danger, parent, "pushButton_ArgonFailureOK", nullptr)
+    : PopupConfirm(Role::Failure, parent, "pushButton_ArgonFailureOK", nullptr)
 {
-    resize(640, 360);
+    resize(640, 380);
+    SetTitleIcon(QStringLiteral(":/Failure/schwer.png"));
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupArgonFailure::on_pushButton_ArgonFailureOK_clicked);
     Translate();
 }
 
 void PopupArgonFailure::Translate()
 {
-    SetTexts(QCoreApplication::translate(
-        "PopupArgonFailure", "Überprüfung der Argon Versorgung\nfehlgeschlagen.\n\nBitte die Anschlüsse und "
-                             "Eingangsdruck\nüberprüfen und den Prozess neu starten."));
+    SetTexts(QCoreApplication::translate("PopupArgonFailure", "Argon"),
+             QCoreApplication::translate(
+                 "PopupArgonFailure", "Überprüfung der Argon Versorgung\nfehlgeschlagen.\n\nBitte die Anschlüsse und "
+                                      "Eingangsdruck\nüberprüfen und den Prozess neu starten."),
+             QCoreApplication::translate("PopupArgonFailure", "OK"));
 }
 
 void PopupArgonFailure::on_pushButton_ArgonFailureOK_clicked()

@@ -1,33 +1,31 @@
 #include "popups/popupconfirm.h"
 
-#include "ui_popupconfirm.h"
-#include "widgets/confirmbuttons.h"
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QVariant>
 
 namespace ovra {
 namespace Popups {
 
-PopupConfirm::PopupConfirm(Role role, QWidget *parent, const char *okName, const char *cancelName)
-    : PopupBase(parent), ui(new Ui::PopupConfirm)
+PopupConfirm::PopupConfirm(Role role, QWidget *parent, const char *okName, const char *cancelName) : PopupBase(parent)
 {
-    ui->setupUi(this);
-    ui->frame_Accent->setProperty("accent", role == Role::Danger ? "red" : "amber");
-    ui->pushButton_OK->setObjectName(QString::fromLatin1(okName));
-    if (cancelName)
-        ui->pushButton_Cancel->setObjectName(QString::fromLatin1(cancelName));
-    else
-        ui->pushButton_Cancel->hide();
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, cancelName ? ui->pushButton_Cancel : nullptr);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, [this] { Answer(true); });
-    connect(ui->pushButton_Cancel, &QPushButton::clicked, this, [this] { Answer(false); });
+    SetAccent(Accent::Danger);
+    if (cancelName) {
+        m_cancel = AddButton(QString::fromLatin1(cancelName), Verb::Neutral);
+        connect(m_cancel, &QPushButton::clicked, this, [this] { Answer(false); });
+    }
+    m_ok = AddButton(QString::fromLatin1(okName), role == Role::Destructive ? Verb::Destructive : Verb::Action);
+    connect(m_ok, &QPushButton::clicked, this, [this] { Answer(true); });
 }
 
-PopupConfirm::~PopupConfirm() = default;
-
-void PopupConfirm::SetTexts(const QString &message, const QString &title)
+void PopupConfirm::SetTexts(const QString &title, const QString &message, const QString &okVerb,
+                            const QString &cancelVerb)
 {
-    ui->label_Message->setText(message);
-    ui->label_Title->setText(title);
-    ui->label_Title->setVisible(!title.isEmpty());
+    SetTitle(title);
+    SetMessage(message);
+    m_ok->setText(okVerb);
+    if (m_cancel)
+        m_cancel->setText(cancelVerb.isEmpty() ? QCoreApplication::translate("PopupConfirm", "Abbrechen") : cancelVerb);
 }
 
 void PopupConfirm::Answer(bool confirmed)

@@ -2,43 +2,41 @@
 
 #include "popups/popupbase.h"
 
-#include <memory>
-
-namespace Ui {
-class PopupConfirm;
-}
+class QPushButton;
 
 namespace ovra {
 namespace Popups {
 
-// A question with OK and cancel, or a notice with OK alone, on a card whose band shows how
-// much is at stake. The popups the window wires are thin subclasses: they give the text,
-// the button names the controller's contract knows, and turn the answer into their signal.
+// A question with an action and a way out, or a notice with OK alone. The popups the window
+// wires are thin subclasses: they give the texts, the button names the controller's contract
+// knows, and turn the answer into their signal.
 class PopupConfirm : public PopupBase
 {
     Q_OBJECT
 
 public:
-    enum class Role { Danger, Caution }; // red band: something is lost; amber: think twice
-
-    ~PopupConfirm() override;
+    // Both under a red band. Destructive: the action cannot be undone and is red. Failure: a
+    // notice of something that went wrong.
+    enum class Role { Destructive, Failure };
 
 signals:
-    // Sent before the popup closes: true for OK, false for cancel.
+    // Sent before the popup closes: true for the action, false for the way out.
     void SignalAnswered(bool confirmed);
 
 protected:
-    // cancelName nullptr: a notice with OK alone.
+    // cancelName nullptr: a notice with its action alone.
     PopupConfirm(Role role, QWidget *parent, const char *okName = "pushButton_OK",
                  const char *cancelName = "pushButton_Cancel");
 
-    // An empty title leaves the card without one.
-    void SetTexts(const QString &message, const QString &title = QString());
+    // An empty cancel verb reads "Abbrechen".
+    void SetTexts(const QString &title, const QString &message, const QString &okVerb,
+                  const QString &cancelVerb = QString());
 
 private:
     void Answer(bool confirmed);
 
-    std::unique_ptr<Ui::PopupConfirm> ui;
+    QPushButton *m_ok;
+    QPushButton *m_cancel = nullptr;
 };
 
 } // namespace Popups

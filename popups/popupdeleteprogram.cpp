@@ -5,7 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupDeleteProgram::PopupDeleteProgram(QWidget *parent) : PopupConfirm(Role::Danger, parent)
+PopupDeleteProgram::PopupDeleteProgram(QWidget *parent) : PopupConfirm(Role::Destructive, parent)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
         if (confirmed)
@@ -16,7 +16,9 @@ PopupDeleteProgram::PopupDeleteProgram(QWidget *parent) : PopupConfirm(Role::Dan
 
 void PopupDeleteProgram::Translate()
 {
-    SetTexts(QCoreApplication::translate("PopupDeleteProgram", "Programm wird endgültig gelöscht!"));
+    SetTexts(QCoreApplication::translate("PopupDeleteProgram", "Programm löschen"),
+             QCoreApplication::translate("PopupDeleteProgram", "Programm wird endgültig gelöscht!"),
+             QCoreApplication::translate("PopupDeleteProgram", "Löschen"));
 }
 
 } // namespace Popups

@@ -4,7 +4,7 @@ namespace ovra {
 namespace Popups {
 
 PopupLeaveNewProg::PopupLeaveNewProg(Destination destination, QWidget *parent)
-    : PopupConfirm(Role::Caution, parent), m_destination(destination)
+    : PopupConfirm(Role::Destructive, parent), m_destination(destination)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupLeaveNewProg::SignalLeave);
     Translate();
@@ -12,8 +12,10 @@ PopupLeaveNewProg::PopupLeaveNewProg(Destination destination, QWidget *parent)
 
 void PopupLeaveNewProg::Translate()
 {
-    SetTexts(m_destination == Destination::MainMenu ? tr("Programm nicht gespeichert!\nZum Hauptmenü?")
-                                                    : tr("Programm nicht gespeichert!\nZurück?"));
+    SetTexts(tr("Editor verlassen"),
+             m_destination == Destination::MainMenu ? tr("Programm nicht gespeichert!\nZum Hauptmenü?")
+                                                    : tr("Programm nicht gespeichert!\nZurück?"),
+             tr("Verwerfen"));
 }
 
 } // namespace Popups

@@ -1,39 +1,47 @@
 #include "popups/popuplicense.h"
 
 #include "popups/licensetext.h"
-#include "ui_popuplicense.h"
-#include "widgets/confirmbuttons.h"
 
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScroller>
+#include <QVBoxLayout>
+#include <QVariant>
 
 namespace ovra {
 namespace Popups {
 
-PopupLicense::PopupLicense(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupLicense)
+PopupLicense::PopupLicense(QWidget *parent)
+    : PopupBase(parent), m_text(new QPlainTextEdit), m_ok(AddButton(QStringLiteral("pushButton_OK"), Verb::Action))
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, nullptr);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &QDialog::accept);
-    // A finger drags the text; the scroll bar alone is a small target.
-    QScroller::grabGesture(ui->plainTextEdit_License->viewport(), QScroller::LeftMouseButtonGesture);
-    ui->plainTextEdit_License->setPlainText(LicenseNoticeText(QString::fromLatin1(qVersion())));
+    resize(680, 440);
+    SetTitleIcon(QStringLiteral(":/Icons/license.png"));
+    m_text->setObjectName(QStringLiteral("plainTextEdit_License"));
+    m_text->setReadOnly(true);
+    m_text->setFocusPolicy(Qt::NoFocus);
+    Body()->addWidget(m_text, 1);
+    connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
+    // A finger drags the text as well.
+    QScroller::grabGesture(m_text->viewport(), QScroller::LeftMouseButtonGesture);
+    Translate();
 }
 
 PopupLicense::~PopupLicense()
 {
     // Leaves no flick gesture registered for a widget that is going away.
-    QScroller::ungrabGesture(ui->plainTextEdit_License->viewport());
+    QScroller::ungrabGesture(m_text->viewport());
 }
 
 void PopupLicense::Translate()
 {
-    ui->retranslateUi(this);
-    ui->plainTextEdit_License->setPlainText(LicenseNoticeText(QString::fromLatin1(qVersion())));
+    SetTitle(tr("Lizenz"));
+    m_ok->setText(tr("OK"));
+    m_text->setPlainText(LicenseNoticeText(QString::fromLatin1(qVersion())));
 }
 
 QString PopupLicense::GetLicenseText() const
 {
-    return ui->plainTextEdit_License->toPlainText();
+    return m_text->toPlainText();
 }
 
 } // namespace Popups

@@ -2,11 +2,8 @@
 
 #include "popups/popupbase.h"
 
-#include <memory>
-
-namespace Ui {
-class PopupLicense;
-}
+class QPlainTextEdit;
+class QPushButton;
 
 namespace ovra {
 namespace Popups {
@@ -25,7 +22,8 @@ public:
     QString GetLicenseText() const;
 
 private:
-    std::unique_ptr<Ui::PopupLicense> ui;
+    QPlainTextEdit *m_text;
+    QPushButton *m_ok;
 };
 
 } // namespace Popups

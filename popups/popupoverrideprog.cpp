@@ -5,7 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupOverrideProg::PopupOverrideProg(QWidget *parent) : PopupConfirm(Role::Caution, parent)
+PopupOverrideProg::PopupOverrideProg(QWidget *parent) : PopupConfirm(Role::Destructive, parent)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupOverrideProg::SignalOverrideProg);
     Translate();
@@ -13,7 +13,9 @@ PopupOverrideProg::PopupOverrideProg(QWidget *parent) : PopupConfirm(Role::Cauti
 
 void PopupOverrideProg::Translate()
 {
-    SetTexts(QCoreApplication::translate("PopupOverrideProg", "Programm wird überschrieben!"));
+    SetTexts(QCoreApplication::translate("PopupOverrideProg", "Programm überschreiben"),
+             QCoreApplication::translate("PopupOverrideProg", "Programm wird überschrieben!"),
+             QCoreApplication::translate("PopupOverrideProg", "Überschreiben"));
 }
 
 } // namespace Popups

@@ -1,28 +1,38 @@
 #include "popups/popupqrcode.h"
 
 #include "settings/qrcode.h"
-#include "ui_popupqrcode.h"
-#include "widgets/confirmbuttons.h"
 
 #include <QImage>
+#include <QLabel>
 #include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QVariant>
 
 namespace ovra {
 namespace Popups {
 
-PopupQRCode::PopupQRCode(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupQRCode)
+PopupQRCode::PopupQRCode(QWidget *parent)
+    : PopupBase(parent), m_code(new QLabel), m_ok(AddButton(QStringLiteral("pushButton_OK"), Verb::Action))
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_OK, nullptr);
-    connect(ui->pushButton_OK, &QPushButton::clicked, this, &QDialog::accept);
-    ShowMissingNotice();
+    resize(560, 420);
+    SetTitleIcon(QStringLiteral(":/Icons/qrcode.png"));
+    m_code->setObjectName(QStringLiteral("label_QRCode"));
+    m_code->setProperty("popupRole", QStringLiteral("message"));
+    m_code->setAlignment(Qt::AlignCenter);
+    m_code->setWordWrap(true);
+    m_code->setMinimumHeight(imageSide);
+    Body()->addWidget(m_code, 1);
+    connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
+    Translate();
 }
 
 PopupQRCode::~PopupQRCode() = default;
 
 void PopupQRCode::Translate()
 {
-    ui->retranslateUi(this);
+    SetTitle(tr("QR Code erzeugen"));
+    m_ok->setText(tr("OK"));
     if (!m_hasImage)
         ShowMissingNotice();
 }
@@ -38,8 +48,8 @@ void PopupQRCode::SetImage(const QString &path)
     // A QR code is made of square modules: never smooth them into grey.
     if (image.width() > imageSide || image.height() > imageSide)
         image = image.scaled(imageSide, imageSide, Qt::KeepAspectRatio, Qt::FastTransformation);
-    ui->label_QRCode->setText(QString());
-    ui->label_QRCode->setPixmap(image);
+    m_code->setText(QString());
+    m_code->setPixmap(image);
 }
 
 void PopupQRCode::SetCode(const Settings::QrCode &code)
@@ -67,14 +77,14 @@ void PopupQRCode::SetCode(const Settings::QrCode &code)
             }
         }
     }
-    ui->label_QRCode->setText(QString());
-    ui->label_QRCode->setPixmap(QPixmap::fromImage(image));
+    m_code->setText(QString());
+    m_code->setPixmap(QPixmap::fromImage(image));
 }
 
 void PopupQRCode::ShowMissingNotice()
 {
-    ui->label_QRCode->setPixmap(QPixmap());
-    ui->label_QRCode->setText(tr("QR Code nicht verfügbar"));
+    m_code->setPixmap(QPixmap());
+    m_code->setText(tr("QR Code nicht verfügbar"));
 }
 
 } // namespace Popups

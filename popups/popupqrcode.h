@@ -2,11 +2,8 @@
 
 #include "popups/popupbase.h"
 
-#include <memory>
-
-namespace Ui {
-class PopupQRCode;
-}
+class QLabel;
+class QPushButton;
 
 namespace ovra {
 namespace Settings {
@@ -37,7 +34,8 @@ public:
 private:
     void ShowMissingNotice();
 
-    std::unique_ptr<Ui::PopupQRCode> ui;
+    QLabel *m_code;
+    QPushButton *m_ok;
     bool m_hasImage = false;
 };
 

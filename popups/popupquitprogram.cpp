@@ -6,7 +6,7 @@ namespace ovra {
 namespace Popups {
 
 PopupQuitProgram::PopupQuitProgram(QWidget *parent)
-    : PopupConfirm(Role::Danger, parent, "pushButton_okQuit", "pushButton_nokQuit")
+    : PopupConfirm(Role::Destructive, parent, "pushButton_okQuit", "pushButton_nokQuit")
 {
     connect(this, &PopupConfirm::SignalAnswered, this, [this](bool confirmed) {
         if (confirmed)
@@ -17,7 +17,9 @@ PopupQuitProgram::PopupQuitProgram(QWidget *parent)
 
 void PopupQuitProgram::Translate()
 {
-    SetTexts(QCoreApplication::translate("PopupQuitProgram", "Programm wird endgültig gelöscht!"));
+    SetTexts(QCoreApplication::translate("PopupQuitProgram", "Programm löschen"),
+             QCoreApplication::translate("PopupQuitProgram", "Programm wird endgültig gelöscht!"),
+             QCoreApplication::translate("PopupQuitProgram", "Löschen"));
 }
 
 } // namespace Popups

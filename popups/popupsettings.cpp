@@ -5,7 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupSettings::PopupSettings(QWidget *parent) : PopupConfirm(Role::Danger, parent)
+PopupSettings::PopupSettings(QWidget *parent) : PopupConfirm(Role::Destructive, parent)
 {
     resize(560, 320);
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupSettings::SignalPopupSettingsButton);
@@ -14,11 +14,11 @@ PopupSettings::PopupSettings(QWidget *parent) : PopupConfirm(Role::Danger, paren
 
 void PopupSettings::Translate()
 {
-    const QString title = QCoreApplication::translate("PopupSettings", "Werkseinstellungen");
     SetTexts(
+        QCoreApplication::translate("PopupSettings", "Werkseinstellungen"),
         QCoreApplication::translate(
             "PopupSettings", "Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!"),
-        title);
+        QCoreApplication::translate("PopupSettings", "Zurücksetzen"));
 }
 
 } // namespace Popups

@@ -5,7 +5,7 @@
 namespace ovra {
 namespace Popups {
 
-PopupStop::PopupStop(QWidget *parent) : PopupConfirm(Role::Caution, parent)
+PopupStop::PopupStop(QWidget *parent) : PopupConfirm(Role::Destructive, parent)
 {
     connect(this, &PopupConfirm::SignalAnswered, this, &PopupStop::SignalPopupStopButton);
     Translate();
@@ -13,7 +13,11 @@ PopupStop::PopupStop(QWidget *parent) : PopupConfirm(Role::Caution, parent)
 
 void PopupStop::Translate()
 {
-    SetTexts(QCoreApplication::translate("PopupStop", "Prozess wird abgebrochen!"));
+    // "Abbrechen" would read as the stop itself here: the way out says the firing goes on.
+    SetTexts(QCoreApplication::translate("PopupStop", "Prozess stoppen"),
+             QCoreApplication::translate("PopupStop", "Prozess wird abgebrochen!"),
+             QCoreApplication::translate("PopupStop", "Stoppen"),
+             QCoreApplication::translate("PopupStop", "Fortsetzen"));
 }
 
 } // namespace Popups

@@ -4,11 +4,8 @@
 
 #include <QTimer>
 
-#include <memory>
-
-namespace Ui {
-class PopupTempWarning;
-}
+class QLabel;
+class QPushButton;
 
 namespace ovra {
 namespace Popups {
@@ -53,7 +50,9 @@ protected:
 private:
     void SetGraphicVisible(bool visible);
 
-    std::unique_ptr<Ui::PopupTempWarning> ui;
+    QLabel *m_temp;
+    QLabel *m_door;
+    QPushButton *m_close;
     QTimer m_blinkTimer;
     bool m_graphicVisible = true;
 };

@@ -15,6 +15,11 @@ QString PopupTimeAdjust::Title() const
     return QCoreApplication::translate("PopupTimeAdjust", "Datum und Uhrzeit");
 }
 
+QString PopupTimeAdjust::ConfirmVerb() const
+{
+    return QCoreApplication::translate("PopupTimeAdjust", "Speichern");
+}
+
 void PopupTimeAdjust::SetDateTime(const QString &date, const QString &time)
 {
     FillFields(date, time);

@@ -23,6 +23,7 @@ signals:
 
 protected:
     QString Title() const override;
+    QString ConfirmVerb() const override;
     void Confirm() override;
 };
 

@@ -1,51 +1,75 @@
 #include "popups/popupusb.h"
 
-#include "ui_popupusb.h"
-#include "widgets/confirmbuttons.h"
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QVariant>
 
 #include <algorithm>
 
 namespace ovra {
 namespace Popups {
 
-PopupUSB::PopupUSB(QWidget *parent) : PopupBase(parent), ui(new Ui::PopupUSB)
+PopupUSB::PopupUSB(QWidget *parent)
+    : PopupBase(parent), m_text(MessageLabel()), m_bar(new QProgressBar), m_percent(new QLabel),
+      m_ok(AddButton(QStringLiteral("pushButton_USBProgress"), Verb::Action))
 {
-    ui->setupUi(this);
-    GlobalElements::ConfirmButtons::Setup(ui->pushButton_USBProgress, nullptr);
-    ui->progressBar_USB->setRange(0, 100);
-    connect(ui->pushButton_USBProgress, &QPushButton::clicked, this, &QDialog::accept);
+    resize(560, 320);
+    SetTitleIcon(QStringLiteral(":/Icons/usb.png"));
+    m_text->setObjectName(QStringLiteral("label_USBText"));
+    m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_text->show();
+    m_bar->setObjectName(QStringLiteral("progressBar_USB"));
+    m_bar->setRange(0, 100);
+    m_bar->setValue(0);
+    m_bar->setTextVisible(false);
+    m_percent->setObjectName(QStringLiteral("label_Percent"));
+    m_percent->setProperty("popupRole", QStringLiteral("percent"));
+    m_percent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_percent->setMinimumWidth(88);
+    m_percent->setText(QStringLiteral("0%"));
+    auto *row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(m_bar, 1);
+    row->addWidget(m_percent);
+    Body()->addLayout(row);
+    connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
+    Translate();
 }
 
 PopupUSB::~PopupUSB() = default;
 
 void PopupUSB::Translate()
 {
-    ui->retranslateUi(this);
+    SetTitle(tr("USB-Stick"));
+    m_ok->setText(tr("OK"));
 }
 
 void PopupUSB::SetText(const QString &text)
 {
-    ui->label_USBText->setText(text);
+    m_text->setText(text);
 }
 
 QString PopupUSB::GetText() const
 {
-    return ui->label_USBText->text();
+    return m_text->text();
 }
 
 void PopupUSB::SetBusy(bool busy)
 {
-    ui->pushButton_USBProgress->setEnabled(!busy);
+    m_ok->setEnabled(!busy);
 }
 
 bool PopupUSB::IsBusy() const
 {
-    return !ui->pushButton_USBProgress->isEnabled();
+    return !m_ok->isEnabled();
 }
 
 int PopupUSB::GetProgress() const
 {
-    return ui->progressBar_USB->value();
+    return m_bar->value();
 }
 
 void PopupUSB::SlotUpdateProgress(const QString &percent)
@@ -58,8 +82,8 @@ void PopupUSB::SlotUpdateProgress(const QString &percent)
     if (!ok)
         return;
     const int clamped = std::clamp(value, 0, 100);
-    ui->progressBar_USB->setValue(clamped);
-    ui->label_Percent->setText(QStringLiteral("%1%").arg(clamped));
+    m_bar->setValue(clamped);
+    m_percent->setText(QStringLiteral("%1%").arg(clamped));
 }
 
 } // namespace Popups

@@ -2,11 +2,9 @@
 
 #include "popups/popupbase.h"
 
-#include <memory>
-
-namespace Ui {
-class PopupUSB;
-}
+class QLabel;
+class QProgressBar;
+class QPushButton;
 
 namespace ovra {
 namespace Popups {
@@ -26,7 +24,7 @@ public:
     void SetText(const QString &text);
     QString GetText() const;
 
-    // While busy the popup cannot be closed.
+    // While busy the popup cannot be closed: its OK stays disabled until the action has ended.
     void SetBusy(bool busy);
     bool IsBusy() const;
 
@@ -37,7 +35,10 @@ public slots:
     void SlotUpdateProgress(const QString &percent);
 
 private:
-    std::unique_ptr<Ui::PopupUSB> ui;
+    QLabel *m_text;
+    QProgressBar *m_bar;
+    QLabel *m_percent;
+    QPushButton *m_ok;
 };
 
 } // namespace Popups

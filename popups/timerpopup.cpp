@@ -29,6 +29,11 @@ QString TimerPopup::Title() const
     return QCoreApplication::translate("TimerPopup", "Startzeit festlegen");
 }
 
+QString TimerPopup::ConfirmVerb() const
+{
+    return QCoreApplication::translate("TimerPopup", "Übernehmen");
+}
+
 bool TimerPopup::SetDateTime(const QString &date, const QString &time)
 {
     return FillFields(date, time);

@@ -38,6 +38,7 @@ public slots:
 
 protected:
     QString Title() const override;
+    QString ConfirmVerb() const override;
     void Confirm() override;
 
 private:

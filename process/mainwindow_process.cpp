@@ -152,7 +152,6 @@ void MainWindow::PreparePageProcess(int from)
     // Entered anew, the page shows no result of an earlier firing; repeated, it keeps its own.
     if (from != Page::ProcessProg)
         m_firingSummary.Dismiss();
-    ui->widget_temp->setVisible(false);
     ui->widget_processErrorInfo->setEnabled(false);
     ui->widget_processErrorInfo->setVisible(false);
     ui->widget_processError->setStyleSheet(QStringLiteral("background: transparent;"));

@@ -2,6 +2,8 @@
 
 #include "programs/program.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace ovra {
@@ -19,6 +21,15 @@ void Apply(QList<Program *> &programs, const QStringList &manufacturers, const Q
         if (!makerOk || !materialOk)
             programs.removeAt(i);
     }
+}
+
+QString ShownValue(const QString &value)
+{
+    if (value == QLatin1String("user"))
+        return QCoreApplication::translate("ProgramFilter", "Meine Programme");
+    if (value == QLatin1String("service"))
+        return QCoreApplication::translate("ProgramFilter", "Service Programme");
+    return value;
 }
 
 bool ButtonMatches(const QString &buttonText, const QString &value)

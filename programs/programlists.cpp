@@ -7,6 +7,7 @@
 
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -14,6 +15,14 @@ namespace ovra {
 namespace GlobalElements {
 
 namespace {
+// The value a filter button stands for; its text is that value in words.
+const char *const filterValueProperty = "filterValue";
+
+QString FilterValue(const Button *button)
+{
+    return button->property(filterValueProperty).toString();
+}
+
 // Five rows fill the list page; the first rows cover a flick down as well. The rest come in
 // one go: every batch into a shown list lays out all its rows again.
 constexpr int firstListRows = 24;
@@ -80,12 +89,15 @@ void ProgramLists::AddFilterButtons(QVBoxLayout *layout, bool byManufacturer)
 {
     QList<Button *> &buttons = byManufacturer ? m_manufacturerButtons : m_materialButtons;
     QStringList shown;
-    for (const Button *button : qAsConst(buttons))
-        shown << button->GetText();
+    for (Button *button : qAsConst(buttons)) {
+        shown << FilterValue(button);
+        button->SetText(ProgramFilter::ShownValue(FilterValue(button))); // the language may have changed
+    }
     const QStringList values = ProgramFilter::NewButtonValues(*m_store->GetProgramList(), byManufacturer, shown);
     for (const QString &value : values) {
         auto *button = new Button();
-        button->SetText(value);
+        button->setProperty(filterValueProperty, value);
+        button->SetText(ProgramFilter::ShownValue(value));
         button->SetCheckable(true);
         button->setMinimumHeight(64);
         layout->insertWidget(layout->count() - 1, button);
@@ -99,7 +111,7 @@ void ProgramLists::CheckForFilterOption(QList<Program *> &programs) const
         QStringList texts;
         for (const Button *button : buttons) {
             if (button->IsChecked())
-                texts << button->GetText().remove(QLatin1Char(' '));
+                texts << FilterValue(button).remove(QLatin1Char(' '));
         }
         return texts;
     };

@@ -17,6 +17,9 @@ FiringDetailView::FiringDetailView(QWidget *parent) : QWidget(parent), m_ui(std:
     m_ui->widget_recordChart->installEventFilter(this);
     QScroller::grabGesture(m_ui->listWidget_recordFacts->viewport(), QScroller::LeftMouseButtonGesture);
     m_ui->widget_closeFiringDetail->SetIcon(QStringLiteral(":/Icons/back.png"));
+    m_ui->widget_homeFiringDetail->SetIcon(QStringLiteral(":/Icons/home.png"));
+    connect(m_ui->widget_homeFiringDetail, &GlobalElements::Iconbutton::Signal_ButtonClicked, this,
+            &FiringDetailView::SignalHome);
     connect(m_ui->widget_closeFiringDetail, &GlobalElements::Iconbutton::Signal_ButtonClicked, this,
             &FiringDetailView::SignalClose);
 }

@@ -28,6 +28,8 @@ public:
 
 signals:
     void SignalClose();
+    // The home key of every page: straight to the main menu.
+    void SignalHome();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

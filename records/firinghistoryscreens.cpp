@@ -21,6 +21,8 @@ FiringHistoryScreens::FiringHistoryScreens(QWidget *cover, FiringRecorder &recor
     connect(m_history, &FiringHistoryView::SignalOpen, this, &FiringHistoryScreens::Open);
     connect(m_history, &FiringHistoryView::SignalClose, this, &FiringHistoryScreens::Close);
     connect(m_detail, &FiringDetailView::SignalClose, m_detail, &QWidget::hide);
+    connect(m_history, &FiringHistoryView::SignalHome, this, &FiringHistoryScreens::SignalHome);
+    connect(m_detail, &FiringDetailView::SignalHome, this, &FiringHistoryScreens::SignalHome);
 }
 
 void FiringHistoryScreens::ShowHistory()

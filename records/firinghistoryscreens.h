@@ -25,6 +25,10 @@ public:
     FiringHistoryScreens(QWidget *cover, FiringRecorder &recorder, const QString &home,
                          std::function<bool()> fahrenheit, QObject *parent = nullptr);
 
+signals:
+    // Home was tapped on either screen: the window goes to its main menu, which closes them.
+    void SignalHome();
+
 public slots:
     void ShowHistory();
     void Open(qint64 id);

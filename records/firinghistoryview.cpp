@@ -83,6 +83,9 @@ FiringHistoryView::FiringHistoryView(QWidget *parent)
     // A finger drags the list; a tap without movement still opens a row.
     QScroller::grabGesture(m_ui->listView_firings->viewport(), QScroller::LeftMouseButtonGesture);
     m_ui->widget_closeFiringHistory->SetIcon(QStringLiteral(":/Icons/back.png"));
+    m_ui->widget_homeFiringHistory->SetIcon(QStringLiteral(":/Icons/home.png"));
+    connect(m_ui->widget_homeFiringHistory, &GlobalElements::Iconbutton::Signal_ButtonClicked, this,
+            &FiringHistoryView::SignalHome);
     connect(m_ui->widget_closeFiringHistory, &GlobalElements::Iconbutton::Signal_ButtonClicked, this,
             &FiringHistoryView::SignalClose);
     connect(m_ui->listView_firings, &QListView::clicked, this, [this](const QModelIndex &index) { Open(index.row()); });

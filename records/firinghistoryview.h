@@ -32,6 +32,8 @@ public:
 signals:
     void SignalOpen(qint64 id);
     void SignalClose();
+    // The home key of every page: straight to the main menu.
+    void SignalHome();
 
 protected:
     void changeEvent(QEvent *event) override;

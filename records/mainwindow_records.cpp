@@ -15,6 +15,7 @@ void MainWindow::ConnectRecords()
         ui->stackedWidget_main, m_firingRecorder, m_paths.Home(), [this] { return m_furnace.IsFahrenheit(); }, this);
     connect(ui->widget_SettingsButtonFiringHistory, &GlobalElements::Button::SignalButtonClicked, m_firingHistory,
             &Records::FiringHistoryScreens::ShowHistory);
+    connect(m_firingHistory, &Records::FiringHistoryScreens::SignalHome, this, &MainWindow::SlotExitButtonClicked);
     for (QStackedWidget *stack : {ui->stackedWidget, ui->stackedWidget_main})
         connect(stack, &QStackedWidget::currentChanged, m_firingHistory, &Records::FiringHistoryScreens::Close);
 }

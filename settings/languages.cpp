@@ -71,6 +71,24 @@ QString TranslationPath(const GlobalElements::Paths &paths, const QString &file)
     return paths.Resolve(translationFolder + file);
 }
 
+bool OnLanguagePage(int row, int shownRow)
+{
+    return row == shownRow || Languages().at(row).offered;
+}
+
+QList<int> LanguagePageOrder(int shownRow)
+{
+    QList<int> order;
+    for (int pass = 0; pass < 3; ++pass) {
+        for (int row = 0; row < Languages().size(); ++row) {
+            const int rank = Languages().at(row).offered ? 0 : row == shownRow ? 1 : 2;
+            if (rank == pass)
+                order << row;
+        }
+    }
+    return order;
+}
+
 int ShownLanguageRow(const QString &loadedFile)
 {
     const QList<Language> &languages = Languages();

@@ -43,6 +43,12 @@ LanguageChoice ChoiceFromController(const QString &keyword);
 // "chinesisch" is then no repetition and loads US English, as the controller expects.
 LanguageChoice ChoiceFromButton(const QString &label);
 
+// The language page's rows in grid order: the offered languages close ranks, the one shown
+// follows them when it is not offered, so it is on the page and marked, and the rest, hidden,
+// keep their places behind.
+QList<int> LanguagePageOrder(int shownRow);
+bool OnLanguagePage(int row, int shownRow);
+
 // Where a translation file lies: "/home/pi/Downloads/translations/<file>" under the home.
 QString TranslationPath(const GlobalElements::Paths &paths, const QString &file);
 // Row of the language whose file is loaded; without a translation the German source texts

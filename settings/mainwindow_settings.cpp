@@ -91,19 +91,14 @@ void MainWindow::PreparePageLanguageSelect()
         ui->widget_Lang7, ui->widget_Lang8, ui->widget_Lang9, ui->widget_Lang10, ui->widget_Lang11, ui->widget_Lang12};
     const QList<Settings::Language> &languages = Settings::Languages();
     const int shown = Settings::ShownLanguageRow(m_languageFile);
-    // The offered languages close ranks in the grid; the others keep their places behind them.
     int cell = 0;
-    for (bool offered : {true, false}) {
-        for (int i = 0; i < buttons.size(); ++i) {
-            if (languages.at(i).offered != offered)
-                continue;
-            buttons.at(i)->setVisible(offered);
-            buttons.at(i)->SetText(languages.at(i).label);
-            buttons.at(i)->SetCheckable(true);
-            buttons.at(i)->SetChecked(i == shown);
-            ui->gridLayout_lang->addWidget(buttons.at(i), cell / 3, cell % 3);
-            ++cell;
-        }
+    for (int i : Settings::LanguagePageOrder(shown)) {
+        buttons.at(i)->setVisible(Settings::OnLanguagePage(i, shown));
+        buttons.at(i)->SetText(languages.at(i).label);
+        buttons.at(i)->SetCheckable(true);
+        buttons.at(i)->SetChecked(i == shown);
+        ui->gridLayout_lang->addWidget(buttons.at(i), cell / 3, cell % 3);
+        ++cell;
     }
 }
 

@@ -58,8 +58,11 @@ void TestFaults::selftestRowsCountOncePerEntry()
     ovra::GlobalElements::SelftestProgress progress;
     QCOMPARE(progress.Count(Row::Door) + progress.Count(Row::Heater) + progress.Count(Row::Door), 50);
     QCOMPARE(progress.Count(Row::Cooling), 25);
+    QCOMPARE(progress.Text(), QStringLiteral("3 von 3 Prüfungen abgeschlossen"));
     progress.Reset();
     QCOMPARE(progress.Count(Row::Door), 25);
+    QCOMPARE(progress.Value(), 25);
+    QCOMPARE(progress.Text(), QStringLiteral("1 von 3 Prüfungen abgeschlossen"));
 }
 
 QTEST_APPLESS_MAIN(TestFaults)

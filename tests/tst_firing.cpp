@@ -239,6 +239,13 @@ void TestFiring::progressReportsDriveTheProcessPage()
     QVERIFY(!m_window->Furnace().IsFiring());
     QVERIFY(m_panel->Enabled("widget_exitProcessProg"));
     QVERIFY(m_panel->Shown("widget_doorProcessProg"));
+
+    // The header's temperature stands aside for the page's own, and is back on the next page
+    // however the page was left, not only when the controller reports its main menu.
+    QVERIFY(!m_panel->Shown("widget_temp"));
+    m_panel->Tap("widget_exitProcessProg");
+    QCOMPARE(m_window->CurrentPage(), Page::MainMenu);
+    QVERIFY(m_panel->Shown("widget_temp"));
 }
 
 void TestFiring::resultAndStop()
@@ -468,7 +475,15 @@ void TestFiring::failedFiringInTheHistory()
     for (const QString &request : m_panel->Send("temp==293"))
         QCOMPARE(request, QStringLiteral("guistate==%1").arg(int(Page::Settings)));
 
+    // Home on the detail, as on every page: the main menu, both views gone.
+    m_panel->Tap("widget_homeFiringDetail");
+    QCOMPARE(m_window->CurrentPage(), Page::MainMenu);
+    QVERIFY(!detail->isVisible() && !history->isVisible());
+
     // A page the controller selects closes both views.
+    m_panel->Send("guistate==6");
+    m_panel->Tap("widget_SettingsButtonFiringHistory");
+    QVERIFY(history->isVisible());
     m_panel->Send("guistate==3");
     QVERIFY(!detail->isVisible() && !history->isVisible());
 }

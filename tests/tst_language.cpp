@@ -123,6 +123,11 @@ void TestLanguage::chineseTappedThenSentBackByTheController()
     QCOMPARE(send("lang==chinesisch"), QStringList{QStringLiteral("lang==chinesisch")});
     QCOMPARE(title(), QStringLiteral("LANGUAGE"));
     QVERIFY(m_panel->Checked("widget_Lang2"));
+
+    // A language the page does not offer, chosen by the controller, is on the page and marked.
+    send("lang==japanisch$$guistate==3$$guistate==12");
+    QVERIFY(m_panel->Shown("widget_Lang7") && m_panel->Checked("widget_Lang7"));
+    QVERIFY(!m_panel->Shown("widget_Lang11"));
 }
 
 void TestLanguage::everyTextOfEveryPageAndPopupFollows()

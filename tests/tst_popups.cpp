@@ -133,6 +133,9 @@ void TstPopups::confirmButtons()
         std::unique_ptr<QDialog> popup(create(ok ? m_host.get() : nullptr));
         QSignalSpy spy(popup.get(), signal.constData());
         QVERIFY(showPopup(popup.get()));
+        // A button says what it does, in words.
+        const auto *button = popup->findChild<QPushButton *>(QString::fromLatin1(ok ? okName : cancelName));
+        QVERIFY(button && !button->text().isEmpty());
         Tap(popup.get(), (ok ? okName : cancelName).constData());
         QVERIFY(!popup->isVisible());
         if (!cancelName.isEmpty()) // a lone OK only hides

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>Argônio ou zircônia?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Argônio</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Zircônia</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ do fornecimento de argônio.
 Verifique as conexões e a pressão de entrada
 e reinicie o processo.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argônio</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ e reinicie o processo.</translation>
         <source>und %1 weitere</source>
         <translation>e mais %1</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Apagar erros</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Excluir</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ e reinicie o processo.</translation>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>O programa será excluído definitivamente!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Erros</translation>
+        <source>Programm löschen</source>
+        <translation>Excluir programa</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Licença</translation>
+        <source>Löschen</source>
+        <translation>Excluir</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ e reinicie o processo.</translation>
         <source>Programm wird überschrieben!</source>
         <translation>O programa será sobrescrito!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>Gerar código QR</translation>
+        <source>Programm überschreiben</source>
+        <translation>Sobrescrever programa</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Sobrescrever</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ e reinicie o processo.</translation>
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>O programa será excluído definitivamente!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Excluir programa</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Excluir</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ e reinicie o processo.</translation>
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>Todos os seus programas serão excluídos e as configurações de fábrica restauradas!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Redefinir</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ e reinicie o processo.</translation>
         <source>Prozess wird abgebrochen!</source>
         <translation>O processo será interrompido!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>Atenção! Forno quente – feche a porta!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Parar processo</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Fechar porta</translation>
+        <source>Stoppen</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Continuar</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ e reinicie o processo.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Data e hora</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Salvar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Meus programas</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programas de serviço</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%1 de %2 testes concluídos</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Definir horário de início</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Aplicar</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Bloqueado: restam %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argônio ou zircônia?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argônio</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zircônia</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Erros</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Voltar ao menu principal?</translation>
 Zurück?</source>
         <translation>Programa não salvo!
 Voltar?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Sair do editor</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Descartar</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Voltar?</translation>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>O Qt é licenciado sob a GNU Lesser General Public License versão 3 (LGPL v3). As bibliotecas do Qt são vinculadas dinamicamente e podem ser substituídas por uma versão própria compatível. O texto da licença está em https://www.gnu.org/licenses/lgpl-3.0.html, o código-fonte do Qt em https://download.qt.io/archive/qt/ e como pacote-fonte da distribuição Debian utilizada (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licença</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR indisponível</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Gerar código QR</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Atenção! Forno quente – feche a porta!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Fechar porta</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>Pen drive</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>氩气还是氧化锆？</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>氩气</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>氧化锆</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ Bitte die Anschlüsse und Eingangsdruck
 请检查接口和进气压力，
 然后重新启动工艺。</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>氩气</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>und %1 weitere</source>
         <translation>另有 %1 条</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>清除错误</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>删除</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird endgültig gelöscht!</source>
         <translation>程序将被永久删除！</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>错误</translation>
+        <source>Programm löschen</source>
+        <translation>删除程序</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>许可证</translation>
+        <source>Löschen</source>
+        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird überschrieben!</source>
         <translation>程序将被覆盖！</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>生成二维码</translation>
+        <source>Programm überschreiben</source>
+        <translation>覆盖程序</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>覆盖</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>程序将被永久删除！</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>删除程序</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>所有自定义程序将被删除，并恢复出厂设置！</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>重置</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Prozess wird abgebrochen!</source>
         <translation>工艺将被中止！</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>注意！炉体高温 – 请关闭炉门！</translation>
+        <source>Prozess stoppen</source>
+        <translation>停止过程</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>关闭炉门</translation>
+        <source>Stoppen</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>继续</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>日期和时间</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>我的程序</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>服务程序</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>已完成 %1/%2 项检测</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>设置启动时间</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>应用</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>氩气还是氧化锆？</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>氩气</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>氧化锆</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</source>
 Zurück?</source>
         <translation>程序未保存！
 返回？</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>退出编辑器</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>放弃</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</source>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt 依据 GNU 宽通用公共许可证第 3 版（LGPL v3）授权。Qt 库为动态链接，可替换为您自己的兼容版本。许可证全文见 https://www.gnu.org/licenses/lgpl-3.0.html，Qt 源代码见 https://download.qt.io/archive/qt/ 以及所用 Debian 发行版的源代码包（qtbase-opensource-src）。</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>二维码不可用</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>生成二维码</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>注意！炉体高温 – 请关闭炉门！</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>关闭炉门</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>U盘</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
     </message>
 </context>
 <context>

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>Argon oder Zirkon?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Argon</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Zirkon</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ fehlgeschlagen.
 Bitte die Anschlüsse und Eingangsdruck
 überprüfen und den Prozess neu starten.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>und %1 weitere</source>
         <translation>und %1 weitere</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Fehler löschen</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Löschen</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Programm wird endgültig gelöscht!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Fehler</translation>
+        <source>Programm löschen</source>
+        <translation>Programm löschen</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Lizenz</translation>
+        <source>Löschen</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird überschrieben!</source>
         <translation>Programm wird überschrieben!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>QR Code erzeugen</translation>
+        <source>Programm überschreiben</source>
+        <translation>Programm überschreiben</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Überschreiben</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Programm wird endgültig gelöscht!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Programm löschen</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Zurücksetzen</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Prozess wird abgebrochen!</source>
         <translation>Prozess wird abgebrochen!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>Achtung! Ofen ist heiß – Tür schließen!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Prozess stoppen</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Tür schließen</translation>
+        <source>Stoppen</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Fortsetzen</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>Datum und Uhrzeit</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Meine Programme</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Service Programme</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%1 von %2 Prüfungen abgeschlossen</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Startzeit festlegen</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Übernehmen</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Gesperrt: noch %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon oder Zirkon?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zirkon</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</translation>
 Zurück?</source>
         <translation>Programm nicht gespeichert!
 Zurück?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Editor verlassen</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Verwerfen</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</translation>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR Code nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QR Code erzeugen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Achtung! Ofen ist heiß – Tür schließen!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Tür schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>USB-Stick</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>Argon or zirconia?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Argon</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Zirconia</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ failed.
 Check the connections and the inlet pressure
 and restart the process.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ and restart the process.</translation>
         <source>und %1 weitere</source>
         <translation>and %1 more</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Clear errors</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ and restart the process.</translation>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>The programme will be deleted permanently!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Errors</translation>
+        <source>Programm löschen</source>
+        <translation>Delete programme</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Licence</translation>
+        <source>Löschen</source>
+        <translation>Delete</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ and restart the process.</translation>
         <source>Programm wird überschrieben!</source>
         <translation>The programme will be overwritten!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>Create QR code</translation>
+        <source>Programm überschreiben</source>
+        <translation>Overwrite programme</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Overwrite</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ and restart the process.</translation>
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>The programme will be deleted permanently!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Delete programme</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ and restart the process.</translation>
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>All your own programmes will be deleted and the factory settings restored!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Reset</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ and restart the process.</translation>
         <source>Prozess wird abgebrochen!</source>
         <translation>The firing will be aborted!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>Caution! Furnace is hot – close the door!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Stop process</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Close door</translation>
+        <source>Stoppen</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Continue</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ and restart the process.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Date and time</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>My programmes</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Service programmes</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%1 of %2 checks done</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Set start time</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Apply</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Locked: %1 s left</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon or zirconia?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zirconia</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Errors</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Back to main menu?</translation>
 Zurück?</source>
         <translation>Programme not saved!
 Go back?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Leave editor</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Discard</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Go back?</translation>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt is licensed under the GNU Lesser General Public License version 3 (LGPL v3). The Qt libraries are linked dynamically and can be replaced with your own compatible version. The licence text is at https://www.gnu.org/licenses/lgpl-3.0.html, the Qt source code at https://download.qt.io/archive/qt/ and as a source package of the Debian distribution used (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR code not available</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Create QR code</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Caution! Furnace is hot – close the door!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Close door</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>USB stick</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

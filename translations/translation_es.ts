@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>¿Argón o circonio?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Argón</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Circonio</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ del suministro de argón.
 Compruebe las conexiones y la presión de entrada
 y reinicie el proceso.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argón</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ y reinicie el proceso.</translation>
         <source>und %1 weitere</source>
         <translation>y %1 más</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Borrar errores</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Eliminar</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ y reinicie el proceso.</translation>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>¡El programa se borrará definitivamente!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Errores</translation>
+        <source>Programm löschen</source>
+        <translation>Borrar programa</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Licencia</translation>
+        <source>Löschen</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ y reinicie el proceso.</translation>
         <source>Programm wird überschrieben!</source>
         <translation>¡El programa se sobrescribirá!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>Crear código QR</translation>
+        <source>Programm überschreiben</source>
+        <translation>Sobrescribir programa</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Sobrescribir</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ y reinicie el proceso.</translation>
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>¡El programa se borrará definitivamente!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Borrar programa</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ y reinicie el proceso.</translation>
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>¡Se borrarán todos sus programas y se restablecerán los ajustes de fábrica!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Restablecer</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ y reinicie el proceso.</translation>
         <source>Prozess wird abgebrochen!</source>
         <translation>¡El proceso se cancelará!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>¡Atención! Horno caliente: ¡cierre la puerta!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Detener proceso</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Cerrar puerta</translation>
+        <source>Stoppen</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Continuar</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ y reinicie el proceso.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Fecha y hora</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Guardar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Mis programas</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programas de servicio</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%1 de %2 pruebas hechas</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Fijar hora de inicio</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Aplicar</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Bloqueado: quedan %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>¿Argón o circonio?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argón</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Circonio</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Errores</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</source>
 Zurück?</source>
         <translation>¡Programa no guardado!
 ¿Volver atrás?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Salir del editor</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Descartar</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</source>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt se distribuye bajo la GNU Lesser General Public License versión 3 (LGPL v3). Las bibliotecas de Qt están enlazadas dinámicamente y pueden sustituirse por una versión propia compatible. El texto de la licencia está en https://www.gnu.org/licenses/lgpl-3.0.html, el código fuente de Qt en https://download.qt.io/archive/qt/ y como paquete fuente de la distribución Debian utilizada (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licencia</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Código QR no disponible</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Crear código QR</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>¡Atención! Horno caliente: ¡cierre la puerta!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Cerrar puerta</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>Memoria USB</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>Argon ou zircone&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Argon</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Zircone</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ de l&apos;alimentation en argon.
 Vérifiez les raccords et la pression d&apos;entrée,
 puis relancez le processus.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ puis relancez le processus.</translation>
         <source>und %1 weitere</source>
         <translation>et %1 de plus</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Effacer les erreurs</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ puis relancez le processus.</translation>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Le programme sera définitivement supprimé&#xa0;!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Erreurs</translation>
+        <source>Programm löschen</source>
+        <translation>Supprimer le programme</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Licence</translation>
+        <source>Löschen</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ puis relancez le processus.</translation>
         <source>Programm wird überschrieben!</source>
         <translation>Le programme sera écrasé&#xa0;!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>Créer un code QR</translation>
+        <source>Programm überschreiben</source>
+        <translation>Écraser le programme</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Écraser</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ puis relancez le processus.</translation>
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Le programme sera définitivement supprimé&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Supprimer le programme</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ puis relancez le processus.</translation>
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>Tous vos programmes seront supprimés et les réglages d&apos;usine rétablis&#xa0;!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Réinitialiser</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ puis relancez le processus.</translation>
         <source>Prozess wird abgebrochen!</source>
         <translation>Le processus sera interrompu&#xa0;!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>Attention&#xa0;! Four chaud – fermez la porte&#xa0;!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Arrêter le processus</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Fermer la porte</translation>
+        <source>Stoppen</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Continuer</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ puis relancez le processus.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Date et heure</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Mes programmes</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programmes service</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%1 sur %2 tests terminés</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Définir l&apos;heure de départ</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Appliquer</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Bloqué : encore %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon ou zircone&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zircone</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Retour au menu principal&#xa0;?</translation>
 Zurück?</source>
         <translation>Programme non enregistré&#xa0;!
 Revenir en arrière&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Quitter l&apos;éditeur</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Abandonner</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Revenir en arrière&#xa0;?</translation>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt est distribué sous la GNU Lesser General Public License version 3 (LGPL v3). Les bibliothèques Qt sont liées dynamiquement et peuvent être remplacées par votre propre version compatible. Le texte de la licence se trouve sur https://www.gnu.org/licenses/lgpl-3.0.html, le code source de Qt sur https://download.qt.io/archive/qt/ et sous forme de paquet source de la distribution Debian utilisée (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Code QR non disponible</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Créer un code QR</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Attention&#xa0;! Four chaud – fermez la porte&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Fermer la porte</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>Clé USB</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>Argon o zirconia?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Argon</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Zirconia</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ non riuscita.
 Controllare i collegamenti e la pressione in ingresso
 e riavviare il processo.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ e riavviare il processo.</translation>
         <source>und %1 weitere</source>
         <translation>e altri %1</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Cancella errori</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Elimina</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ e riavviare il processo.</translation>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Il programma verrà eliminato definitivamente!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Errori</translation>
+        <source>Programm löschen</source>
+        <translation>Elimina programma</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Licenza</translation>
+        <source>Löschen</source>
+        <translation>Elimina</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ e riavviare il processo.</translation>
         <source>Programm wird überschrieben!</source>
         <translation>Il programma verrà sovrascritto!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>Crea codice QR</translation>
+        <source>Programm überschreiben</source>
+        <translation>Sovrascrivi programma</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Sovrascrivi</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ e riavviare il processo.</translation>
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Il programma verrà eliminato definitivamente!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Elimina programma</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Elimina</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ e riavviare il processo.</translation>
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>Tutti i programmi personali verranno eliminati e le impostazioni di fabbrica ripristinate!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Ripristina</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ e riavviare il processo.</translation>
         <source>Prozess wird abgebrochen!</source>
         <translation>Il processo verrà interrotto!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>Attenzione! Forno caldo – chiudere la porta!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Ferma processo</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Chiudi porta</translation>
+        <source>Stoppen</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Continua</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ e riavviare il processo.</translation>
         <source>Datum und Uhrzeit</source>
         <translation>Data e ora</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Salva</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>I miei programmi</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Programmi assistenza</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%1 di %2 controlli eseguiti</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Imposta ora di avvio</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Applica</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Bloccato: ancora %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Argon o zirconia?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Argon</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Zirconia</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Errori</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Tornare al menu principale?</translation>
 Zurück?</source>
         <translation>Programma non salvato!
 Tornare indietro?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Esci dall&apos;editor</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Scarta</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Tornare indietro?</translation>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt è distribuito con licenza GNU Lesser General Public License versione 3 (LGPL v3). Le librerie Qt sono collegate dinamicamente e possono essere sostituite da una propria versione compatibile. Il testo della licenza si trova su https://www.gnu.org/licenses/lgpl-3.0.html, il codice sorgente di Qt su https://download.qt.io/archive/qt/ e come pacchetto sorgente della distribuzione Debian utilizzata (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Licenza</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>Codice QR non disponibile</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Crea codice QR</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Attenzione! Forno caldo – chiudere la porta!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Chiudi porta</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>Chiavetta USB</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

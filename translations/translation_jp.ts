@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>アルゴンまたはジルコニア？</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>アルゴン</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>ジルコニア</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ Bitte die Anschlüsse und Eingangsdruck
 接続部と供給圧力を確認して、
 プロセスを再開してください。</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>アルゴン</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>und %1 weitere</source>
         <translation>他 %1 件</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>エラー消去</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>削除</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird endgültig gelöscht!</source>
         <translation>プログラムを完全に削除します！</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>エラー</translation>
+        <source>Programm löschen</source>
+        <translation>プログラム削除</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>ライセンス</translation>
+        <source>Löschen</source>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird überschrieben!</source>
         <translation>プログラムを上書きします！</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>QRコード作成</translation>
+        <source>Programm überschreiben</source>
+        <translation>プログラムを上書き</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>上書き</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>プログラムを完全に削除します！</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>プログラム削除</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>ユーザープログラムはすべて削除され、工場出荷時設定に戻ります！</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>リセット</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Prozess wird abgebrochen!</source>
         <translation>プロセスを中止します！</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>注意！炉内高温 – 扉を閉めてください！</translation>
+        <source>Prozess stoppen</source>
+        <translation>プロセスを停止</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>扉を閉める</translation>
+        <source>Stoppen</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>続行</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>日付と時刻</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>マイプログラム</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>サービスプログラム</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%2 件中 %1 件の検査完了</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>開始時刻の設定</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>適用</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>アルゴンまたはジルコニア？</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>アルゴン</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>ジルコニア</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</source>
 Zurück?</source>
         <translation>プログラムが保存されていません！
 戻りますか？</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>エディタを終了</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>破棄</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</source>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt は GNU Lesser General Public License バージョン 3 (LGPL v3) の下でライセンスされています。Qt ライブラリは動的にリンクされており、互換性のある独自のバージョンに置き換えることができます。ライセンス全文は https://www.gnu.org/licenses/lgpl-3.0.html、Qt のソースコードは https://download.qt.io/archive/qt/ および使用している Debian ディストリビューションのソースパッケージ (qtbase-opensource-src) から入手できます。</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>ライセンス</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QRコードは利用できません</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QRコード作成</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>注意！炉内高温 – 扉を閉めてください！</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>扉を閉める</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>USBメモリ</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

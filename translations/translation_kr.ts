@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>아르곤 또는 지르코니아?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>아르곤</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>지르코니아</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ Bitte die Anschlüsse und Eingangsdruck
 연결부와 공급 압력을 확인하고
 공정을 다시 시작하십시오.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>아르곤</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>취소</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>und %1 weitere</source>
         <translation>외 %1건</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>오류 삭제</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>삭제</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird endgültig gelöscht!</source>
         <translation>프로그램이 영구 삭제됩니다!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>오류</translation>
+        <source>Programm löschen</source>
+        <translation>프로그램 삭제</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>라이선스</translation>
+        <source>Löschen</source>
+        <translation>삭제</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird überschrieben!</source>
         <translation>프로그램을 덮어씁니다!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>QR 코드 생성</translation>
+        <source>Programm überschreiben</source>
+        <translation>프로그램 덮어쓰기</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>덮어쓰기</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>프로그램이 영구 삭제됩니다!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>프로그램 삭제</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>삭제</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>모든 사용자 프로그램이 삭제되고 공장 설정으로 복원됩니다!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>초기화</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Prozess wird abgebrochen!</source>
         <translation>공정이 중단됩니다!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>주의! 소결로 고온 – 도어를 닫으십시오!</translation>
+        <source>Prozess stoppen</source>
+        <translation>공정 정지</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>도어 닫기</translation>
+        <source>Stoppen</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>계속</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>날짜 및 시간</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>저장</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>내 프로그램</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>서비스 프로그램</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>%2개 중 %1개 검사 완료</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>시작 시간 설정</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>적용</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>아르곤 또는 지르코니아?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>아르곤</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>지르코니아</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</source>
 Zurück?</source>
         <translation>프로그램이 저장되지 않았습니다!
 돌아가시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>편집기 종료</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>버리기</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</source>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt는 GNU Lesser General Public License 버전 3(LGPL v3)에 따라 사용이 허가됩니다. Qt 라이브러리는 동적으로 링크되어 있으며 호환되는 자체 버전으로 교체할 수 있습니다. 라이선스 전문은 https://www.gnu.org/licenses/lgpl-3.0.html 에서, Qt 소스 코드는 https://download.qt.io/archive/qt/ 및 사용 중인 Debian 배포판의 소스 패키지(qtbase-opensource-src)에서 확인할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>라이선스</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR 코드를 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>QR 코드 생성</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>주의! 소결로 고온 – 도어를 닫으십시오!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>도어 닫기</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>USB 메모리</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
     </message>
 </context>
 <context>

@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>Аргон или цирконий?</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>Аргон</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>Цирконий</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ Bitte die Anschlüsse und Eingangsdruck
 Проверьте подключения и входное давление
 и перезапустите процесс.</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>Аргон</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Отмена</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>und %1 weitere</source>
         <translation>и ещё %1</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>Удалить ошибки</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Удалить</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Программа будет удалена безвозвратно!</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>Ошибки</translation>
+        <source>Programm löschen</source>
+        <translation>Удалить программу</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>Лицензия</translation>
+        <source>Löschen</source>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird überschrieben!</source>
         <translation>Программа будет перезаписана!</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>Создать QR-код</translation>
+        <source>Programm überschreiben</source>
+        <translation>Перезаписать программу</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Перезаписать</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>Программа будет удалена безвозвратно!</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>Удалить программу</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>Все собственные программы будут удалены, заводские настройки восстановлены!</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Сбросить</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Prozess wird abgebrochen!</source>
         <translation>Процесс будет прерван!</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>Внимание! Печь горячая – закройте дверцу!</translation>
+        <source>Prozess stoppen</source>
+        <translation>Остановить процесс</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>Закрыть дверцу</translation>
+        <source>Stoppen</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>Продолжить</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>Дата и время</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Сохранить</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>Мои программы</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>Сервисные программы</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>Выполнено проверок: %1 из %2</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>Задать время старта</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Применить</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>Аргон или цирконий?</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>Аргон</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>Цирконий</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>Ошибки</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</source>
 Zurück?</source>
         <translation>Программа не сохранена!
 Назад?</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>Выйти из редактора</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Отбросить</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</source>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt распространяется по лицензии GNU Lesser General Public License версии 3 (LGPL v3). Библиотеки Qt подключены динамически и могут быть заменены собственной совместимой версией. Текст лицензии: https://www.gnu.org/licenses/lgpl-3.0.html, исходный код Qt: https://download.qt.io/archive/qt/, а также пакет исходного кода используемого дистрибутива Debian (qtbase-opensource-src).</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>Лицензия</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR-код недоступен</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>Создать QR-код</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>Внимание! Печь горячая – закройте дверцу!</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>Закрыть дверцу</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>USB-накопитель</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

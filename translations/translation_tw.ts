@@ -64,21 +64,6 @@
     </message>
 </context>
 <context>
-    <name>Popup</name>
-    <message>
-        <source>Argon oder Zirkon?</source>
-        <translation>氬氣或氧化鋯？</translation>
-    </message>
-    <message>
-        <source>Argon</source>
-        <translation>氬氣</translation>
-    </message>
-    <message>
-        <source>Zirkon</source>
-        <translation>氧化鋯</translation>
-    </message>
-</context>
-<context>
     <name>PopupArgonFailure</name>
     <message>
         <source>Überprüfung der Argon Versorgung
@@ -92,6 +77,21 @@ Bitte die Anschlüsse und Eingangsdruck
 請檢查接頭與進氣壓力，
 然後重新啟動製程。</translation>
     </message>
+    <message>
+        <source>Argon</source>
+        <translation>氬氣</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>PopupConfirm</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteFailureList</name>
@@ -103,6 +103,14 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>und %1 weitere</source>
         <translation>另有 %1 條</translation>
     </message>
+    <message>
+        <source>Fehler löschen</source>
+        <translation>清除錯誤</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>刪除</translation>
+    </message>
 </context>
 <context>
     <name>PopupDeleteProgram</name>
@@ -110,19 +118,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird endgültig gelöscht!</source>
         <translation>程式將被永久刪除！</translation>
     </message>
-</context>
-<context>
-    <name>PopupFailure</name>
     <message>
-        <source>Fehler</source>
-        <translation>錯誤</translation>
+        <source>Programm löschen</source>
+        <translation>刪除程式</translation>
     </message>
-</context>
-<context>
-    <name>PopupLicense</name>
     <message>
-        <source>Lizenz</source>
-        <translation>授權</translation>
+        <source>Löschen</source>
+        <translation>刪除</translation>
     </message>
 </context>
 <context>
@@ -131,12 +133,13 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Programm wird überschrieben!</source>
         <translation>程式將被覆寫！</translation>
     </message>
-</context>
-<context>
-    <name>PopupQRCode</name>
     <message>
-        <source>QR Code erzeugen</source>
-        <translation>產生 QR 碼</translation>
+        <source>Programm überschreiben</source>
+        <translation>覆寫程式</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>覆寫</translation>
     </message>
 </context>
 <context>
@@ -144,6 +147,14 @@ Bitte die Anschlüsse und Eingangsdruck
     <message>
         <source>Programm wird endgültig gelöscht!</source>
         <translation>程式將被永久刪除！</translation>
+    </message>
+    <message>
+        <source>Programm löschen</source>
+        <translation>刪除程式</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>刪除</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Alle eigenen Programme werden gelöscht und die Werkseinstellungen wiederhergestellt!</source>
         <translation>所有自訂程式將被刪除，並恢復原廠設定！</translation>
     </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>重設</translation>
+    </message>
 </context>
 <context>
     <name>PopupStop</name>
@@ -163,16 +178,17 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Prozess wird abgebrochen!</source>
         <translation>製程將被中止！</translation>
     </message>
-</context>
-<context>
-    <name>PopupTempWarning</name>
     <message>
-        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
-        <translation>注意！爐體高溫 – 請關閉爐門！</translation>
+        <source>Prozess stoppen</source>
+        <translation>停止過程</translation>
     </message>
     <message>
-        <source>Tür schließen</source>
-        <translation>關閉爐門</translation>
+        <source>Stoppen</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Fortsetzen</source>
+        <translation>繼續</translation>
     </message>
 </context>
 <context>
@@ -181,12 +197,38 @@ Bitte die Anschlüsse und Eingangsdruck
         <source>Datum und Uhrzeit</source>
         <translation>日期與時間</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>儲存</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFilter</name>
+    <message>
+        <source>Meine Programme</source>
+        <translation>我的程式</translation>
+    </message>
+    <message>
+        <source>Service Programme</source>
+        <translation>服務程式</translation>
+    </message>
+</context>
+<context>
+    <name>SelftestProgress</name>
+    <message>
+        <source>%1 von %2 Prüfungen abgeschlossen</source>
+        <translation>已完成 %1/%2 項檢測</translation>
+    </message>
 </context>
 <context>
     <name>TimerPopup</name>
     <message>
         <source>Startzeit festlegen</source>
         <translation>設定啟動時間</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>套用</translation>
     </message>
 </context>
 <context>
@@ -521,6 +563,39 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::Popups::DateTimePopup</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::Popup</name>
+    <message>
+        <source>Argon oder Zirkon?</source>
+        <translation>氬氣或氧化鋯？</translation>
+    </message>
+    <message>
+        <source>Argon</source>
+        <translation>氬氣</translation>
+    </message>
+    <message>
+        <source>Zirkon</source>
+        <translation>氧化鋯</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupFailure</name>
+    <message>
+        <source>Fehler</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
+<context>
     <name>ovra::Popups::PopupLeaveNewProg</name>
     <message>
         <source>Programm nicht gespeichert!
@@ -533,6 +608,14 @@ Zum Hauptmenü?</source>
 Zurück?</source>
         <translation>程式未儲存！
 返回？</translation>
+    </message>
+    <message>
+        <source>Editor verlassen</source>
+        <translation>離開編輯器</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>捨棄</translation>
     </message>
 </context>
 <context>
@@ -549,12 +632,50 @@ Zurück?</source>
         <source>Qt ist unter der GNU Lesser General Public License Version 3 (LGPL v3) lizenziert. Die Qt-Bibliotheken sind dynamisch eingebunden und können durch eine eigene, kompatible Version ersetzt werden. Den Lizenztext finden Sie unter https://www.gnu.org/licenses/lgpl-3.0.html, den Quellcode von Qt unter https://download.qt.io/archive/qt/ und als Quellpaket der verwendeten Debian-Distribution (qtbase-opensource-src).</source>
         <translation>Qt 依據 GNU 較寬鬆通用公共授權條款第 3 版（LGPL v3）授權。Qt 程式庫為動態連結，可替換為您自己的相容版本。授權條款全文請見 https://www.gnu.org/licenses/lgpl-3.0.html，Qt 原始碼請見 https://download.qt.io/archive/qt/ 以及所用 Debian 發行版的原始碼套件（qtbase-opensource-src）。</translation>
     </message>
+    <message>
+        <source>Lizenz</source>
+        <translation>授權</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
 </context>
 <context>
     <name>ovra::Popups::PopupQRCode</name>
     <message>
         <source>QR Code nicht verfügbar</source>
         <translation>QR 碼無法使用</translation>
+    </message>
+    <message>
+        <source>QR Code erzeugen</source>
+        <translation>產生 QR 碼</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupTempWarning</name>
+    <message>
+        <source>Achtung! Ofen ist heiß – Tür schließen!</source>
+        <translation>注意！爐體高溫 – 請關閉爐門！</translation>
+    </message>
+    <message>
+        <source>Tür schließen</source>
+        <translation>關閉爐門</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::Popups::PopupUSB</name>
+    <message>
+        <source>USB-Stick</source>
+        <translation>USB 隨身碟</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
     </message>
 </context>
 <context>

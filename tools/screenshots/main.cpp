@@ -1,4 +1,7 @@
-// Renders every page and popup of the panel to PNG: ovra-screenshots <folder>
+// Renders every page and popup of the panel to PNG:
+//   ovra-screenshots <folder> [--languages KEYWORD,KEYWORD,...]
+// With --languages the main pages, the filter page, the firing history and every popup are
+// rendered in each of those languages (the controller's keywords) instead of the tour's own.
 #include "app/commandline.h"
 #include "app/mainwindow.h"
 #include "tools/screenshots/screenshottour.h"
@@ -18,8 +21,10 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     Q_INIT_RESOURCE(resources);
     qInstallMessageHandler(quiet);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: ovra-screenshots <folder>\n");
+    const QStringList args = QCoreApplication::arguments().mid(1);
+    const bool languages = args.size() == 3 && args.at(1) == QLatin1String("--languages");
+    if (args.size() != 1 && !languages) {
+        std::fprintf(stderr, "usage: ovra-screenshots <folder> [--languages KEYWORD,KEYWORD,...]\n");
         return 2;
     }
     QTemporaryDir home;
@@ -30,7 +35,10 @@ int main(int argc, char *argv[])
     if (!ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_TRANSLATIONS_DIR), home.path()))
         std::fprintf(stderr, "no translations in %s\n", OVRA_TRANSLATIONS_DIR);
     ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
-    const QStringList files = ovra::Tools::ScreenshotTour(&window, QString::fromLocal8Bit(argv[1])).Run();
+    ovra::Tools::ScreenshotTour tour(&window, args.at(0));
+    if (languages)
+        tour.SetLanguages(args.at(2).split(QLatin1Char(','), Qt::SkipEmptyParts), true);
+    const QStringList files = tour.Run();
     for (const QString &file : files)
         std::printf("%s\n", qPrintable(file));
     return files.isEmpty() ? 1 : 0;

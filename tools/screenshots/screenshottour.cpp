@@ -7,6 +7,7 @@
 #include "popups/timerpopup.h"
 #include "programs/heatfiletext.h"
 #include "programs/newprogram.h"
+#include "programs/programfilter.h"
 #include "programs/programhandler.h"
 #include "programs/tablerow.h"
 #include "records/firingdetailview.h"
@@ -16,6 +17,7 @@
 #include "widgets/button.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -191,7 +193,8 @@ QStringList ScreenshotTour::Run()
             // One choice made, as the user would.
             const auto buttons = ui->stackedWidget->currentWidget()->findChildren<GlobalElements::Button *>();
             for (GlobalElements::Button *button : buttons) {
-                if (button->GetText() == QLatin1String("user") || button->GetText() == QLatin1String("Zirkon"))
+                if (button->GetText() == GlobalElements::ProgramFilter::ShownValue(QStringLiteral("user")) ||
+                    button->GetText() == QLatin1String("Zirkon"))
                     button->SetChecked(true);
             }
         }
@@ -275,22 +278,44 @@ QStringList ScreenshotTour::Run()
     Save(numbered(QStringLiteral("usb_stick")));
     m_window->GenerateQRCode();
 
-    m_window->Slot_ShowChoosenProgram(speed, Page::PlayProg);
+    SavePopups(numbered, QString());
+    SaveLanguages(numbered);
+    SaveProcessLanguages(numbered);
+    return m_written;
+}
+
+void ScreenshotTour::SetLanguages(const QStringList &keywords, bool everything)
+{
+    m_languages = keywords;
+    m_everything = everything;
+}
+
+void ScreenshotTour::SavePopups(const std::function<QString(const QString &)> &numbered, const QString &prefix)
+{
+    m_window->Slot_ShowChoosenProgram(m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Zirkon Speed")),
+                                      Page::PlayProg);
     const QList<QDialog *> popups = m_window->findChildren<QDialog *>();
     for (QDialog *popup : popups) // one at a time, each over the page alone
         popup->close();
     for (QDialog *popup : popups) {
         if (auto *usb = qobject_cast<Popups::PopupUSB *>(popup)) {
-            usb->SetText(QStringLiteral("  Firmware Aktualisierung...\n  Bitte warten..."));
+            usb->SetText(QCoreApplication::translate("ovra::MainWindow::MainWindow",
+                                                     "  Firmware Aktualisierung...\n  Bitte warten..."));
             usb->SlotUpdateProgress(QStringLiteral("37%"));
+            usb->SetBusy(true);
         }
         const QString name =
             QString::fromLatin1(popup->metaObject()->className()).section(QStringLiteral("::"), -1).toLower();
-        SavePopup(numbered(QStringLiteral("popup_") + name), popup);
+        SavePopup(numbered(prefix + QStringLiteral("popup_") + name), popup);
     }
-    SaveLanguages(numbered);
-    SaveProcessLanguages(numbered);
-    return m_written;
+}
+
+// Pages only a full tour in every language shows: the manufacturer filter.
+void ScreenshotTour::SaveExtras(const std::function<QString(const QString &)> &numbered, const QString &prefix)
+{
+    m_window->Statemachine(Page::DisplayManufacturer);
+    Save(numbered(prefix + QStringLiteral("filtermanufacturer")));
+    m_window->Statemachine(Page::MainMenu);
 }
 
 bool ScreenshotTour::InstallTranslations(const QString &builtFolder, const QString &home)
@@ -349,7 +374,7 @@ void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)>
 {
     Ui::MainWindow *ui = m_window->GetUi();
     GlobalElements::Program *speed = m_window->GetProgramHandler()->GetProgramByName(QStringLiteral("Zirkon Speed"));
-    for (const QString &language : TourLanguages()) {
+    for (const QString &language : qAsConst(m_languages)) {
         Feed("lang==" + language.toLatin1());
         for (int page : TourPages()) {
             if (page == Page::PlayProg) {
@@ -363,6 +388,10 @@ void ScreenshotTour::SaveLanguages(const std::function<QString(const QString &)>
             Save(numbered(QStringLiteral("%1_%2").arg(language, QString::fromLatin1(pageNames[page]))));
         }
         SaveHistory(numbered, language + QLatin1Char('_'), m_recorded);
+        if (m_everything) {
+            SaveExtras(numbered, language + QLatin1Char('_'));
+            SavePopups(numbered, language + QLatin1Char('_'));
+        }
         m_window->Statemachine(Page::MainMenu);
         ui->stackedWidget_main->setCurrentIndex(0);
     }

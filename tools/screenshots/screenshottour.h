@@ -36,6 +36,10 @@ public:
     // The languages the process page is shown in, a firing and its result, in °C and °F.
     static QStringList ProcessLanguages();
 
+    // Other languages than the tour's; with `everything` each of them also shows every popup,
+    // the filter page and the firing history.
+    void SetLanguages(const QStringList &keywords, bool everything);
+
 private:
     void Feed(const QByteArray &fields);
     // Types a job code as a barcode scanner does: its keys, then Enter.
@@ -48,10 +52,14 @@ private:
     bool SavePopup(const QString &name, QDialog *popup);
     void SaveLanguages(const std::function<QString(const QString &)> &numbered);
     void SaveProcessLanguages(const std::function<QString(const QString &)> &numbered);
+    void SavePopups(const std::function<QString(const QString &)> &numbered, const QString &prefix);
+    void SaveExtras(const std::function<QString(const QString &)> &numbered, const QString &prefix);
 
     Mainwindow::MainWindow *m_window;
     QString m_folder;
     QStringList m_written;
+    QStringList m_languages = TourLanguages();
+    bool m_everything = false;
     qint64 m_recorded = 0; // the seeded firing the history opens
 };
 
