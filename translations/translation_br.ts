@@ -279,7 +279,7 @@ e reinicie o processo.</translation>
     </message>
     <message>
         <source>Feste Programme</source>
-        <translation>Programas predefinidos</translation>
+        <translation>Programas fixos</translation>
     </message>
     <message>
         <source>Gerätedaten</source>

@@ -279,7 +279,7 @@ y reinicie el proceso.</translation>
     </message>
     <message>
         <source>Feste Programme</source>
-        <translation>Programas predefinidos</translation>
+        <translation>Programas fijos</translation>
     </message>
     <message>
         <source>Gerätedaten</source>
@@ -473,7 +473,7 @@ y reinicie el proceso.</translation>
     </message>
     <message>
         <source>Startzeit</source>
-        <translation>Programar</translation>
+        <translation>Diferido</translation>
     </message>
     <message>
         <source>Tür</source>

@@ -303,11 +303,11 @@ puis relancez le processus.</translation>
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>Supprimer le programme</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Programm ändern</source>
-        <translation>Modifier le programme</translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Systemtest wiederholen</source>

@@ -303,11 +303,11 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>プログラム削除</translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Programm ändern</source>
-        <translation>プログラム変更</translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>Systemtest wiederholen</source>

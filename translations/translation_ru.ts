@@ -251,7 +251,7 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
     <message>
         <source>USB Stick erkannt</source>
-        <translation>Обнаружен USB-накопитель</translation>
+        <translation>Обнаружен USB-диск</translation>
     </message>
     <message>
         <source>Programme</source>
@@ -279,7 +279,7 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
     <message>
         <source>Feste Programme</source>
-        <translation>Стандартные программы</translation>
+        <translation>Готовые программы</translation>
     </message>
     <message>
         <source>Gerätedaten</source>
