@@ -8,7 +8,6 @@
 // (the sanitizer pass); OVRA_FIT_SHOTS=DIR also saves every screen measured as a PNG.
 #include "app/mainwindow.h"
 #include "panelharness.h"
-#include "popups/popupbase.h"
 #include "settings/languages.h"
 #include "widgets/button.h"
 #include "widgets/captionfit.h"
@@ -16,9 +15,9 @@
 
 #include <QAbstractScrollArea>
 #include <QCheckBox>
+#include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QStyleOptionButton>
@@ -148,11 +147,12 @@ QStringList Misfits(QWidget *root, const QString &where)
     QList<QWidget *> widgets = root->findChildren<QWidget *>();
     widgets.prepend(root);
     for (QWidget *widget : widgets) {
-        if (!widget->isVisible() || widget->size().isEmpty())
+        if (!widget->isVisible())
             continue;
         // Long texts scroll there; values in fields are the user's.
         if (qobject_cast<QTextEdit *>(widget) != nullptr || qobject_cast<QPlainTextEdit *>(widget) != nullptr)
             continue;
+        widget->ensurePolished(); // the style sheet's font and padding
         Shown shown;
         if (auto *label = qobject_cast<QLabel *>(widget))
             shown = LabelText(label);
@@ -161,7 +161,6 @@ QStringList Misfits(QWidget *root, const QString &where)
         if (shown.text.trimmed().isEmpty())
             continue;
 
-        widget->ensurePolished();
         const QFontMetrics metrics(widget->font());
         const QRect room = shown.room & VisiblePart(widget);
         const QSize needed =
