@@ -28,6 +28,8 @@ private slots:
 
     void captionText_data();
     void captionText();
+    void captionWrapsWithoutSpaces_data();
+    void captionWrapsWithoutSpaces();
 
     void iconsNamedByAForm();
 
@@ -80,6 +82,36 @@ void TestWidgetKit::captionText()
     entry.show();
     entry.SetText(caption);
     QCOMPARE(CaptionFit::DisplayText(entry.GetPushButtonObject()->text()), caption);
+}
+
+void TestWidgetKit::captionWrapsWithoutSpaces_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("widest"); // the line that sets the room
+    QTest::addColumn<QString>("fitted");
+    QTest::newRow("after a hyphen") << "Service-Funktionen"
+                                    << "Funktionen"
+                                    << "Service-\nFunktionen";
+    QTest::newRow("between Japanese characters") << "プログラム変更"
+                                                 << "プログラム"
+                                                 << "プログラム\n変更";
+    // The long vowel mark never starts a line: "メモリ" would fit, "メモ" is what may stay.
+    QTest::newRow("no ー at a line's start") << "メモリー保存"
+                                             << "メモリ"
+                                             << "メモ\nリー保\n存";
+}
+
+void TestWidgetKit::captionWrapsWithoutSpaces()
+{
+    QFETCH(QString, caption);
+    QFETCH(QString, widest);
+    QFETCH(QString, fitted);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(22);
+    const QFontMetrics metrics(font);
+    bool elided = true;
+    QCOMPARE(CaptionFit::Fit(caption, metrics, metrics.horizontalAdvance(widest), 3, &elided), fitted);
+    QVERIFY(!elided);
 }
 
 void TestWidgetKit::iconsNamedByAForm()

@@ -349,7 +349,7 @@ Bloqueado: restam %1 s</translation>
     </message>
     <message>
         <source>Feste Programme</source>
-        <translation>Programas predefinidos</translation>
+        <translation>Programas fixos</translation>
     </message>
     <message>
         <source>Gerätedaten</source>

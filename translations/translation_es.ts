@@ -349,7 +349,7 @@ Bloqueado: quedan %1 s</translation>
     </message>
     <message>
         <source>Feste Programme</source>
-        <translation>Programas predefinidos</translation>
+        <translation>Programas fijos</translation>
     </message>
     <message>
         <source>Gerätedaten</source>
@@ -539,7 +539,7 @@ Bloqueado: quedan %1 s</translation>
     </message>
     <message>
         <source>Startzeit</source>
-        <translation>Programar</translation>
+        <translation>Diferido</translation>
     </message>
     <message>
         <source>Tür</source>

@@ -373,11 +373,11 @@ Bloqué : encore %1 s</translation>
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>Supprimer le programme</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Programm ändern</source>
-        <translation>Modifier le programme</translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Systemtest wiederholen</source>

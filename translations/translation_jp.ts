@@ -373,11 +373,11 @@ Gesperrt: noch %1 s</source>
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>プログラム削除</translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Programm ändern</source>
-        <translation>プログラム変更</translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>Systemtest wiederholen</source>

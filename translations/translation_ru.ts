@@ -321,7 +321,7 @@ Gesperrt: noch %1 s</source>
     </message>
     <message>
         <source>USB Stick erkannt</source>
-        <translation>Обнаружен USB-накопитель</translation>
+        <translation>Обнаружен USB-диск</translation>
     </message>
     <message>
         <source>Programme</source>
@@ -349,7 +349,7 @@ Gesperrt: noch %1 s</source>
     </message>
     <message>
         <source>Feste Programme</source>
-        <translation>Стандартные программы</translation>
+        <translation>Готовые программы</translation>
     </message>
     <message>
         <source>Gerätedaten</source>

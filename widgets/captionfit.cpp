@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QStringList>
+#include <QTextBoundaryFinder>
 
 namespace ovra {
 namespace GlobalElements {
@@ -41,6 +42,33 @@ struct Piece
     bool spaceBefore;
 };
 
+// Chinese and Japanese put no spaces between words: a line may end between almost any two of
+// their characters, and a caption without such breaks could only be shortened, never wrapped.
+bool IsCjk(QChar c)
+{
+    const QChar::Script script = c.script();
+    return script == QChar::Script_Han || script == QChar::Script_Hiragana || script == QChar::Script_Katakana;
+}
+
+// Where a line may end inside one word: after a hyphen between letters (not in a leading
+// "-5"), and where the Unicode line-break rules allow it next to a CJK character (which keeps
+// "ー", small kana and closing marks off the start of a line).
+QList<int> BreaksInWord(const QString &word)
+{
+    QList<int> breaks;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, word);
+    for (int i = 1; i < word.size(); ++i) {
+        bool allowed = word.at(i - 1) == QLatin1Char('-') && i > 1;
+        if (!allowed && (IsCjk(word.at(i - 1)) || IsCjk(word.at(i)))) {
+            finder.setPosition(i);
+            allowed = finder.isAtBoundary();
+        }
+        if (allowed)
+            breaks << i;
+    }
+    return breaks;
+}
+
 QList<Piece> SplitIntoPieces(const QString &text)
 {
     QList<Piece> pieces;
@@ -48,13 +76,10 @@ QList<Piece> SplitIntoPieces(const QString &text)
     for (const QString &word : words) {
         bool first = true;
         int from = 0;
-        for (int i = 0; i < word.size(); ++i) {
-            // Only a hyphen between letters is a break opportunity, not a leading "-5".
-            if (word.at(i) == QLatin1Char('-') && i > 0 && i + 1 < word.size()) {
-                pieces.append({word.mid(from, i + 1 - from), first});
-                first = false;
-                from = i + 1;
-            }
+        for (const int at : BreaksInWord(word)) {
+            pieces.append({word.mid(from, at - from), first});
+            first = false;
+            from = at;
         }
         pieces.append({word.mid(from), first});
     }

@@ -21,9 +21,10 @@ public:
     // The reverse: every "&" doubled so the button shows it literally.
     static QString Escape(const QString &displayText);
 
-    // Word-wraps the caption into at most maxLines lines of at most width pixels, eliding
-    // the last line (or a single over-long word) with "…". elided is set when any text was
-    // dropped, so the caller can offer the full text as a tooltip.
+    // Wraps the caption (at spaces, after hyphens, between Chinese or Japanese characters)
+    // into at most maxLines lines of at most width pixels, eliding the last line (or a single
+    // over-long word) with "…". elided is set when any text was dropped, so the caller can
+    // offer the full text as a tooltip.
     static QString Fit(const QString &caption, const QFontMetrics &metrics, int width, int maxLines,
                        bool *elided = nullptr);
 };
