@@ -40,7 +40,8 @@ void FitLabel(QLabel *label, const Look &look)
     font.setBold(look.bold);
     for (; px > look.smallest; px -= 2) {
         font.setPixelSize(px);
-        if (QFontMetrics(font).horizontalAdvance(label->text()) <= label->width())
+        // The text's full extent, overhangs of bold glyphs included, not only its advance.
+        if (QFontMetrics(font).size(0, label->text()).width() <= label->contentsRect().width())
             break;
     }
     label->setStyleSheet(QStringLiteral("font-size: %1px; font-weight: %2;").arg(px).arg(look.bold ? 700 : 400));

@@ -282,6 +282,19 @@ void TestTextFit::everyTextFitsInEveryLanguage()
                 inner->setCurrentIndex(shown);
             }
         }
+        // The process page in each of its states, with the longest words of each language: a
+        // firing pre-drying, one under way, and its end with a failure of every severity.
+        panel.Send("guistate==" + QByteArray::number(ovra::Mainwindow::Page::ProcessProg));
+        const QList<QPair<QByteArray, QString>> firing = {
+            {"temp==333$$hpinfo==Zirkon Speed;142;pre;pre", QStringLiteral("predry")},
+            {"temp==1480$$hpinfo==Zirkon Speed;42;2;heat", QStringLiteral("heating")},
+            {"temp==1500$$hpinfo==Zirkon Speed;8;3;hold", QStringLiteral("holding")},
+            {"error==F07,E201,I3050$$hpfailed$$hpinfo==", QStringLiteral("result")}};
+        for (const auto &state : firing) {
+            panel.Send(state.first);
+            measure(window, QStringLiteral("page_processProg/") + state.second);
+        }
+        panel.Send("reseterror");
         panel.Send("guistate==3");
         for (int screen = 1; screen < screens->count(); ++screen) {
             screens->setCurrentIndex(screen);
