@@ -6,7 +6,6 @@
 #include "communication/updateblock.h"
 
 #include <QFile>
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -123,7 +122,6 @@ private slots:
     void silentLineIsReset();
     void vanishedDeviceIsClosedAndReopened();
     void oversizedPartialFrameIsDropped();
-    void noiseLeavesThePanelAnswering();
     void nonAsciiNameIsCheckedOverItsBytes_data();
     void nonAsciiNameIsCheckedOverItsBytes();
     void silentControllerIsAskedForMissingBlocks();
@@ -306,28 +304,6 @@ void TestCommunicator::oversizedPartialFrameIsDropped()
 
     answersAFrame();
     QCOMPARE(temperature.count(), 1);
-}
-
-void TestCommunicator::noiseLeavesThePanelAnswering()
-{
-    QRandomGenerator random(20261122);
-    int endChunks = 0;
-    for (int i = 0; i < 300; ++i) {
-        QByteArray chunk(int(random.bounded(1, 64)), '\0');
-        for (char &c : chunk)
-            c = char(random.bounded(256));
-        // Only chunks with an end byte and no start byte may produce an answer.
-        if (chunk.contains(Frame::endByte) && !chunk.contains(Frame::startByte))
-            ++endChunks;
-        sendChunk(chunk);
-    }
-    m_received += m_pty->readAvailable();
-    QCOMPARE(m_received.count(Frame::endByte), endChunks);
-    QCOMPARE(m_received.count(Frame::startByte), endChunks);
-    m_received.clear();
-
-    sendChunk(QByteArray(1, Frame::startByte)); // resynchronise
-    answersAFrame();
 }
 
 void TestCommunicator::nonAsciiNameIsCheckedOverItsBytes_data()

@@ -1,32 +1,20 @@
 // The failure list and the severity of its codes, without a window.
 #include "faults/errorhandler.h"
-#include "faults/failureseverity.h"
 #include "faults/selftestprogress.h"
 
 #include <QSignalSpy>
 #include <QtTest>
 
 using ovra::GlobalElements::ErrorHandler;
-namespace FailureSeverity = ovra::GlobalElements::FailureSeverity;
 
 class TestFaults : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void worstCodeGivesTheSymbol();
     void reportWithdrawAndDelete();
     void selftestRowsCountOncePerEntry();
 };
-
-void TestFaults::worstCodeGivesTheSymbol()
-{
-    QCOMPARE(FailureSeverity::WorstIcon({"E1234"}), QStringLiteral(":/Failure/info.png"));
-    QCOMPARE(FailureSeverity::WorstIcon({"E1234", "E123"}), QStringLiteral(":/Failure/mittel.png"));
-    for (const QStringList &order : {QStringList{"E12", "E1234", "E123"}, QStringList{"E1234", "E123", "E12"}})
-        QCOMPARE(FailureSeverity::WorstIcon(order), QStringLiteral(":/Failure/schwer.png"));
-    QCOMPARE(FailureSeverity::WorstIcon({"", "E1", "E12345"}), QString());
-}
 
 void TestFaults::reportWithdrawAndDelete()
 {

@@ -49,8 +49,6 @@ private slots:
     void receivedText();
     void answerCarriesQueuedRequestsOnce();
     void badFramesAreNackedButOtherFieldsStillRun();
-    void fieldSplitting_data();
-    void fieldSplitting();
     void textCommands_data();
     void textCommands();
     void operatingHoursAnnounceTheOven();
@@ -139,31 +137,6 @@ void TestMessageHandler::badFramesAreNackedButOtherFieldsStillRun()
     QCOMPARE(handler.HandleMessage(wrapped("0")), Frame::Build("ack"));
     // An empty field between separators is rejected.
     QCOMPARE(answerBody(handler.HandleMessage(controllerFrame("temp==1473$$"))), QByteArray("nack"));
-}
-
-void TestMessageHandler::fieldSplitting_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<bool>("accepted");
-
-    QTest::newRow("empty") << QString() << false;
-    QTest::newRow("blanks only") << QStringLiteral("   ") << false;
-    QTest::newRow("line ends only") << QStringLiteral(" \r\\r ") << false;
-    QTest::newRow("parameter missing") << QStringLiteral("temp") << false;
-    QTest::newRow("line key is no command") << QStringLiteral("favorite==1") << false;
-    QTest::newRow("no prefix match") << QStringLiteral("stX==1") << false;
-    QTest::newRow("case sensitive") << QStringLiteral("Temp==300") << false;
-    QTest::newRow("second == ignored") << QStringLiteral("guistate==3==4") << true;
-    QTest::newRow("empty parameter") << QStringLiteral("guistate==") << true;
-    QTest::newRow("never-matched member keyword") << QStringLiteral("anzahlHeizfiles==3") << false;
-}
-
-void TestMessageHandler::fieldSplitting()
-{
-    QFETCH(QString, field);
-    QFETCH(bool, accepted);
-    MessageHandler handler(nowhere);
-    QCOMPARE(handler.ParseMessage(field), accepted);
 }
 
 void TestMessageHandler::textCommands_data()

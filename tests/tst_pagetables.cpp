@@ -13,7 +13,6 @@ class TestPageTables : public QObject
 
 private slots:
     void unknownPagesFallBack();
-    void backFollowsOrigins();
     void startUpRedirects();
 };
 
@@ -24,41 +23,6 @@ void TestPageTables::unknownPagesFallBack()
         QCOMPARE(PageTables::BackTarget(shown, PageOrigins()), P::MainMenu);
         QCOMPARE(PageTables::ForwardTarget(shown), P::MainMenu);
         QCOMPARE(PageTables::Title(static_cast<P>(shown)), nullptr);
-    }
-}
-
-void TestPageTables::backFollowsOrigins()
-{
-    struct Case
-    {
-        Page PageOrigins::*origin;
-        P from; // where the page was entered from
-        P shown;
-        P back;
-    };
-    // Device data's two origins are tapped through by the window test.
-    const Case cases[] = {
-        {&PageOrigins::hitlistOrigin, P::Lists, P::MyHitlist, P::Lists},
-        {&PageOrigins::hitlistOrigin, P::PlayProg, P::MyHitlist, P::MainMenu},
-        {&PageOrigins::editorOrigin, P::MyProgs, P::NewProg, P::MyProgs},
-        {&PageOrigins::editorOrigin, P::PlayProg, P::NewProg, P::PlayProg},
-        {&PageOrigins::editorOrigin, P::ProcessProg, P::NewProg, P::ProcessProg},
-        {&PageOrigins::editorOrigin, P::Progs, P::NewProg, P::Progs},
-        {&PageOrigins::editorOrigin, P::MainMenu, P::NewProg, P::Progs},
-        {&PageOrigins::playOrigin, P::MyHitlist, P::PlayProg, P::MyHitlist},
-        {&PageOrigins::playOrigin, P::FixProgs, P::PlayProg, P::FixProgs},
-        {&PageOrigins::playOrigin, P::ServiceProgs, P::PlayProg, P::ServiceProgs},
-        {&PageOrigins::playOrigin, P::NewProg, P::PlayProg, P::MyProgs}, // from the editor: the user's programs
-        {&PageOrigins::playOrigin, P::MyProgs, P::PlayProg, P::MyProgs},
-        {&PageOrigins::playOrigin, P::StartUp, P::PlayProg, P::MainMenu},
-        {&PageOrigins::filterOrigin, P::Settings, P::DisplayOptions, P::Settings},
-        {&PageOrigins::filterOrigin, P::Progs, P::DisplayOptions, P::Progs},
-        {&PageOrigins::filterOrigin, P::Lists, P::DisplayOptions, P::MainMenu},
-    };
-    for (const Case &c : cases) {
-        PageOrigins o;
-        o.*c.origin = c.from;
-        QCOMPARE(PageTables::BackTarget(c.shown, o), c.back);
     }
 }
 

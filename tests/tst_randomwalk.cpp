@@ -51,56 +51,24 @@ namespace {
 
 // ---- The line's rules, written down again so that the answers can be judged ----
 
+// Every keyword the controller may send; the first nine need no parameter.
 const QStringList &Keywords()
 {
-    static const QStringList words = {"date",
-                                      "time",
-                                      "temp",
-                                      "name",
-                                      "serialno",
-                                      "hwver",
-                                      "swver",
-                                      "ophours",
-                                      "country",
-                                      "stdoor",
-                                      "stheater",
-                                      "stcooling",
-                                      "stargon",
-                                      "st",
-                                      "error",
-                                      "reseterror",
-                                      "heatfile",
-                                      "esttime",
-                                      "stage",
-                                      "guistate",
-                                      "hpinfo",
-                                      "argon",
-                                      "maxrate",
-                                      "code",
-                                      "usb",
-                                      "hpsuccess",
-                                      "hpfailed",
-                                      "matchanged",
-                                      "insulationmissing",
-                                      "doorclose",
-                                      "doorclosed",
-                                      "dooropen",
-                                      "update",
-                                      "waitforuserinteraction",
-                                      "lang",
-                                      "unit",
-                                      "initialstart",
-                                      "hfcount",
-                                      "ack"};
+    static const QStringList words =
+        QStringLiteral(
+            "ack dooropen doorclose doorclosed hpsuccess hpfailed insulationmissing waitforuserinteraction "
+            "initialstart "
+            "date time temp name serialno hwver swver ophours country stdoor stheater stcooling stargon st error "
+            "reseterror heatfile esttime stage guistate hpinfo argon maxrate code usb matchanged update lang unit "
+            "hfcount")
+            .split(QLatin1Char(' '));
     return words;
 }
 
-const QStringList &WithoutParameter()
+bool WithoutParameter(const QString &keyword)
 {
-    static const QStringList words = {"ack",         "dooropen", "doorclose",         "doorclosed",
-                                      "hpsuccess",   "hpfailed", "insulationmissing", "waitforuserinteraction",
-                                      "initialstart"};
-    return words;
+    const int at = Keywords().indexOf(keyword);
+    return at >= 0 && at < 9;
 }
 
 // Sum of the bytes with every "$$" left out, modulo 256.
@@ -146,7 +114,7 @@ bool Accepted(const QString &field)
         return false;
     const QStringList parts = field.split(QStringLiteral("=="));
     const QString &keyword = parts.first();
-    if (!WithoutParameter().contains(keyword) && parts.size() < 2)
+    if (!WithoutParameter(keyword) && parts.size() < 2)
         return false;
     if (!Keywords().contains(keyword))
         return false;
@@ -534,6 +502,10 @@ QByteArray Walk::RandomField()
     using Words = QList<QPair<int, std::function<QByteArray()>>>;
     auto any = [this](std::initializer_list<QByteArray> choices) { return Pick(choices); };
     auto number = [this](int from, int to) { return QByteArray::number(m_random.bounded(from, to)); };
+    // A field of fixed choices, drawn as `any` draws them.
+    auto one = [this](const QByteArray &prefix, const QList<QByteArray> &choices) {
+        return [this, prefix, choices] { return prefix + choices.at(int(m_random.bounded(choices.size()))); };
+    };
     const Words words = {
         // Mostly below the hot-door limit, so that the warning does not cover every screen.
         {7,
@@ -541,18 +513,9 @@ QByteArray Walk::RandomField()
              return "temp==" +
                     any({number(273, 560), number(273, 560), number(273, 2000), number(560, 600), "272", "abc", ""});
          }},
-        {1,
-         [&] {
-             return "date==" + any({"20240131", "20241231", "2024131", "", "abcdefgh"});
-         }},
-        {1,
-         [&] {
-             return "time==" + any({"0905", "2359", "905", "12:00", "abcd"});
-         }},
-        {1,
-         [&] {
-             return any({"name==HTC speed", "serialno==123456", "hwver==3.1", "swver==1.2"});
-         }},
+        {1, one("date==", {"20240131", "20241231", "2024131", "", "abcdefgh"})},
+        {1, one("time==", {"0905", "2359", "905", "12:00", "abcd"})},
+        {1, one("", {"name==HTC speed", "serialno==123456", "hwver==3.1", "swver==1.2"})},
         {1,
          [&] {
              return any({"ophours==" + number(0, 100000), "country==DE", "country=="});
@@ -562,14 +525,8 @@ QByteArray Walk::RandomField()
              return any({"stdoor==", "stheater==", "stcooling==", "stargon==", "st=="}) +
                     any({"pass", "fail", "delete", "x"});
          }},
-        {2,
-         [&] {
-             return "error==" + any({"E12", "E123", "E1234", "E12345", "E12,E1234", ",,", "E1"});
-         }},
-        {2,
-         [&] {
-             return "reseterror==" + any({"E12", "E123", "E1234", "E12345", "nothing"});
-         }},
+        {2, one("error==", {"E12", "E123", "E1234", "E12345", "E12,E1234", ",,", "E1"})},
+        {2, one("reseterror==", {"E12", "E123", "E1234", "E12345", "nothing"})},
         {14, [&] { return Heatfile(); }},
         {2,
          [&] {
@@ -592,59 +549,23 @@ QByteArray Walk::RandomField()
          [&] {
              return "argon==" + (Chance(5) ? QByteArray("True") : any({"False", "true", "x"}));
          }},
-        {1,
-         [&] {
-             return "maxrate==" + any({"30", "120", "0", "abc"});
-         }},
-        {1,
-         [&] {
-             return "code==" + any({"1234", "0", "abc"});
-         }},
-        {3,
-         [&] {
-             return "usb==" + any({"in", "in", "out", "done", "failed", "x"});
-         }},
-        {3,
-         [&] {
-             return any({"hpsuccess", "hpfailed", "hpsuccess==x"});
-         }},
-        {2,
-         [&] {
-             return "matchanged==" + any({"argon", "zirkon", ""});
-         }},
+        {1, one("maxrate==", {"30", "120", "0", "abc"})},
+        {1, one("code==", {"1234", "0", "abc"})},
+        {3, one("usb==", {"in", "in", "out", "done", "failed", "x"})},
+        {3, one("", {"hpsuccess", "hpfailed", "hpsuccess==x"})},
+        {2, one("matchanged==", {"argon", "zirkon", ""})},
         {1, [&] { return QByteArray("insulationmissing"); }},
-        {4,
-         [&] {
-             return any({"doorclose", "doorclosed", "dooropen", "dooropen==x", "doorclosed"});
-         }},
+        {4, one("", {"doorclose", "doorclosed", "dooropen", "dooropen==x", "doorclosed"})},
         {1, [&] { return QByteArray("waitforuserinteraction"); }},
-        {3,
-         [&] {
-             return "lang==" + any({"deutsch", "englischUS", "englischUK", "spanisch", "franzoesisch", "italienisch",
-                                    "japanisch", "portugisisch", "chinesishc", "klingonisch"});
-         }},
-        {2,
-         [&] {
-             return "unit==" + any({"c", "f", "f", "C", "kelvin"});
-         }},
+        {3, one("lang==", {"deutsch", "englischUS", "englischUK", "spanisch", "franzoesisch", "italienisch",
+                           "japanisch", "portugisisch", "chinesishc", "klingonisch"})},
+        {2, one("unit==", {"c", "f", "f", "C", "kelvin"})},
         {1, [&] { return QByteArray("initialstart"); }},
-        {2,
-         [&] {
-             return "hfcount==" + any({"0", "3", "12", "-1", "x"});
-         }},
+        {2, one("hfcount==", {"0", "3", "12", "-1", "x"})},
         {2, [&] { return QByteArray("ack"); }},
-        {2,
-         [&] {
-             return any({"favorite==1", "stX==1", "Temp==300", "foo", "anzahlHeizfiles==3"});
-         }},
-        {2,
-         [&] {
-             return any({"temp", "guistate", "heatfile", "lang", "usb"});
-         }},
-        {1,
-         [&] {
-             return any({"", " ", "\\r"});
-         }},
+        {2, one("", {"favorite==1", "stX==1", "Temp==300", "foo", "anzahlHeizfiles==3"})},
+        {2, one("", {"temp", "guistate", "heatfile", "lang", "usb"})},
+        {1, one("", {"", " ", "\\r"})},
         // An update now and then; each starts a new file.
         {1,
          [&] {

@@ -33,8 +33,6 @@ private slots:
 
     void iconsNamedByAForm();
 
-    void selftestIconTable_data();
-    void selftestIconTable();
     void selftestRowMayBeDeletedByListener();
 
     void programButtonReflectsTheRecordSilently();
@@ -131,29 +129,6 @@ void TestWidgetKit::iconsNamedByAForm()
     DisplayElementIcon box;
     QVERIFY(box.setProperty("icon", path));
     QCOMPARE(box.GetIcon(), path);
-}
-
-void TestWidgetKit::selftestIconTable_data()
-{
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("pass") << "pass" << TestDisplayElement::passIcon;
-    QTest::newRow("upper case is no pass") << "PASS" << TestDisplayElement::failIcon;
-    QTest::newRow("delete resets") << "delete" << TestDisplayElement::pendingIcon;
-    QTest::newRow("fail") << "fail" << TestDisplayElement::failIcon;
-}
-
-void TestWidgetKit::selftestIconTable()
-{
-    QFETCH(QString, result);
-    QFETCH(QString, icon);
-    TestDisplayElement row;
-    QSignalSpy reported(&row, &TestDisplayElement::SignalSelftestResult);
-    QCOMPARE(row.GetIconPath(), TestDisplayElement::pendingIcon);
-    row.SetIconResult(result);
-    QCOMPARE(row.GetIconPath(), icon);
-    QCOMPARE(reported.count(), 1);
-    QCOMPARE(reported.at(0).at(0).toString(), result);
 }
 
 void TestWidgetKit::selftestRowMayBeDeletedByListener()
