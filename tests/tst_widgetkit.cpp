@@ -54,14 +54,13 @@ void TestWidgetKit::captionText_data()
 {
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("escaped ampersand") << "Datum && Uhrzeit"
-                                       << "Datum & Uhrzeit";
-    QTest::newRow("mnemonic dropped") << "&Service"
-                                      << "Service";
-    QTest::newRow("escaped, then mnemonic") << "A&&&B"
-                                            << "A&B";
-    QTest::newRow("trailing ampersand") << "Ende&"
-                                        << "Ende";
+    const auto row = [](const char *tag, const char *caption, const char *shown) {
+        QTest::newRow(tag) << QString::fromUtf8(caption) << QString::fromUtf8(shown);
+    };
+    row("escaped ampersand", "Datum && Uhrzeit", "Datum & Uhrzeit");
+    row("mnemonic dropped", "&Service", "Service");
+    row("escaped, then mnemonic", "A&&&B", "A&B");
+    row("trailing ampersand", "Ende&", "Ende");
 }
 
 void TestWidgetKit::captionText()
@@ -87,16 +86,13 @@ void TestWidgetKit::captionWrapsWithoutSpaces_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("widest"); // the line that sets the room
     QTest::addColumn<QString>("fitted");
-    QTest::newRow("after a hyphen") << "Service-Funktionen"
-                                    << "Funktionen"
-                                    << "Service-\nFunktionen";
-    QTest::newRow("between Japanese characters") << "プログラム変更"
-                                                 << "プログラム"
-                                                 << "プログラム\n変更";
+    const auto row = [](const char *tag, const char *caption, const char *widest, const char *fitted) {
+        QTest::newRow(tag) << QString::fromUtf8(caption) << QString::fromUtf8(widest) << QString::fromUtf8(fitted);
+    };
+    row("after a hyphen", "Service-Funktionen", "Funktionen", "Service-\nFunktionen");
+    row("between Japanese characters", "プログラム変更", "プログラム", "プログラム\n変更");
     // The long vowel mark never starts a line: "メモリ" would fit, "メモ" is what may stay.
-    QTest::newRow("no ー at a line's start") << "メモリー保存"
-                                             << "メモリ"
-                                             << "メモ\nリー保\n存";
+    row("no ー at a line's start", "メモリー保存", "メモリ", "メモ\nリー保\n存");
 }
 
 void TestWidgetKit::captionWrapsWithoutSpaces()
