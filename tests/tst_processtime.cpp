@@ -1,7 +1,7 @@
 // The firing page's arithmetic and rules without a window: the end-time estimate (integer
 // minutes, falls timed like rises, the pre-dry term's unit asymmetry, the 24-hour wrap), the
-// temperature text, and the odd cases of the progress report, the door, the argon test, the
-// pre-dry step and the autostart note. What the window does with them: tst_firing.
+// temperature text, and the odd cases of the door, the argon test, the pre-dry step and the
+// autostart note. The progress report: tst_furnacestate. What the window does with them: tst_firing.
 #include "process/firingrules.h"
 #include "process/processtime.h"
 #include "process/temperaturetext.h"
@@ -22,7 +22,6 @@ private slots:
     void startClockOfADelayedStart();
     void ovenTemperatureFromTheDisplay();
     void temperatureText();
-    void progressReport();
     void doorAndArgon();
     void preDryStepAndAutostartNote();
 };
@@ -105,28 +104,10 @@ void TestProcessTime::temperatureText()
     QCOMPARE(TemperatureText::FromCelsiusText(QStringLiteral("hot"), true).text, QStringLiteral("32°F"));
 }
 
-void TestProcessTime::progressReport()
-{
-    using ovra::Communication::HeatReport;
-    using ovra::Communication::ParseHeatReport;
-    const HeatReport pre = ParseHeatReport(QStringLiteral("Speed;95;pre;pre"));
-    QVERIFY(pre.PreDrying());
-    QCOMPARE(pre.stage, 0u);
-    const HeatReport heat = ParseHeatReport(QStringLiteral("Zirkon HT;80;3;hold;extra"));
-    QCOMPARE(heat.program, QStringLiteral("Zirkon HT"));
-    QCOMPARE(heat.minutesLeft, 80);
-    QCOMPARE(heat.stage, 3u);
-    QCOMPARE(heat.phase, HeatReport::Phase::Hold);
-    QCOMPARE(heat.stageText, QStringLiteral("hold"));
-    QCOMPARE(ParseHeatReport(QStringLiteral("X;1;two;heat")).stage, 0u); // not a number reads as 0
-}
-
 void TestProcessTime::doorAndArgon()
 {
     QVERIFY(Door::Icon(Door::State::Unknown).isEmpty());
-    QVERIFY(!Door::WarnHot(300, 300, Door::State::Opening)); // strictly above
-    QVERIFY(Door::WarnHot(301, 300, Door::State::Closing));  // closing is not closed
-    QVERIFY(!Door::WarnHot(900, 300, Door::State::Closed));
+    // When the door warns: the firing test, 300 °C and 301 °C, closing and closed.
     QVERIFY(IsArgon(QStringLiteral(" Argon ")) && !IsArgon(QStringLiteral("argon")));
 }
 

@@ -2,7 +2,6 @@
 // what goes to the controller, the round trip, and that no record leaks or dangles.
 #include "communication/messagehandler.h"
 #include "programs/heatfiletext.h"
-#include "programs/programfilter.h"
 #include "programs/programhandler.h"
 
 #include <QRandomGenerator>
@@ -13,7 +12,6 @@ using ovra::Communication::MessageHandler;
 using ovra::GlobalElements::Program;
 using ovra::ProgramHandler::ProgramHandler;
 namespace HeatfileText = ovra::GlobalElements::HeatfileText;
-namespace ProgramFilter = ovra::GlobalElements::ProgramFilter;
 
 namespace {
 void quiet(QtMsgType, const QMessageLogContext &, const QString &) {}
@@ -53,9 +51,7 @@ private slots:
     void receivedProgramReplacesInPlace();
     void favourites();
     void deleteByName();
-    void replacedRecordsStayUntilReleased();
     void favouriteFromARowOfARetiredRecord();
-    void filterRules();
 };
 
 void TestProgramHandler::writerExamples()
@@ -215,24 +211,6 @@ void TestProgramHandler::deleteByName()
     QCOMPARE(names(store.GetFavoriteProgramList()), QStringList());
 }
 
-void TestProgramHandler::replacedRecordsStayUntilReleased()
-{
-    // A page may still show a button for a replaced or deleted record: it must stay readable
-    // until the store is told the pages are rebuilt (checked under the sanitizer build).
-    auto *store = new ProgramHandler;
-    Program *old = make("P");
-    store->Slot_AddReceivedProgram(old);
-    store->Slot_AddReceivedProgram(make("P"));
-    store->Slot_AddReceivedProgram(make("Q"));
-    store->Slot_DeleteProgramFromList(QStringLiteral("Q"));
-    store->Slot_AddProgramToList(make("P")); // refused: retired too
-    QCOMPARE(store->RetiredCount(), 3);
-    QCOMPARE(old->GetName(), QStringLiteral("P"));
-    store->ReleaseRetired();
-    QCOMPARE(store->RetiredCount(), 0);
-    delete store; // frees the stored records as well
-}
-
 void TestProgramHandler::favouriteFromARowOfARetiredRecord()
 {
     // A list row still holds a record the controller has just sent again when its star is
@@ -273,23 +251,6 @@ void TestProgramHandler::favouriteFromARowOfARetiredRecord()
     store.ReleaseRetired();
     store.Slot_SetProgramToFav(fresh);
     QCOMPARE(store.GetFavoriteEntries(), QList<Program *>{fresh});
-}
-
-void TestProgramHandler::filterRules()
-{
-    Program a(QStringLiteral("a"), QStringLiteral("Zirkon"), {}, QStringLiteral("A"), false);
-    Program b(QStringLiteral("b"), QStringLiteral("Argon"), {}, QStringLiteral("A"), false);
-    Program c(QStringLiteral("c"), QStringLiteral("Zirkon"), {}, QStringLiteral("Maker B"), false);
-    const QList<Program *> all = {&a, &b, &c};
-    const auto filtered = [&all](const QStringList &makers, const QStringList &materials) {
-        QList<Program *> list = all;
-        ProgramFilter::Apply(list, makers, materials);
-        return list;
-    };
-    QCOMPARE(filtered({}, {}), all);
-    // Both kinds checked: a program must pass both. One kind alone, and a maker with a space
-    // that matches nothing, are tapped through on the program pages.
-    QCOMPARE(filtered({QStringLiteral("A")}, {QStringLiteral("Zirkon")}), QList<Program *>{&a});
 }
 
 QTEST_GUILESS_MAIN(TestProgramHandler)

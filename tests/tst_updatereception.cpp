@@ -109,11 +109,9 @@ private slots:
     void blocksInOrderAreWrittenAndAnnounced();
     void damagedBlocksAreAskedForAgain_data();
     void damagedBlocksAreAskedForAgain();
-    void damagedBlockFromTheStoreHoldsLaterBlocksBack();
     void resendServedLateIsWrittenInItsPlace_data();
     void resendServedLateIsWrittenInItsPlace();
     void repeatedBlocksAreWrittenOnce();
-    void noiseDuringTheUpdateIsNotABlock();
     void silenceIsAskedAboutThenTheUpdateFails();
     void everyRunEndsExactOrFailed();
     void secondUpdateStartsAfresh();
@@ -170,29 +168,6 @@ void TestUpdateReception::damagedBlocksAreAskedForAgain()
     QCOMPARE(r.written(), Receiver::expected({0}));
 }
 
-void TestUpdateReception::damagedBlockFromTheStoreHoldsLaterBlocksBack()
-{
-    Receiver r;
-    r.command("update==7");
-    r.send(block(0));
-    // Lost blocks are asked for in order, and later ones wait in memory until the gap is
-    // filled; a damaged block is asked for again like a lost one.
-    QCOMPARE(r.send(damaged(2)), QStringList{"resend==1"}); // 1 lost, 2 kept as it came
-    QCOMPARE(r.send(block(1)), QStringList{"resend==2"});   // 2 turns out damaged
-    QCOMPARE(r.send(block(3)), QStringList());              // must not overtake 2
-    QCOMPARE(r.written(), Receiver::expected({0, 1}));
-    QCOMPARE(r.send(block(2)), QStringList());
-    QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3}));
-
-    // Two asked for, the first damaged again: the second waits for it.
-    QCOMPARE(r.send(block(6)), (QStringList{"resend==4", "resend==5"}));
-    QCOMPARE(r.send(damaged(4)), QStringList{"resend==4"});
-    QCOMPARE(r.send(block(5)), QStringList());
-    QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3}));
-    QCOMPARE(r.send(block(4)), closing);
-    QCOMPARE(r.written(), Receiver::expected({0, 1, 2, 3, 4, 5, 6}));
-}
-
 void TestUpdateReception::resendServedLateIsWrittenInItsPlace_data()
 {
     QTest::addColumn<QStringList>("blocks"); // "d" before a number: damaged
@@ -240,20 +215,6 @@ void TestUpdateReception::repeatedBlocksAreWrittenOnce()
     QCOMPARE(r.written(), Receiver::expected({0, 1, 2}));
     QCOMPARE(r.send(block(3)), closing);
     QCOMPARE(r.written(), Receiver::whole(4));
-}
-
-void TestUpdateReception::noiseDuringTheUpdateIsNotABlock()
-{
-    Receiver r;
-    r.command("update==2");
-    QCOMPARE(r.handler.HandleMessage(QString::fromLatin1(Frame::Build("temp==300"))), QByteArray());
-    QCOMPARE(r.send(QString()), QStringList());
-    // A number no block of this update can have: line noise in the header, not a gap. The
-    // block it was is unknown; the first one missing is asked for.
-    QCOMPARE(r.send(QString::fromLatin1(UpdateBlock::Encode(999999, "x"))), QStringList{"resend==0"});
-    QCOMPARE(r.send(block(0)), QStringList());
-    QCOMPARE(r.send(block(1)), closing);
-    QCOMPARE(r.written(), Receiver::expected({0, 1}));
 }
 
 void TestUpdateReception::silenceIsAskedAboutThenTheUpdateFails()
