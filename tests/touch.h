@@ -41,3 +41,11 @@ inline void Tap(QWidget *parent, std::initializer_list<const char *> names)
     for (const char *name : names)
         Tap(Key(parent, name));
 }
+
+// Puts the finger on a field, then types the digits on the pad's "pushButton_pad<digit>" keys.
+inline void TypeDigits(QWidget *pad, QWidget *field, const QString &digits)
+{
+    QTest::mouseClick(field, Qt::LeftButton);
+    for (const QChar digit : digits)
+        Tap(pad->findChild<QPushButton *>(QStringLiteral("pushButton_pad") + digit));
+}

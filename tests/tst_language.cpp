@@ -5,6 +5,7 @@
 #include "panelharness.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
+#include "touch.h"
 #include "widgets/button.h"
 
 #include <QAbstractButton>
@@ -161,18 +162,15 @@ void TestLanguage::controllerUnitSetsTheEditorLimits()
     auto *editor = m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg");
     QLineEdit *temp = editor->GetRows().first()->GetTempField();
     send("guistate==16");
-    auto type = [editor, temp](const QString &digits) {
-        temp->clear();
-        QTest::mouseClick(temp, Qt::LeftButton);
-        for (const QChar d : digits)
-            PanelHarness::Click(editor->findChild<QPushButton *>(QStringLiteral("pushButton_pad") + d));
-        return temp->text();
-    };
     send("unit==f");
-    QCOMPARE(type(QStringLiteral("3003")), QStringLiteral("3002")); // 1650 °C
+    temp->clear();
+    TypeDigits(editor, temp, QStringLiteral("3003"));
+    QCOMPARE(temp->text(), QStringLiteral("3002")); // 1650 °C
     // Anything but a lower-case f is Celsius.
     send("unit==F");
-    QCOMPARE(type(QStringLiteral("1700")), QStringLiteral("1650"));
+    temp->clear();
+    TypeDigits(editor, temp, QStringLiteral("1700"));
+    QCOMPARE(temp->text(), QStringLiteral("1650"));
 }
 
 QTEST_MAIN(TestLanguage)

@@ -32,22 +32,14 @@ QPushButton *padKey(NewProgram *editor, const QString &key)
     return editor->findChild<QPushButton *>(QStringLiteral("pushButton_pad") + key);
 }
 
-// Puts the finger on the field and types the digits on the pad.
-void typeInto(NewProgram *editor, QLineEdit *field, const QString &digits)
-{
-    QTest::mouseClick(field, Qt::LeftButton);
-    QCOMPARE(editor->window()->focusWidget(), field);
-    for (const QChar digit : digits)
-        Tap(padKey(editor, QString(digit)));
-}
-
 // Empties the field with the clear key and types the value.
 void enter(NewProgram *editor, QLineEdit *field, const QString &digits)
 {
     QTest::mouseClick(field, Qt::LeftButton);
+    QCOMPARE(editor->window()->focusWidget(), field);
     while (field->text() != QLatin1String("0"))
         Tap(padKey(editor, QStringLiteral("Clear")));
-    typeInto(editor, field, digits);
+    TypeDigits(editor, field, digits);
 }
 
 void typeName(NewProgram *editor, const QString &letters)
@@ -168,7 +160,7 @@ void TstNewProgram::digitPadEditsOnlyTheFocusedField()
 {
     // What a key does to a number is the table's own test; here: only to the focused field.
     QLineEdit *time = m_editor->GetRows().first()->GetTimeField();
-    typeInto(m_editor, time, QStringLiteral("30"));
+    TypeDigits(m_editor, time, QStringLiteral("30"));
 
     // With the focus outside the table the pad does nothing.
     QLineEdit outside(m_host.get());

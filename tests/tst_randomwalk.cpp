@@ -433,21 +433,12 @@ private:
 
 Step Walk::Next()
 {
-    Step step;
     const QList<QAbstractButton *> buttons = Tappable(Window());
-    if (!Chance(50) || buttons.isEmpty()) {
-        step.kind = Step::Frame;
-        step.bytes = m_updating && Chance(90) ? NextBlock() : RandomFrame();
-        return step;
-    }
-    if (QWidget *chart = TappableChart(Window()); chart != nullptr && Chance(5)) {
-        step.kind = Step::Chart;
-        step.bytes = PathOf(chart, Window()).toUtf8();
-        return step;
-    }
-    step.kind = Step::Tap;
-    step.bytes = PathOf(buttons.at(int(m_random.bounded(buttons.size()))), Window()).toUtf8();
-    return step;
+    if (!Chance(50) || buttons.isEmpty())
+        return {Step::Frame, m_updating && Chance(90) ? NextBlock() : RandomFrame()};
+    if (QWidget *chart = TappableChart(Window()); chart != nullptr && Chance(5))
+        return {Step::Chart, PathOf(chart, Window()).toUtf8()};
+    return {Step::Tap, PathOf(buttons.at(int(m_random.bounded(buttons.size()))), Window()).toUtf8()};
 }
 
 // Blocks of the update under way: what was asked for again comes first, now and then one is

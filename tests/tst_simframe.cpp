@@ -45,8 +45,8 @@ void TestSimFrame::checksum_data()
     QTest::addColumn<QByteArray>("built");    // the checksum field the simulator makes for it
     QTest::addColumn<QByteArray>("received"); // a checksum field as it may come in
     QTest::addColumn<bool>("valid");
-    // A right "ack" is framesAndAnswers' first line; frames of several fields pass the
-    // end-to-end tests' checksum count.
+    // A right "ack" is framesAndAnswers' first line; frames of several fields are the soak
+    // run's, which the panel must acknowledge.
 
     QTest::newRow("positive") << QByteArray("ack") << QByteArray("-47") << QByteArray("47") << false;
     // Only the sum modulo 256 is negated; the raw sum does not check.

@@ -5,6 +5,7 @@
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
 #include "simulatorprocess.h"
+#include "touch.h"
 #include "widgets/programbutton.h"
 
 #include <QLineEdit>
@@ -58,20 +59,15 @@ void TestStartUp::selftestThenAProgramTypedOnThePanelReachesTheController()
     QCOMPARE(window->CurrentPage(), Page::NewProg);
     auto *editor = view.Find<ovra::GlobalElements::NewProgram>("widget_newProg");
     const auto key = [editor](const QString &name) { PanelView::Click(editor->findChild<QWidget *>(name)); };
-    const auto type = [&](QLineEdit *field, const QString &digits) {
-        QTest::mouseClick(field, Qt::LeftButton);
-        for (const QChar d : digits)
-            key(QStringLiteral("pushButton_pad") + d);
-    };
     ovra::GlobalElements::TableRow *row = editor->GetRows().first();
-    type(row->GetRateField(), QStringLiteral("25"));
-    type(row->GetTempField(), QStringLiteral("1450"));
-    type(row->GetTimeField(), QStringLiteral("40"));
+    TypeDigits(editor, row->GetRateField(), QStringLiteral("25"));
+    TypeDigits(editor, row->GetTempField(), QStringLiteral("1450"));
+    TypeDigits(editor, row->GetTimeField(), QStringLiteral("40"));
     key(QStringLiteral("pushButton_padEnter"));
     ovra::GlobalElements::TableRow *second = editor->GetRows().at(1);
-    type(second->GetRateField(), QStringLiteral("10"));
-    type(second->GetTempField(), QStringLiteral("1530"));
-    type(second->GetTimeField(), QStringLiteral("120"));
+    TypeDigits(editor, second->GetRateField(), QStringLiteral("10"));
+    TypeDigits(editor, second->GetTempField(), QStringLiteral("1530"));
+    TypeDigits(editor, second->GetTimeField(), QStringLiteral("120"));
     key(QStringLiteral("widget_fwd"));
     key(QStringLiteral("widget_fwdChart"));
     for (const char *letter : {"shift", "k", "r", "o", "n", "e"})
