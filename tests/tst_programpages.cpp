@@ -39,6 +39,12 @@ private:
     QStringList send(const QByteArray &fields) { return m_panel->Send(fields); }
     QStringList listed() const;
     static void click(QWidget *kit) { PanelHarness::Click(kit); }
+    // The filter page's buttons of one kind: "Manufacturer" or "Material".
+    QList<ovra::GlobalElements::Button *> filters(const QString &kind) const
+    {
+        return m_panel->Widget(QStringLiteral("scrollAreaWidgetContents_") + kind)
+            ->findChildren<ovra::GlobalElements::Button *>();
+    }
 
     QScopedPointer<PanelHarness> m_panel;
     MainWindow *m_window = nullptr;
@@ -94,8 +100,7 @@ void TestProgramPages::filtersNarrowTheUserList()
     send(PanelHarness::Heatfile("Fremd", "user", "Glaskeramik", false));
     send("guistate==22");
     QStringList makers;
-    for (auto *b :
-         m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>()) {
+    for (auto *b : filters(QStringLiteral("Manufacturer"))) {
         makers << b->GetText();
         if (b->GetText() == QLatin1String("Meine Programme"))
             click(b);
@@ -105,8 +110,7 @@ void TestProgramPages::filtersNarrowTheUserList()
     QCOMPARE(makers, (QStringList{QStringLiteral("DentaCeram"), QStringLiteral("Dental Werk"),
                                   QStringLiteral("Meine Programme"), QStringLiteral("Service Programme")}));
     send("guistate==23");
-    const auto materials =
-        m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>();
+    const auto materials = filters(QStringLiteral("Material"));
     QCOMPARE(materials.size(), 3);
     for (auto *b : materials) {
         if (b->GetText() == QLatin1String("Zirkon"))
@@ -117,20 +121,16 @@ void TestProgramPages::filtersNarrowTheUserList()
 
     // Visiting the filter page again adds no second button for a known value.
     send("guistate==23");
-    QCOMPARE(
-        m_panel->Widget("scrollAreaWidgetContents_Material")->findChildren<ovra::GlobalElements::Button *>().size(), 3);
+    QCOMPARE(filters(QStringLiteral("Material")).size(), 3);
     // "Dental Werk" never matches its own button: with it checked nothing is listed.
     send("guistate==22");
-    for (auto *b :
-         m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>()) {
+    for (auto *b : filters(QStringLiteral("Manufacturer"))) {
         if (b->GetText() == QLatin1String("Dental Werk") || b->GetText() == QLatin1String("Meine Programme"))
             click(b); // the user's own class off again
     }
     // ... and it gets another button on every visit.
     send("guistate==22");
-    QCOMPARE(
-        m_panel->Widget("scrollAreaWidgetContents_Manufacturer")->findChildren<ovra::GlobalElements::Button *>().size(),
-        6);
+    QCOMPARE(filters(QStringLiteral("Manufacturer")).size(), 6);
     send("guistate==10");
     QCOMPARE(listed(), QStringList());
 }
