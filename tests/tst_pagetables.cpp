@@ -13,6 +13,7 @@ class TestPageTables : public QObject
 
 private slots:
     void unknownPagesFallBack();
+    void backFollowsOrigins();
     void startUpRedirects();
 };
 
@@ -23,6 +24,34 @@ void TestPageTables::unknownPagesFallBack()
         QCOMPARE(PageTables::BackTarget(shown, PageOrigins()), P::MainMenu);
         QCOMPARE(PageTables::ForwardTarget(shown), P::MainMenu);
         QCOMPARE(PageTables::Title(static_cast<P>(shown)), nullptr);
+    }
+}
+
+// Each origin once as remembered, and where an origin the page does not go back to leads.
+void TestPageTables::backFollowsOrigins()
+{
+    struct Case
+    {
+        Page PageOrigins::*origin;
+        P from; // where the page was entered from
+        P shown;
+        P back;
+    };
+    const Case cases[] = {
+        {&PageOrigins::hitlistOrigin, P::Lists, P::MyHitlist, P::Lists},
+        {&PageOrigins::hitlistOrigin, P::PlayProg, P::MyHitlist, P::MainMenu},
+        {&PageOrigins::editorOrigin, P::ProcessProg, P::NewProg, P::ProcessProg},
+        {&PageOrigins::editorOrigin, P::MainMenu, P::NewProg, P::Progs},
+        {&PageOrigins::playOrigin, P::MyHitlist, P::PlayProg, P::MyHitlist},
+        {&PageOrigins::playOrigin, P::NewProg, P::PlayProg, P::MyProgs}, // from the editor: the user's programs
+        {&PageOrigins::playOrigin, P::StartUp, P::PlayProg, P::MainMenu},
+        {&PageOrigins::filterOrigin, P::Settings, P::DisplayOptions, P::Settings},
+        {&PageOrigins::filterOrigin, P::Lists, P::DisplayOptions, P::MainMenu},
+    };
+    for (const Case &c : cases) {
+        PageOrigins o;
+        o.*c.origin = c.from;
+        QCOMPARE(PageTables::BackTarget(c.shown, o), c.back);
     }
 }
 
