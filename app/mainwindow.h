@@ -7,8 +7,8 @@
 #include "app/paths.h"
 #include "faults/selftestprogress.h"
 #include "process/firingrules.h"
-#include "process/jobcode.h"
 #include "process/firingsummary.h"
+#include "process/jobcode.h"
 #include "records/firingrecorder.h"
 #include "settings/devicereport.h"
 #include "settings/usbsession.h"
@@ -221,6 +221,7 @@ private:
     void PreparePageDisplayManufacturer();
     void PreparePageDisplayMaterial();
     void PreparePageUSBMenu();
+    void ShowFailureHistory();
     void PreparePageChangeProgram(const QString &name);
     void PreparePagePlay(int from);
     // Fills the program or process page from a program without switching to it.

@@ -111,6 +111,7 @@ void MainWindow::PreparePage(Page page, int from)
     case Page::DisplayManufacturer: PreparePageDisplayManufacturer(); break;
     case Page::DisplayMaterial: PreparePageDisplayMaterial(); break;
     case Page::USB: PreparePageUSBMenu(); break;
+    case Page::FailureList: ShowFailureHistory(); break;
     default: break;
     }
 }

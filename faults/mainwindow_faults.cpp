@@ -83,6 +83,14 @@ void MainWindow::SlotErrorHandling(const QString &codes)
     // The model has taken the codes already, each with the controller's clock.
     for (const QString &code : codes.split(QLatin1Char(','), Qt::KeepEmptyParts))
         m_errorHandler->AddError(code);
+    // The whole history is laid out anew each time: only for the page that shows it, or a
+    // controller repeating its failures makes every report cost more than the one before.
+    if (m_furnace.CurrentPage() == Page::FailureList)
+        ShowFailureHistory();
+}
+
+void MainWindow::ShowFailureHistory()
+{
     ui->textEdit_FailureList->setPlainText(GlobalElements::FailureSeverity::History(m_furnace.FailureLog()));
 }
 
@@ -110,8 +118,7 @@ void MainWindow::ErrorHandling()
                                                           : QStringLiteral("background-image: url(%1);").arg(icon));
     // The menus' small boxes keep the codes alone: their symbol says the worst severity.
     ui->textEdit_test->setPlainText(list);
-    ui->textEdit_mainMenu->setPlainText(list);
-    m_popupFailure->SetFailurePopupText(GlobalElements::FailureSeverity::Lines(m_errorHandler->GetProcessErrorList()));
+    ui->textEdit_mainMenu->setPlainText(list); // the failure popup follows the list by itself
 }
 
 void MainWindow::SlotDeleteFailure()

@@ -259,13 +259,16 @@ void TestMainWindow::failuresShowTheWorstSymbol()
     send("date==20261122$$time==0905$$error==E123,E12");
     QVERIFY(m_panel->Shown("pushButton_infoMainMenu"));
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/schwer.png);"));
-    QVERIFY(m_panel->Find<QTextEdit>("textEdit_FailureList")
-                ->toPlainText()
-                .startsWith(QStringLiteral("22.11.2026, 09:05: E12  Schwerer Fehler\n")));
     send("reseterror==E12");
     QCOMPARE(m_panel->Style("widget_processError"), QStringLiteral("background-image: url(:/Failure/mittel.png);"));
 
+    // The history, drawn when its page is entered and kept current while it is shown; a
+    // withdrawn failure stays in it.
+    const auto history = [this] { return m_panel->Find<QTextEdit>("textEdit_FailureList")->toPlainText(); };
     send("guistate==20");
+    QVERIFY(history().startsWith(QStringLiteral("22.11.2026, 09:05: E12  Schwerer Fehler\n")));
+    send("time==0910$$error==I3050");
+    QVERIFY(history().startsWith(QStringLiteral("22.11.2026, 09:10: I3050  Hinweis\n22.11.2026, 09:05: E12")));
     m_panel->Tap("widget_deleteFailureList");
     Tap(m_window->findChild<ovra::Popups::PopupDeleteFailureList *>(), "pushButton_OKDel");
     QVERIFY(!m_panel->Shown("pushButton_infoMainMenu"));
