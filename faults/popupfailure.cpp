@@ -27,7 +27,6 @@ PopupFailure::PopupFailure(ovra::GlobalElements::ErrorHandler *errors, QWidget *
     if (m_errors) {
         connect(m_errors, &GlobalElements::ErrorHandler::SignalErrorListChanged, this,
                 &PopupFailure::SlotErrorListChanged);
-        SlotErrorListChanged();
     }
 }
 
@@ -37,6 +36,7 @@ void PopupFailure::Translate()
 {
     SetTitle(tr("Fehler"));
     m_ok->setText(tr("OK"));
+    SlotErrorListChanged(); // the severity words are in the language shown
 }
 
 void PopupFailure::SetFailurePopupText(const QString &text)

@@ -2,6 +2,7 @@
 // page and popup switched at once, the controller's unit in the editor. Translations come from
 // the build, copied into the panel's home.
 #include "app/mainwindow.h"
+#include "faults/popupfailure.h"
 #include "panelharness.h"
 #include "programs/newprogram.h"
 #include "programs/tablerow.h"
@@ -143,6 +144,7 @@ void TestLanguage::everyTextOfEveryPageAndPopupFollows()
     }
     send("guistate==5");
     QVERIFY(ShownTexts(m_panel->Window()).contains(QStringLiteral("Neues Programm")));
+    send("error==F07"); // its severity in words, written before the language changes
 
     send("lang==englischUS");
     QStringList left;
@@ -152,6 +154,8 @@ void TestLanguage::everyTextOfEveryPageAndPopupFollows()
     }
     QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral(" | "))));
     QCOMPARE(title(), QStringLiteral("PROGRAM OPTIONS"));
+    QCOMPARE(m_panel->Window()->findChild<ovra::Popups::PopupFailure *>()->GetFailurePopupText(),
+             QStringLiteral("F07  Severe error\n"));
     QCOMPARE(m_panel->Find<ovra::GlobalElements::NewProgram>("widget_newProg")->GetSaveTitle(),
              QStringLiteral("Save program"));
 }
