@@ -2,9 +2,9 @@
 
 #include "app/furnacestate.h"
 #include "process/firingglance.h"
+#include "widgets/captionfit.h"
 
 #include <QEvent>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -35,15 +35,10 @@ QLabel *MakeLabel(const char *name, QWidget *parent)
 
 void FitLabel(QLabel *label, const Look &look)
 {
-    int px = look.largest;
     QFont font = label->font();
     font.setBold(look.bold);
-    for (; px > look.smallest; px -= 2) {
-        font.setPixelSize(px);
-        // The text's full extent, overhangs of bold glyphs included, not only its advance.
-        if (QFontMetrics(font).size(0, label->text()).width() <= label->contentsRect().width())
-            break;
-    }
+    const int px = GlobalElements::CaptionFit::LargestPixels(font, label->text(), label->contentsRect().width(),
+                                                             look.largest, look.smallest);
     label->setStyleSheet(QStringLiteral("font-size: %1px; font-weight: %2;").arg(px).arg(look.bold ? 700 : 400));
 }
 } // namespace

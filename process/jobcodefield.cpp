@@ -2,6 +2,7 @@
 
 #include "process/jobcode.h"
 #include "process/jobcodekeyboard.h"
+#include "widgets/captionfit.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -91,13 +92,8 @@ void JobCodeField::paintEvent(QPaintEvent *)
     const QString shown = code.isEmpty() ? tr("Scannen oder tippen") : code;
     font.setBold(!code.isEmpty());
     font.setItalic(code.isEmpty());
-    static const QList<int> hintSizes = {18, 16};
-    static const QList<int> codeSizes = {22, 20, 18, 16};
-    for (const int pixels : code.isEmpty() ? hintSizes : codeSizes) {
-        font.setPixelSize(pixels);
-        if (QFontMetrics(font).horizontalAdvance(shown) <= inner.width())
-            break;
-    }
+    font.setPixelSize(
+        GlobalElements::CaptionFit::LargestPixels(font, shown, inner.width(), code.isEmpty() ? 18 : 22, 16));
     painter.setFont(font);
     painter.setPen(code.isEmpty() ? QColor(0x53, 0x58, 0x5B) : QColor(0x22, 0x31, 0x3F));
     painter.drawText(

@@ -1,5 +1,6 @@
 #include "widgets/captionfit.h"
 
+#include <QFont>
 #include <QFontMetrics>
 #include <QStringList>
 #include <QTextBoundaryFinder>
@@ -137,6 +138,17 @@ QString CaptionFit::Fit(const QString &caption, const QFontMetrics &metrics, int
     if (elided)
         *elided = dropped;
     return Escape(lines.join(QLatin1Char('\n')));
+}
+
+int CaptionFit::LargestPixels(QFont font, const QString &text, int width, int largest, int smallest)
+{
+    int pixels = largest;
+    for (; pixels > smallest; pixels -= 2) {
+        font.setPixelSize(pixels);
+        if (QFontMetrics(font).size(0, text).width() <= width)
+            break;
+    }
+    return qMax(pixels, smallest);
 }
 
 } // namespace GlobalElements

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QFont;
 class QFontMetrics;
 
 namespace ovra {
@@ -27,6 +28,11 @@ public:
     // offer the full text as a tooltip.
     static QString Fit(const QString &caption, const QFontMetrics &metrics, int width, int maxLines,
                        bool *elided = nullptr);
+
+    // The largest pixel size from largest down to smallest, in steps of two, at which the text
+    // fits on one line in width pixels, measured by its full extent (overhangs included);
+    // smallest when none does. A text read from across the room shrinks before it is cut.
+    static int LargestPixels(QFont font, const QString &text, int width, int largest, int smallest);
 };
 
 } // namespace GlobalElements
