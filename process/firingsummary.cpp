@@ -4,6 +4,7 @@
 #include "app/furnacestate.h"
 #include "faults/failureseverity.h"
 #include "process/temperaturetext.h"
+#include "records/firingchart.h"
 
 #include <QtNumeric>
 
@@ -82,12 +83,6 @@ void FiringSummary::Dismiss()
     emit Changed();
 }
 
-QString FiringSummary::Duration(qint64 minutes)
-{
-    const qint64 m = qMax<qint64>(0, minutes);
-    return QStringLiteral("%1:%2 h").arg(m / 60).arg(m % 60, 2, 10, QLatin1Char('0'));
-}
-
 SummaryText FiringSummary::Text(bool fahrenheit) const
 {
     SummaryText text;
@@ -96,7 +91,7 @@ SummaryText FiringSummary::Text(bool fahrenheit) const
     text.result = Caption(m_result == Result::Success ? Mainwindow::Captions::ProgrammBeendet
                                                       : Mainwindow::Captions::ProgrammAbgebrochen);
     if (m_begun && m_start.isValid() && m_end.isValid() && m_start <= m_end)
-        text.rows.append({tr("Dauer"), Duration(m_start.secsTo(m_end) / 60)});
+        text.rows.append({tr("Dauer"), Records::FiringChart::DurationText(int(m_start.secsTo(m_end)))});
     if (m_end.isValid())
         text.rows.append({tr("Ende"), m_end.toString(QStringLiteral("hh:mm"))});
     if (m_begun && m_hasHighest) {

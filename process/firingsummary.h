@@ -51,8 +51,6 @@ public:
     bool Succeeded() const { return m_result == Result::Success; }
     SummaryText Text(bool fahrenheit) const;
 
-    static QString Duration(qint64 minutes); // "2:05 h"
-
 signals:
     void Changed();
 
