@@ -11,7 +11,6 @@ constexpr int kAnswerTimeoutMs = 1000;
 constexpr int kTimeoutsUntilLost = 3;
 
 const QByteArray kModelName = "Ovra S1";
-const QByteArray kSerialNumber = "S1-2304-0087";
 const QByteArray kHardwareVersion = "HX3-C";
 const QByteArray kSoftwareVersion = "3.12.0";
 constexpr int kOperatingHours = 1234;
@@ -100,6 +99,7 @@ Hx3Controller::Hx3Controller(PtyLine *line, const Options &options, QObject *par
     m_commandHandlers.insert(QStringLiteral("reseterror"), &Hx3Controller::commandResetError);
     m_commandHandlers.insert(QStringLiteral("fail"), &Hx3Controller::commandFail);
     m_commandHandlers.insert(QStringLiteral("temp"), &Hx3Controller::commandTemp);
+    m_commandHandlers.insert(QStringLiteral("fire"), &Hx3Controller::commandFire);
     m_commandHandlers.insert(QStringLiteral("lang"), &Hx3Controller::commandLanguage);
     m_commandHandlers.insert(QStringLiteral("unit"), &Hx3Controller::commandUnit);
     m_commandHandlers.insert(QStringLiteral("update"), &Hx3Controller::commandUpdate);
@@ -163,7 +163,7 @@ QList<Hx3Controller::Outgoing> Hx3Controller::startupFrames() const
         frames.append(single("initialstart", Kind::Startup));
     frames += QList<Outgoing>{
         {{command("name", kModelName)}, Kind::Startup},
-        {{command("serialno", kSerialNumber)}, Kind::Startup},
+        {{command("serialno", m_options.serial)}, Kind::Startup},
         {{command("hwver", kHardwareVersion)}, Kind::Startup},
         {{command("swver", kSoftwareVersion)}, Kind::Startup},
         {{command("ophours", QByteArray::number(kOperatingHours))}, Kind::Startup},

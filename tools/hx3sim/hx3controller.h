@@ -55,6 +55,8 @@ public:
         bool argon = false;
         // The service PIN handed to the panel at start-up ("code==").
         QByteArray pin = "1234";
+        // The serial number told to the panel: a fleet of simulators needs one each.
+        QByteArray serial = "S1-2304-0087";
         // A stick in the USB socket at start-up; how long a firmware or configuration
         // update from it takes.
         bool usbStick = false;
@@ -163,6 +165,7 @@ private:
     void commandResetError(const QString &arguments);
     void commandFail(const QString &arguments);
     void commandTemp(const QString &arguments);
+    void commandFire(const QString &arguments);
     void commandLanguage(const QString &arguments);
     void commandUnit(const QString &arguments);
     void sendEvent(const QByteArray &field);

@@ -106,6 +106,17 @@ void Hx3Controller::startFiring(const QString &name, int preDryMinutes)
     handleFurnaceEvents();
 }
 
+// A firing started at the furnace itself rather than from the panel, as a fleet of unattended
+// simulators needs: the panel joins it from its reports.
+void Hx3Controller::commandFire(const QString &arguments)
+{
+    if (arguments.isEmpty()) {
+        emit message(QStringLiteral("usage: fire <program>"));
+        return;
+    }
+    startFiring(arguments, 0);
+}
+
 void Hx3Controller::endFiring(Outcome outcome)
 {
     m_furnace.stop();

@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <algorithm>
+#include <cctype>
 #include <csignal>
 #include <cstdio>
 
@@ -105,6 +107,9 @@ int main(int argc, char *argv[])
         QStringLiteral("door-ms"),
         QStringLiteral("Milliseconds the lift door takes to open or close, whatever the speed."), QStringLiteral("ms"),
         QStringLiteral("3000"));
+    const QCommandLineOption serialOption(QStringLiteral("serial"),
+                                          QStringLiteral("Serial number told to the panel (letters, digits, - and _)."),
+                                          QStringLiteral("text"), QStringLiteral("S1-2304-0087"));
     const QCommandLineOption argonOption(QStringLiteral("argon"),
                                          QStringLiteral("An argon furnace: says argon==True at start-up."));
     const QCommandLineOption pinOption(QStringLiteral("pin"),
@@ -143,7 +148,8 @@ int main(int argc, char *argv[])
                        commissioningOption, programsOption,      manyOption,        speedOption,
                        doorOption,          argonOption,         pinOption,         usbOption,
                        usbMsOption,         updateOption,        updateBlockOption, updateDropOption,
-                       updateCorruptOption, updateReorderOption, updateSeedOption,  updateBaudOption});
+                       updateCorruptOption, updateReorderOption, updateSeedOption,  updateBaudOption,
+                       serialOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return usageError(parser.errorText());
@@ -188,6 +194,11 @@ int main(int argc, char *argv[])
     }
     options.commissioning = parser.isSet(commissioningOption);
     options.argon = parser.isSet(argonOption);
+    options.serial = parser.value(serialOption).toLatin1();
+    if (options.serial.isEmpty() || options.serial.size() > 32 ||
+        !std::all_of(options.serial.cbegin(), options.serial.cend(),
+                     [](char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '-' || c == '_'; }))
+        return usageError(QStringLiteral("--serial needs 1 to 32 letters, digits, - or _"));
 
     const QString pin = parser.value(pinOption);
     pin.toUInt(&ok);
