@@ -116,7 +116,8 @@ void LabLink::StartWhenIdKnown()
     connect(m_client.get(), &MqttClient::Connected, this, &LabLink::OnConnected);
     connect(m_client.get(), &MqttClient::Disconnected, this, [this](MqttClient::Problem problem) {
         if (m_status.IsConnected() || problem != m_status.LastProblem())
-            qDebug() << "lab link: not connected to" << m_status.Broker() << static_cast<int>(problem);
+            qDebug().noquote() << "lab link: not connected to" << m_status.Broker() + QLatin1Char(':')
+                               << MqttClient::Describe(problem);
         m_status.SetConnected(false);
         m_status.SetProblem(problem);
         // What was in flight goes again after the next connect; a receiver drops duplicates.
@@ -186,7 +187,7 @@ void LabLink::Event(const QString &event, const QJsonObject &fields)
         qDebug() << "lab link: too many events waiting, the oldest is dropped";
         m_events.removeFirst();
     }
-    m_events.append({Topic(m_id, "event"), EventPayload(event, m_furnace, fields)});
+    m_events.append(EventPayload(event, m_furnace, fields));
     PumpEvents();
 }
 
@@ -194,10 +195,7 @@ void LabLink::PumpEvents()
 {
     // Unacknowledged events are bounded, so a broker that stops reading holds at most a few.
     while (m_client && m_client->IsConnected() && !m_events.isEmpty() && m_eventsInFlight.size() < 10) {
-        auto event = m_events.first();
-        if (event.first != Topic(m_id, "event"))
-            event.first = Topic(m_id, "event"); // made before the id was known
-        const int mid = m_client->Publish(event.first, event.second, 1, false);
+        const int mid = m_client->Publish(Topic(m_id, "event"), m_events.first(), 1, false);
         if (mid == 0)
             return;
         m_events.removeFirst();

@@ -92,7 +92,7 @@ private:
     int m_stateMid = 0; // the state publish in flight, 0: none
     int m_statesPublished = 0;
 
-    QList<QPair<QString, QByteArray>> m_events; // waiting for the broker
+    QList<QByteArray> m_events; // waiting for the broker
     QHash<int, bool> m_eventsInFlight;
     QHash<int, QPair<qint64, QString>> m_recordsInFlight; // message id: firing, uid
     bool m_doorWarned = false;

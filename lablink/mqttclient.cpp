@@ -42,6 +42,20 @@ MqttClient::Problem problemOf(int rc, int error)
 }
 } // namespace
 
+const char *MqttClient::Describe(Problem problem)
+{
+    switch (problem) {
+    case Problem::None: break;
+    case Problem::NameUnknown: return "the broker's name is unknown";
+    case Problem::Unreachable: return "the broker cannot be reached";
+    case Problem::Refused: return "the broker refused the connection";
+    case Problem::NotAuthorised: return "user name or password refused";
+    case Problem::Tls: return "the TLS handshake failed";
+    case Problem::Lost: return "the connection was lost";
+    }
+    return "no problem";
+}
+
 MqttClient::MqttClient(const Options &options, QObject *parent) : QObject(parent), m_options(options)
 {
     qRegisterMetaType<Problem>();

@@ -38,6 +38,8 @@ public:
         int backoffMaxMs = 60000;
     };
 
+    static const char *Describe(Problem problem); // for the log: "broker unreachable", ...
+
     explicit MqttClient(const Options &options, QObject *parent = nullptr);
     ~MqttClient() override; // leaves without last words; see Finish()
     MqttClient(const MqttClient &) = delete;
