@@ -240,8 +240,7 @@ void LabLink::CollectSoon()
 
 void LabLink::CheckDoorWarning()
 {
-    const bool warn =
-        Process::Door::WarnHot(m_furnace.Shown().value, m_furnace.DoorTempLimit(), m_furnace.Door());
+    const bool warn = Process::Door::WarnHot(m_furnace.Shown().value, m_furnace.DoorTempLimit(), m_furnace.Door());
     if (warn && !m_doorWarned)
         Event(QStringLiteral("door_warning"),
               {{QStringLiteral("temperature"), static_cast<qint64>(qRound64(m_furnace.Celsius()))}});

@@ -59,7 +59,8 @@ bool LabLinkConfig::Load(const QString &home, LabLinkConfig *config, QString *er
         return false;
     }
     if (!id.isEmpty() && c.furnaceId != id) {
-        *error = QStringLiteral("%1: [furnace] id may hold only letters, digits, \"-\" and \"_\": \"%2\"").arg(file, id);
+        *error =
+            QStringLiteral("%1: [furnace] id may hold only letters, digits, \"-\" and \"_\": \"%2\"").arg(file, id);
         return false;
     }
     if (!c.password.isEmpty() && c.username.isEmpty()) {

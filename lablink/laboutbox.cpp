@@ -65,7 +65,8 @@ void LabOutbox::Collect()
                                  " VALUES(1, (SELECT MAX(COALESCE((SELECT MAX(id) FROM firings), 0), ?)))"));
     store.addBindValue(since);
     if (!take.exec() || !store.exec())
-        qDebug() << "lab link outbox: cannot take in new firings" << take.lastError().text() << store.lastError().text();
+        qDebug() << "lab link outbox: cannot take in new firings" << take.lastError().text()
+                 << store.lastError().text();
     m_store.Flush();
 }
 

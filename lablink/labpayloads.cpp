@@ -123,8 +123,8 @@ QByteArray StatePayload(const FurnaceState &furnace)
     }
     const QJsonObject state{
         {QStringLiteral("time"), timeValue(ControllerTime(furnace.Date(), furnace.Time()))},
-        {QStringLiteral("temperature"), furnace.CelsiusText().isEmpty() ? QJsonValue(QJsonValue::Null)
-                                                                        : QJsonValue(whole(furnace.Celsius()))},
+        {QStringLiteral("temperature"),
+         furnace.CelsiusText().isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(whole(furnace.Celsius()))},
         {QStringLiteral("unit"), furnace.IsFahrenheit() ? QStringLiteral("f") : QStringLiteral("c")},
         {QStringLiteral("page"), PageWord(furnace.CurrentPage())},
         {QStringLiteral("door"), door == Door::Closed    ? QStringLiteral("closed")

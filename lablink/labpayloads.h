@@ -39,8 +39,7 @@ QByteArray EventPayload(const QString &event, const GlobalElements::FurnaceState
 QByteArray RecordPayload(const Records::FiringRecord &record, const QString &furnaceId);
 
 // The retained Home Assistant discovery messages: topic and payload.
-QList<QPair<QString, QByteArray>> DiscoveryMessages(const QString &furnaceId,
-                                                    const GlobalElements::DeviceInfo &device);
+QList<QPair<QString, QByteArray>> DiscoveryMessages(const QString &furnaceId, const GlobalElements::DeviceInfo &device);
 
 } // namespace LabLink
 } // namespace ovra

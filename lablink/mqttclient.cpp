@@ -71,7 +71,8 @@ MqttClient::MqttClient(const Options &options, QObject *parent) : QObject(parent
     if (!options.willTopic.isEmpty())
         mosquitto_will_set(m_mosq, options.willTopic.toUtf8().constData(), 5, "false", 1, true);
     if (!options.cafile.isEmpty()) {
-        const int rc = mosquitto_tls_set(m_mosq, options.cafile.toUtf8().constData(), nullptr, nullptr, nullptr, nullptr);
+        const int rc =
+            mosquitto_tls_set(m_mosq, options.cafile.toUtf8().constData(), nullptr, nullptr, nullptr, nullptr);
         if (rc != MOSQ_ERR_SUCCESS)
             qDebug() << "lab link: the CA file" << options.cafile << "is not usable:" << mosquitto_strerror(rc);
     }
@@ -98,8 +99,8 @@ int MqttClient::Publish(const QString &topic, const QByteArray &payload, int qos
     if (!m_connected)
         return 0;
     int mid = 0;
-    const int rc = mosquitto_publish(m_mosq, &mid, topic.toUtf8().constData(), payload.size(), payload.constData(),
-                                     qos, retain);
+    const int rc =
+        mosquitto_publish(m_mosq, &mid, topic.toUtf8().constData(), payload.size(), payload.constData(), qos, retain);
     return rc == MOSQ_ERR_SUCCESS ? std::max(mid, 1) : 0;
 }
 
@@ -146,7 +147,8 @@ void MqttClient::Run()
 
 void MqttClient::Report(Problem problem)
 {
-    QMetaObject::invokeMethod(this, [this, problem] { emit Disconnected(problem); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, problem] { emit Disconnected(problem); }, Qt::QueuedConnection);
 }
 
 void MqttClient::OnConnect(struct mosquitto *, void *self, int rc)
@@ -159,7 +161,8 @@ void MqttClient::OnConnect(struct mosquitto *, void *self, int rc)
     }
     client->m_delayMs = client->m_options.backoffMinMs;
     client->m_connected = true;
-    QMetaObject::invokeMethod(client, [client] { emit client->Connected(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        client, [client] { emit client->Connected(); }, Qt::QueuedConnection);
 }
 
 void MqttClient::OnDisconnect(struct mosquitto *, void *self, int)
@@ -175,7 +178,8 @@ void MqttClient::OnDisconnect(struct mosquitto *, void *self, int)
 void MqttClient::OnPublish(struct mosquitto *, void *self, int mid)
 {
     auto *client = static_cast<MqttClient *>(self);
-    QMetaObject::invokeMethod(client, [client, mid] { emit client->Published(mid); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        client, [client, mid] { emit client->Published(mid); }, Qt::QueuedConnection);
 }
 
 } // namespace LabLink

@@ -50,9 +50,8 @@ FiringHistory::FiringHistory(const QString &file)
     if (QFile::exists(file) && !m_open)
         qDebug() << "firing history: cannot open" << file << db.lastError().text();
     // Read-only, an older file is read as it is: what it lacks reads as empty.
-    const std::pair<QString *, QString> columns[] = {{&m_job, QStringLiteral("job")},
-                                                     {&m_device, QStringLiteral("device")},
-                                                     {&m_uid, QStringLiteral("uid")}};
+    const std::pair<QString *, QString> columns[] = {
+        {&m_job, QStringLiteral("job")}, {&m_device, QStringLiteral("device")}, {&m_uid, QStringLiteral("uid")}};
     for (const auto &column : columns) {
         if (!m_open)
             break;

@@ -75,10 +75,10 @@ void FiringStore::Open()
         return;
     // Every firing has an id of its own that a receiver of its record can rely on; older
     // firings gain a random (version 4) one once, kept from then on.
-    m_open = Exec(QStringLiteral(
-        "UPDATE firings SET uid = lower(hex(randomblob(4)) || '-' || hex(randomblob(2)) || '-4' ||"
-        " substr(hex(randomblob(2)), 2) || '-' || substr('89ab', 1 + abs(random()) % 4, 1) ||"
-        " substr(hex(randomblob(2)), 2) || '-' || hex(randomblob(6))) WHERE uid IS NULL OR uid = ''"));
+    m_open = Exec(
+        QStringLiteral("UPDATE firings SET uid = lower(hex(randomblob(4)) || '-' || hex(randomblob(2)) || '-4' ||"
+                       " substr(hex(randomblob(2)), 2) || '-' || substr('89ab', 1 + abs(random()) % 4, 1) ||"
+                       " substr(hex(randomblob(2)), 2) || '-' || hex(randomblob(6))) WHERE uid IS NULL OR uid = ''"));
     if (!m_open)
         return;
     // Whatever was open when the panel last went away was cut off.
@@ -132,10 +132,10 @@ qint64 FiringStore::Begin(const FiringStart &start)
     QSqlQuery query(db);
     query.prepare(QStringLiteral("INSERT INTO firings(program, heatfile, material, predry, delayed, start_date,"
                                  " start_time, device, job, uid) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"));
-    for (const QVariant &v : {QVariant(start.program), QVariant(start.heatfileText), QVariant(start.material),
-                              QVariant(start.preDryMinutes), QVariant(start.delayedStart), QVariant(start.date),
-                              QVariant(start.time), QVariant(start.device), QVariant(start.job),
-                              QVariant(QUuid::createUuid().toString(QUuid::WithoutBraces))})
+    for (const QVariant &v :
+         {QVariant(start.program), QVariant(start.heatfileText), QVariant(start.material),
+          QVariant(start.preDryMinutes), QVariant(start.delayedStart), QVariant(start.date), QVariant(start.time),
+          QVariant(start.device), QVariant(start.job), QVariant(QUuid::createUuid().toString(QUuid::WithoutBraces))})
         query.addBindValue(v);
     if (!query.exec()) {
         qDebug() << "firing records: cannot begin" << query.lastError().text();

@@ -70,8 +70,9 @@ void MosquittoBroker::Stop()
 
 MqttSubscriber::MqttSubscriber(int port, const QString &topic, const QString &session, const QStringList &extra)
 {
-    QStringList args{QStringLiteral("-h"), QStringLiteral("127.0.0.1"), QStringLiteral("-p"), QString::number(port),
-                     QStringLiteral("-v"), QStringLiteral("-q"), QStringLiteral("1"), QStringLiteral("-t"), topic};
+    QStringList args{QStringLiteral("-h"),  QStringLiteral("127.0.0.1"), QStringLiteral("-p"),
+                     QString::number(port), QStringLiteral("-v"),        QStringLiteral("-q"),
+                     QStringLiteral("1"),   QStringLiteral("-t"),        topic};
     if (!session.isEmpty())
         args << QStringLiteral("-c") << QStringLiteral("-i") << session;
     QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process, [this] {

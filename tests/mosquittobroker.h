@@ -32,8 +32,7 @@ class MqttSubscriber
 {
 public:
     // `session`: a persistent session of that id (QoS 1 messages wait for it while away).
-    MqttSubscriber(int port, const QString &topic, const QString &session = QString(),
-                   const QStringList &extra = {});
+    MqttSubscriber(int port, const QString &topic, const QString &session = QString(), const QStringList &extra = {});
     ~MqttSubscriber();
 
     QStringList Lines(const QRegularExpression &pattern);

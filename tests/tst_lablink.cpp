@@ -53,8 +53,7 @@ qint64 residentKb()
 // A furnace fed with the controller's words, its records kept, and the link on it.
 struct Furnace
 {
-    explicit Furnace(const QString &home)
-        : handler(ovra::GlobalElements::Paths(home)), recorder(home)
+    explicit Furnace(const QString &home) : handler(ovra::GlobalElements::Paths(home)), recorder(home)
     {
         state.Follow(&handler);
         recorder.Observe(
@@ -144,8 +143,8 @@ void TestLabLink::configurationAndPayloads()
     // A state in the middle of a firing, with the minutes not a number.
     QTemporaryDir furnaceHome;
     Furnace furnace(furnaceHome.path());
-    furnace.Feed({"name==Ovra 3", "serialno==SN-1", "date==20261125", "time==1403", "temp==1085", "hpinfo==Kurz;x;2;hold",
-                  "error==E123"});
+    furnace.Feed({"name==Ovra 3", "serialno==SN-1", "date==20261125", "time==1403", "temp==1085",
+                  "hpinfo==Kurz;x;2;hold", "error==E123"});
     QJsonObject state = json(QString::fromUtf8(StatePayload(furnace.state)));
     QCOMPARE(state.value(QStringLiteral("time")).toString(), QStringLiteral("2026-11-25T14:03:00"));
     QCOMPARE(state.value(QStringLiteral("temperature")).toInt(), 812);
@@ -212,7 +211,8 @@ void TestLabLink::recordOutlastsABrokerOutage()
     QVERIFY(delivered.wait(10000));
     QCOMPARE(delivered.at(1).at(0), delivered.at(0).at(0));
     MqttSubscriber homeAssistant(broker.Port(), QStringLiteral("homeassistant/#"));
-    QTRY_COMPARE(homeAssistant.Lines(QRegularExpression(QStringLiteral("^homeassistant/sensor/ovra_ofen-1_"))).size(), 4);
+    QTRY_COMPARE(homeAssistant.Lines(QRegularExpression(QStringLiteral("^homeassistant/sensor/ovra_ofen-1_"))).size(),
+                 4);
     const QJsonObject temperature =
         json(homeAssistant.Payloads(QStringLiteral("homeassistant/sensor/ovra_ofen-1_temperature/config")).value(0));
     QCOMPARE(temperature.value(QStringLiteral("availability_topic")).toString(), online);
@@ -228,10 +228,10 @@ void TestLabLink::wrongPasswordIsSaidAndRetried()
     const QString dir = m_dir.path() + QStringLiteral("/password");
     QDir().mkpath(dir);
     const QString passwords = dir + QStringLiteral("/passwords");
-    QCOMPARE(QProcess::execute(QStringLiteral("mosquitto_passwd"),
-                               {QStringLiteral("-c"), QStringLiteral("-b"), passwords, QStringLiteral("panel"),
-                                QStringLiteral("richtig")}),
-             0);
+    QCOMPARE(
+        QProcess::execute(QStringLiteral("mosquitto_passwd"), {QStringLiteral("-c"), QStringLiteral("-b"), passwords,
+                                                               QStringLiteral("panel"), QStringLiteral("richtig")}),
+        0);
     MosquittoBroker broker(dir);
     QVERIFY(broker.Start({QStringLiteral("allow_anonymous false"), QStringLiteral("password_file ") + passwords}));
     QTemporaryDir home;
@@ -240,11 +240,20 @@ void TestLabLink::wrongPasswordIsSaidAndRetried()
     config.username = QStringLiteral("panel");
     config.password = QStringLiteral("falsch");
     furnace.Link(config, broker.Port());
-    QSignalSpy changed(&furnace.link->Status(), &LabLinkStatus::Changed);
-    QTRY_COMPARE_WITH_TIMEOUT(furnace.link->Status().LastProblem(), MqttClient::Problem::NotAuthorised, 10000);
+    // Each refusal is one report; the retries come further and further apart (50, 100, 200,
+    // then 400 ms at most).
+    QElapsedTimer clock;
+    clock.start();
+    QList<qint64> refusals;
+    QObject::connect(&furnace.link->Status(), &LabLinkStatus::Changed, [&] {
+        if (furnace.link->Status().LastProblem() == MqttClient::Problem::NotAuthorised)
+            refusals << clock.elapsed();
+    });
+    QTRY_VERIFY_WITH_TIMEOUT(refusals.size() >= 6, 15000);
     QCOMPARE(furnace.link->Status().ProblemText(), QStringLiteral("Benutzername oder Passwort falsch"));
-    const int before = changed.count();
-    QTRY_VERIFY_WITH_TIMEOUT(changed.count() > before + 1, 10000); // it keeps trying
+    const qint64 first = refusals.at(1) - refusals.at(0), later = refusals.at(4) - refusals.at(3);
+    QVERIFY2(later >= 2 * first && later >= 380, qPrintable(QStringLiteral("%1 ms, then %2 ms").arg(first).arg(later)));
+    QVERIFY2(refusals.at(5) - refusals.at(4) < 1500, "the delay stops growing at its maximum");
     QVERIFY(!furnace.link->Status().IsConnected());
 }
 
@@ -260,8 +269,10 @@ void TestLabLink::tlsWithTheLabsOwnCertificates()
         return p.waitForFinished(30000) && p.exitCode() == 0;
     };
     writeFile(dir + QStringLiteral("/san.cnf"), "subjectAltName=IP:127.0.0.1\n");
-    QVERIFY(openssl(QStringLiteral("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=lab-ca -keyout ca.key -out ca.pem")));
-    QVERIFY(openssl(QStringLiteral("req -newkey rsa:2048 -nodes -subj /CN=127.0.0.1 -keyout server.key -out server.csr")));
+    QVERIFY(openssl(
+        QStringLiteral("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=lab-ca -keyout ca.key -out ca.pem")));
+    QVERIFY(
+        openssl(QStringLiteral("req -newkey rsa:2048 -nodes -subj /CN=127.0.0.1 -keyout server.key -out server.csr")));
     QVERIFY(openssl(QStringLiteral("x509 -req -in server.csr -CA ca.pem -CAkey ca.key -CAcreateserial -days 2"
                                    " -extfile san.cnf -out server.pem")));
     MosquittoBroker broker(dir);
@@ -278,7 +289,8 @@ void TestLabLink::tlsWithTheLabsOwnCertificates()
     QVERIFY(furnace.link->Status().Broker().endsWith(QLatin1String("(TLS)")));
 
     // A CA that did not sign the broker's certificate: no link, and it says why.
-    QVERIFY(openssl(QStringLiteral("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=other -keyout o.key -out other.pem")));
+    QVERIFY(openssl(
+        QStringLiteral("req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=other -keyout o.key -out other.pem")));
     QTemporaryDir otherHome;
     Furnace stranger(otherHome.path());
     config.cafile = dir + QStringLiteral("/other.pem");
@@ -289,7 +301,8 @@ void TestLabLink::tlsWithTheLabsOwnCertificates()
 void TestLabLink::stateStormIsCoalesced()
 {
     // A report every 10 ms; OVRA_LAB_STORM_S sets how long (a minute on the bench, seconds in CI).
-    const int seconds = qEnvironmentVariableIsSet("OVRA_LAB_STORM_S") ? qEnvironmentVariableIntValue("OVRA_LAB_STORM_S") : 4;
+    const int seconds =
+        qEnvironmentVariableIsSet("OVRA_LAB_STORM_S") ? qEnvironmentVariableIntValue("OVRA_LAB_STORM_S") : 4;
     MosquittoBroker broker(m_dir.path() + QStringLiteral("/storm"));
     QVERIFY(broker.Start());
     MqttSubscriber lab(broker.Port(), QStringLiteral("ovra/ofen-1/state"));
@@ -341,15 +354,15 @@ void TestLabLink::killedPanelLeavesItsWillAndSendsTheCutFiring()
     QDir().mkpath(home.path() + QStringLiteral("/work"));
     writeFile(LabLinkConfig::FileIn(home.path()),
               QStringLiteral("[broker]\nhost=127.0.0.1\nport=%1\n").arg(broker.Port()).toUtf8());
-    auto sim = std::make_unique<Simulator>(QStringList{QStringLiteral("--interval"), QStringLiteral("100"),
-                                                       QStringLiteral("--verbose")});
+    auto sim = std::make_unique<Simulator>(
+        QStringList{QStringLiteral("--interval"), QStringLiteral("100"), QStringLiteral("--verbose")});
     QString line = sim->SlavePath();
     QVERIFY(!line.isEmpty());
     const auto startPanel = [&](QProcess &panel) {
         panel.setWorkingDirectory(home.path() + QStringLiteral("/work"));
-        panel.start(QStringLiteral(OVRA_PANEL_BINARY),
-                    {QStringLiteral("--port"), line, QStringLiteral("--home"), home.path(), QStringLiteral("--key-port"),
-                     QStringLiteral("0"), QStringLiteral("--selftest-delay-ms"), QStringLiteral("200")});
+        panel.start(QStringLiteral(OVRA_PANEL_BINARY), {QStringLiteral("--port"), line, QStringLiteral("--home"),
+                                                        home.path(), QStringLiteral("--key-port"), QStringLiteral("0"),
+                                                        QStringLiteral("--selftest-delay-ms"), QStringLiteral("200")});
         return panel.waitForStarted(5000);
     };
     QProcess panel, again;
@@ -367,13 +380,13 @@ void TestLabLink::killedPanelLeavesItsWillAndSendsTheCutFiring()
     MqttSubscriber lab(broker.Port(), QStringLiteral("ovra/#"), QStringLiteral("lab-killed"));
     QTRY_VERIFY_WITH_TIMEOUT(!lab.Lines(QRegularExpression(QStringLiteral("^ovra/[^/]+/online true$"))).isEmpty(),
                              20000);
-    const QString topic = lab.Lines(QRegularExpression(QStringLiteral("/online true$"))).at(0).section(QLatin1Char(' '), 0, 0);
+    const QString topic =
+        lab.Lines(QRegularExpression(QStringLiteral("/online true$"))).at(0).section(QLatin1Char(' '), 0, 0);
     const QString base = topic.left(topic.size() - QStringLiteral("online").size());
 
     sim->Command("send hpinfo==Kurz;30;1;heat");
-    QTRY_VERIFY_WITH_TIMEOUT(lab.Payloads(base + QStringLiteral("event")).join(QString()).contains(
-                                 QLatin1String("firing_started")),
-                             10000);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        lab.Payloads(base + QStringLiteral("event")).join(QString()).contains(QLatin1String("firing_started")), 10000);
     ::kill(static_cast<pid_t>(panel.processId()), SIGKILL);
     QVERIFY(panel.waitForFinished(5000));
     QTRY_COMPARE_WITH_TIMEOUT(lab.Payloads(topic).value(1), QStringLiteral("false"), 10000);
