@@ -35,6 +35,7 @@ LabLink::LabLink(const LabLinkConfig &config, const FurnaceState &furnace, Recor
                            .arg(config.host)
                            .arg(config.port)
                            .arg(config.cafile.isEmpty() ? QString() : QStringLiteral(" (TLS)")));
+    m_reader.setMaxThreadCount(1);
     m_stateTimer.setSingleShot(true);
     m_stateTimer.setInterval(timing.stateIntervalMs);
     connect(&m_stateTimer, &QTimer::timeout, this, [this] {
@@ -55,6 +56,7 @@ LabLink::LabLink(const LabLinkConfig &config, const FurnaceState &furnace, Recor
     connect(f, &FurnaceState::FiringEndChanged, this, &LabLink::StateChanged);
     connect(f, &FurnaceState::FailureWithdrawn, this, &LabLink::StateChanged);
     connect(f, &FurnaceState::DeviceChanged, this, &LabLink::StartWhenIdKnown);
+    connect(f, &FurnaceState::DeviceChanged, this, &LabLink::PublishDiscovery);
     connect(f, &FurnaceState::TemperatureChanged, this, &LabLink::CheckDoorWarning);
     connect(f, &FurnaceState::DoorChanged, this, &LabLink::CheckDoorWarning);
 
@@ -90,6 +92,7 @@ LabLink::LabLink(const LabLinkConfig &config, const FurnaceState &furnace, Recor
 
 LabLink::~LabLink()
 {
+    m_reader.waitForDone();
     if (m_client)
         m_client->Finish("false", 1000);
 }
@@ -134,12 +137,20 @@ void LabLink::OnConnected()
     qDebug() << "lab link: connected to" << m_status.Broker() << "as" << m_id;
     m_status.SetConnected(true);
     m_client->Publish(Topic(m_id, "online"), "true", 1, true);
-    for (const auto &message : DiscoveryMessages(m_id, m_furnace.Device()))
-        m_client->Publish(message.first, message.second, 1, true);
+    PublishDiscovery();
     m_stateDirty = true;
     PublishState();
     PumpEvents();
     PumpRecords();
+}
+
+void LabLink::PublishDiscovery()
+{
+    // Again when the controller describes the furnace anew: the model and version are in it.
+    if (!m_client || !m_client->IsConnected())
+        return;
+    for (const auto &message : DiscoveryMessages(m_id, m_furnace.Device()))
+        m_client->Publish(message.first, message.second, 1, true);
 }
 
 void LabLink::OnPublished(int mid)
@@ -205,26 +216,44 @@ void LabLink::PumpEvents()
 
 void LabLink::PumpRecords()
 {
-    if (!m_client || !m_client->IsConnected() || m_recordsInFlight.size() >= m_timing.recordsInFlight)
+    const int busy = m_recordsInFlight.size() + m_preparing.size();
+    if (!m_client || !m_client->IsConnected() || busy >= m_timing.recordsInFlight)
         return;
-    QSet<qint64> sending;
+    QSet<qint64> sending = m_preparing;
     for (const auto &record : qAsConst(m_recordsInFlight))
         sending.insert(record.first);
-    const QList<qint64> next = m_outbox.Next(m_timing.recordsInFlight - m_recordsInFlight.size(), sending);
-    if (next.isEmpty())
-        return;
-    const Records::FiringHistory history(m_store.File());
-    for (qint64 firing : next) {
-        Records::FiringRecord record;
-        if (!history.Load(firing, &record)) {
-            m_outbox.Done(firing); // gone from the store
-            continue;
-        }
-        const int mid = m_client->Publish(Topic(m_id, "record"), RecordPayload(record, m_id), 1, false);
-        if (mid == 0)
-            return;
-        m_recordsInFlight.insert(mid, {firing, record.uid});
+    const QString file = m_store.File();
+    const QString id = m_id;
+    for (qint64 firing : m_outbox.Next(m_timing.recordsInFlight - busy, sending)) {
+        m_preparing.insert(firing);
+        m_reader.start([this, file, id, firing] {
+            Records::FiringRecord record;
+            bool found = false;
+            {
+                const Records::FiringHistory history(file);
+                found = history.Load(firing, &record);
+            }
+            const QByteArray payload = found ? RecordPayload(record, id) : QByteArray();
+            const QString uid = record.uid;
+            QMetaObject::invokeMethod(
+                this, [this, firing, found, uid, payload] { RecordReady(firing, found, uid, payload); },
+                Qt::QueuedConnection);
+        });
     }
+}
+
+void LabLink::RecordReady(qint64 firing, bool found, const QString &uid, const QByteArray &payload)
+{
+    m_preparing.remove(firing);
+    if (!found) {
+        m_outbox.Done(firing); // gone from the store
+        m_status.SetWaiting(m_outbox.Waiting());
+    } else if (m_client->IsConnected()) {
+        const int mid = m_client->Publish(Topic(m_id, "record"), payload, 1, false);
+        if (mid != 0)
+            m_recordsInFlight.insert(mid, {firing, uid});
+    }
+    PumpRecords();
 }
 
 void LabLink::CollectSoon()

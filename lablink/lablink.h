@@ -9,6 +9,8 @@
 #include <QList>
 #include <QObject>
 #include <QPair>
+#include <QSet>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <memory>
@@ -69,12 +71,14 @@ signals:
 private:
     void StartWhenIdKnown();
     void OnConnected();
+    void PublishDiscovery();
     void OnPublished(int mid);
     void StateChanged();
     void PublishState();
     void Event(const QString &event, const QJsonObject &fields);
     void PumpEvents();
     void PumpRecords();
+    void RecordReady(qint64 firing, bool found, const QString &uid, const QByteArray &payload);
     void CollectSoon();
     void CheckDoorWarning();
 
@@ -95,6 +99,10 @@ private:
     QList<QByteArray> m_events; // waiting for the broker
     QHash<int, bool> m_eventsInFlight;
     QHash<int, QPair<qint64, QString>> m_recordsInFlight; // message id: firing, uid
+    // A ten-hour firing's record is read and made into JSON off the panel's thread: the
+    // controller's frames are answered meanwhile.
+    QThreadPool m_reader;
+    QSet<qint64> m_preparing;
     bool m_doorWarned = false;
 };
 
