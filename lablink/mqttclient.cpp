@@ -5,25 +5,90 @@
 
 #include <mosquitto.h>
 
+#include <dlfcn.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cstring>
 
 namespace ovra {
 namespace LabLink {
 
 namespace {
+// libmosquitto, and the TLS libraries it brings, cost the panel 2 MB at start-up: they are
+// loaded only when a link is configured. Never unloaded.
+struct Library
+{
+    decltype(&mosquitto_lib_init) lib_init = nullptr;
+    decltype(&mosquitto_lib_cleanup) lib_cleanup = nullptr;
+    decltype(&mosquitto_new) make = nullptr;
+    decltype(&mosquitto_destroy) destroy = nullptr;
+    decltype(&mosquitto_threaded_set) threaded_set = nullptr;
+    decltype(&mosquitto_connect_callback_set) connect_callback_set = nullptr;
+    decltype(&mosquitto_disconnect_callback_set) disconnect_callback_set = nullptr;
+    decltype(&mosquitto_publish_callback_set) publish_callback_set = nullptr;
+    decltype(&mosquitto_username_pw_set) username_pw_set = nullptr;
+    decltype(&mosquitto_will_set) will_set = nullptr;
+    decltype(&mosquitto_tls_set) tls_set = nullptr;
+    decltype(&mosquitto_strerror) strerror = nullptr;
+    decltype(&mosquitto_publish) publish = nullptr;
+    decltype(&mosquitto_disconnect) disconnect = nullptr;
+    decltype(&mosquitto_connect_async) connect_async = nullptr;
+    decltype(&mosquitto_reconnect_async) reconnect_async = nullptr;
+    decltype(&mosquitto_loop) loop = nullptr;
+};
+
+template <typename F>
+bool resolve(void *handle, const char *name, F *out)
+{
+    void *symbol = dlsym(handle, name);
+    std::memcpy(out, &symbol, sizeof symbol);
+    return symbol != nullptr;
+}
+
+const Library *library()
+{
+    static const Library *loaded = []() -> const Library * {
+        void *handle = dlopen("libmosquitto.so.1", RTLD_NOW | RTLD_LOCAL);
+        if (handle == nullptr) {
+            qDebug() << "lab link: libmosquitto.so.1 cannot be loaded:" << dlerror();
+            return nullptr;
+        }
+        static Library l;
+        const bool complete =
+            resolve(handle, "mosquitto_lib_init", &l.lib_init) &&
+            resolve(handle, "mosquitto_lib_cleanup", &l.lib_cleanup) && resolve(handle, "mosquitto_new", &l.make) &&
+            resolve(handle, "mosquitto_destroy", &l.destroy) &&
+            resolve(handle, "mosquitto_threaded_set", &l.threaded_set) &&
+            resolve(handle, "mosquitto_connect_callback_set", &l.connect_callback_set) &&
+            resolve(handle, "mosquitto_disconnect_callback_set", &l.disconnect_callback_set) &&
+            resolve(handle, "mosquitto_publish_callback_set", &l.publish_callback_set) &&
+            resolve(handle, "mosquitto_username_pw_set", &l.username_pw_set) &&
+            resolve(handle, "mosquitto_will_set", &l.will_set) && resolve(handle, "mosquitto_tls_set", &l.tls_set) &&
+            resolve(handle, "mosquitto_strerror", &l.strerror) && resolve(handle, "mosquitto_publish", &l.publish) &&
+            resolve(handle, "mosquitto_disconnect", &l.disconnect) &&
+            resolve(handle, "mosquitto_connect_async", &l.connect_async) &&
+            resolve(handle, "mosquitto_reconnect_async", &l.reconnect_async) &&
+            resolve(handle, "mosquitto_loop", &l.loop);
+        if (!complete)
+            qDebug() << "lab link: libmosquitto.so.1 lacks a function it should have";
+        return complete ? &l : nullptr;
+    }();
+    return loaded;
+}
+
 // libmosquitto's global state lives as long as any client does.
 std::mutex libraryMutex;
 int libraryUsers = 0;
 
-void useLibrary(bool use)
+void useLibrary(const Library *lib, bool use)
 {
     std::lock_guard<std::mutex> lock(libraryMutex);
     if (use && libraryUsers++ == 0)
-        mosquitto_lib_init();
+        lib->lib_init();
     if (!use && --libraryUsers == 0)
-        mosquitto_lib_cleanup();
+        lib->lib_cleanup();
 }
 
 MqttClient::Problem problemOf(int rc, int error)
@@ -59,22 +124,24 @@ const char *MqttClient::Describe(Problem problem)
 MqttClient::MqttClient(const Options &options, QObject *parent) : QObject(parent), m_options(options)
 {
     qRegisterMetaType<Problem>();
-    useLibrary(true);
-    m_mosq = mosquitto_new(options.clientId.toUtf8().constData(), true, this);
-    mosquitto_threaded_set(m_mosq, true);
-    mosquitto_connect_callback_set(m_mosq, &MqttClient::OnConnect);
-    mosquitto_disconnect_callback_set(m_mosq, &MqttClient::OnDisconnect);
-    mosquitto_publish_callback_set(m_mosq, &MqttClient::OnPublish);
+    const Library *lib = library();
+    if (lib == nullptr)
+        return;
+    useLibrary(lib, true);
+    m_mosq = lib->make(options.clientId.toUtf8().constData(), true, this);
+    lib->threaded_set(m_mosq, true);
+    lib->connect_callback_set(m_mosq, &MqttClient::OnConnect);
+    lib->disconnect_callback_set(m_mosq, &MqttClient::OnDisconnect);
+    lib->publish_callback_set(m_mosq, &MqttClient::OnPublish);
     if (!options.username.isEmpty())
-        mosquitto_username_pw_set(m_mosq, options.username.toUtf8().constData(),
-                                  options.password.isEmpty() ? nullptr : options.password.toUtf8().constData());
+        lib->username_pw_set(m_mosq, options.username.toUtf8().constData(),
+                             options.password.isEmpty() ? nullptr : options.password.toUtf8().constData());
     if (!options.willTopic.isEmpty())
-        mosquitto_will_set(m_mosq, options.willTopic.toUtf8().constData(), 5, "false", 1, true);
+        lib->will_set(m_mosq, options.willTopic.toUtf8().constData(), 5, "false", 1, true);
     if (!options.cafile.isEmpty()) {
-        const int rc =
-            mosquitto_tls_set(m_mosq, options.cafile.toUtf8().constData(), nullptr, nullptr, nullptr, nullptr);
+        const int rc = lib->tls_set(m_mosq, options.cafile.toUtf8().constData(), nullptr, nullptr, nullptr, nullptr);
         if (rc != MOSQ_ERR_SUCCESS)
-            qDebug() << "lab link: the CA file" << options.cafile << "is not usable:" << mosquitto_strerror(rc);
+            qDebug() << "lab link: the CA file" << options.cafile << "is not usable:" << lib->strerror(rc);
     }
 }
 
@@ -84,13 +151,15 @@ MqttClient::~MqttClient()
     m_wake.notify_all();
     if (m_thread.joinable())
         m_thread.join();
-    mosquitto_destroy(m_mosq);
-    useLibrary(false);
+    if (m_mosq == nullptr)
+        return;
+    library()->destroy(m_mosq);
+    useLibrary(library(), false);
 }
 
 void MqttClient::Start()
 {
-    if (!m_thread.joinable())
+    if (m_mosq != nullptr && !m_thread.joinable())
         m_thread = std::thread(&MqttClient::Run, this);
 }
 
@@ -100,7 +169,7 @@ int MqttClient::Publish(const QString &topic, const QByteArray &payload, int qos
         return 0;
     int mid = 0;
     const int rc =
-        mosquitto_publish(m_mosq, &mid, topic.toUtf8().constData(), payload.size(), payload.constData(), qos, retain);
+        library()->publish(m_mosq, &mid, topic.toUtf8().constData(), payload.size(), payload.constData(), qos, retain);
     return rc == MOSQ_ERR_SUCCESS ? std::max(mid, 1) : 0;
 }
 
@@ -109,7 +178,7 @@ void MqttClient::Finish(const QByteArray &payload, int waitMs)
     if (m_connected && !m_options.willTopic.isEmpty()) {
         m_leaving = true;
         Publish(m_options.willTopic, payload, 1, true);
-        mosquitto_disconnect(m_mosq);
+        library()->disconnect(m_mosq);
         std::unique_lock<std::mutex> lock(m_mutex);
         m_wake.wait_for(lock, std::chrono::milliseconds(waitMs), [this] { return !m_connected; });
     }
@@ -119,16 +188,17 @@ void MqttClient::Finish(const QByteArray &payload, int waitMs)
 
 void MqttClient::Run()
 {
+    const Library *lib = library();
     m_delayMs = m_options.backoffMinMs;
     bool first = true;
     while (!m_stop && !m_leaving) {
         errno = 0;
-        int rc = first ? mosquitto_connect_async(m_mosq, m_options.host.toUtf8().constData(), m_options.port,
-                                                 m_options.keepalive)
-                       : mosquitto_reconnect_async(m_mosq);
+        int rc =
+            first ? lib->connect_async(m_mosq, m_options.host.toUtf8().constData(), m_options.port, m_options.keepalive)
+                  : lib->reconnect_async(m_mosq);
         first = false;
         while (rc == MOSQ_ERR_SUCCESS && !m_stop)
-            rc = mosquitto_loop(m_mosq, 100, 1);
+            rc = lib->loop(m_mosq, 100, 1);
         const int error = errno;
         {
             std::lock_guard<std::mutex> lock(m_mutex);
