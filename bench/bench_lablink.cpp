@@ -7,6 +7,8 @@
 #include "app/paths.h"
 #include "communication/messagehandler.h"
 #include "lablink/lablink.h"
+#include "lablink/labpayloads.h"
+#include "records/firinghistory.h"
 #include "records/firingrecorder.h"
 #include "tests/mosquittobroker.h"
 
@@ -84,6 +86,18 @@ void BM_ReportWithLink(benchmark::State &state)
     state.counters["states"] = link.StatesPublished() - before;
 }
 BENCHMARK(BM_ReportWithLink)->Arg(500)->Arg(0);
+
+// A ten-hour firing's record (36,000 samples) made into JSON: done off the panel's thread.
+void BM_TenHourRecordPayload(benchmark::State &state)
+{
+    ovra::Records::FiringRecord record;
+    record.uid = QStringLiteral("3f0c2a8e-5b7d-4c1e-9a42-7d1e0b6c9f10");
+    for (int i = 0; i < 36000; ++i)
+        record.samples.append({i, 20.0f + static_cast<float>(i % 1500)});
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ovra::LabLink::RecordPayload(record, QStringLiteral("bench")));
+}
+BENCHMARK(BM_TenHourRecordPayload)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argc, char **argv)

@@ -147,8 +147,7 @@ MqttClient::MqttClient(const Options &options, QObject *parent) : QObject(parent
 
 MqttClient::~MqttClient()
 {
-    m_stop = true;
-    m_wake.notify_all();
+    Halt();
     if (m_thread.joinable())
         m_thread.join();
     if (m_mosq == nullptr)
@@ -182,7 +181,16 @@ void MqttClient::Finish(const QByteArray &payload, int waitMs)
         std::unique_lock<std::mutex> lock(m_mutex);
         m_wake.wait_for(lock, std::chrono::milliseconds(waitMs), [this] { return !m_connected; });
     }
-    m_stop = true;
+    Halt();
+}
+
+void MqttClient::Halt()
+{
+    {
+        // Under the lock: the thread's wait for its next attempt must not miss it.
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_stop = true;
+    }
     m_wake.notify_all();
 }
 
@@ -197,6 +205,7 @@ void MqttClient::Run()
             first ? lib->connect_async(m_mosq, m_options.host.toUtf8().constData(), m_options.port, m_options.keepalive)
                   : lib->reconnect_async(m_mosq);
         first = false;
+        m_attemptConnected = false;
         while (rc == MOSQ_ERR_SUCCESS && !m_stop)
             rc = lib->loop(m_mosq, 100, 1);
         const int error = errno;
@@ -207,7 +216,10 @@ void MqttClient::Run()
         m_wake.notify_all();
         if (m_stop || m_leaving)
             break;
-        Report(m_refusal != Problem::None ? m_refusal : problemOf(rc, error));
+        Problem problem = m_refusal != Problem::None ? m_refusal : problemOf(rc, error);
+        if (problem == Problem::Lost && !m_attemptConnected)
+            problem = Problem::Unreachable; // closed before it was ever accepted
+        Report(problem);
         m_refusal = Problem::None;
         std::unique_lock<std::mutex> lock(m_mutex);
         m_wake.wait_for(lock, std::chrono::milliseconds(m_delayMs), [this] { return m_stop.load(); });
@@ -230,6 +242,7 @@ void MqttClient::OnConnect(struct mosquitto *, void *self, int rc)
         return;
     }
     client->m_delayMs = client->m_options.backoffMinMs;
+    client->m_attemptConnected = true;
     client->m_connected = true;
     QMetaObject::invokeMethod(
         client, [client] { emit client->Connected(); }, Qt::QueuedConnection);

@@ -61,6 +61,7 @@ signals:
 private:
     void Run();
     void Report(Problem problem);
+    void Halt();
     static void OnConnect(struct mosquitto *, void *self, int rc);
     static void OnDisconnect(struct mosquitto *, void *self, int rc);
     static void OnPublish(struct mosquitto *, void *self, int mid);
@@ -73,8 +74,10 @@ private:
     std::atomic<bool> m_stop{false};
     std::atomic<bool> m_leaving{false};
     std::atomic<bool> m_connected{false};
-    int m_delayMs = 0; // the library's thread only
+    // The library's thread only:
+    int m_delayMs = 0;
     Problem m_refusal = Problem::None;
+    bool m_attemptConnected = false;
 };
 
 } // namespace LabLink
