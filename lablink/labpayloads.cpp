@@ -2,6 +2,7 @@
 
 #include "app/furnacestate.h"
 #include "records/firinghistory.h"
+#include "settings/languages.h"
 
 #include <QDate>
 #include <QJsonArray>
@@ -90,6 +91,17 @@ QString PageWord(GlobalElements::Pageinterface::en_pages page)
     return QStringLiteral("other");
 }
 
+QString LanguageCode(const QString &keyword)
+{
+    if (keyword.isEmpty())
+        return QStringLiteral("de");
+    for (const Settings::Language &language : Settings::Languages()) {
+        if (language.acceptedKeyword == keyword || language.sentKeyword == keyword)
+            return language.file.section(QLatin1Char('.'), 0, 0).mid(QStringLiteral("translation_").size());
+    }
+    return keyword;
+}
+
 QJsonObject DeviceObject(const GlobalElements::DeviceInfo &device)
 {
     return QJsonObject{{QStringLiteral("type"), device.type.simplified()},
@@ -131,7 +143,7 @@ QByteArray StatePayload(const FurnaceState &furnace)
                                  : door == Door::Unknown ? QStringLiteral("unknown")
                                                          : QStringLiteral("open")},
         {QStringLiteral("material"), furnace.Material()},
-        {QStringLiteral("language"), furnace.Language().isEmpty() ? QStringLiteral("de") : furnace.Language()},
+        {QStringLiteral("language"), LanguageCode(furnace.Language())},
         {QStringLiteral("device"), DeviceObject(furnace.Device())},
         {QStringLiteral("failures"), failures},
         {QStringLiteral("firing"), firing}};

@@ -31,6 +31,8 @@ QString ControllerTime(const QString &dateAndTime);
 
 QString PageWord(GlobalElements::Pageinterface::en_pages page); // "process", "menu", ...
 QJsonObject DeviceObject(const GlobalElements::DeviceInfo &device);
+// The controller's language keyword as the short code of its translation: "de", "en_US", "jp"...
+QString LanguageCode(const QString &keyword);
 
 QByteArray StatePayload(const GlobalElements::FurnaceState &furnace);
 // {"event": event, "time": the furnace's clock now, plus `fields`}

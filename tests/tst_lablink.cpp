@@ -149,6 +149,8 @@ void TestLabLink::configurationAndPayloads()
     QCOMPARE(state.value(QStringLiteral("time")).toString(), QStringLiteral("2026-11-25T14:03:00"));
     QCOMPARE(state.value(QStringLiteral("temperature")).toInt(), 812);
     QCOMPARE(state.value(QStringLiteral("failures")).toArray(), QJsonArray{QStringLiteral("E123")});
+    QCOMPARE(state.value(QStringLiteral("language")).toString(), QStringLiteral("de"));
+    QCOMPARE(LanguageCode(QStringLiteral("chinesishc")), QStringLiteral("cn")); // the controller's spelling
     const QJsonObject firing = state.value(QStringLiteral("firing")).toObject();
     QCOMPARE(firing.value(QStringLiteral("phase")).toString(), QStringLiteral("hold"));
     QVERIFY(firing.value(QStringLiteral("minutes_left")).isNull());
