@@ -25,6 +25,7 @@ constexpr const char *MeineProgramme = QT_TRANSLATE_NOOP("ovra::MainWindow::Main
 constexpr const char *FesteProgramme = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Feste Programme");
 constexpr const char *Geraetedaten = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Gerätedaten");
 constexpr const char *Systemtest = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Systemtest");
+constexpr const char *LaborVerbindung = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Labor-Verbindung");
 constexpr const char *Fehler = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Fehler");
 constexpr const char *FehlerLoeschen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Fehler löschen");
 constexpr const char *Werkseinstellungen = QT_TRANSLATE_NOOP("ovra::MainWindow::MainWindow", "Werkseinstellungen");

@@ -10,6 +10,8 @@
 #include "faults/errorhandler.h"
 #include "faults/popupdeletefailurelist.h"
 #include "faults/popupfailure.h"
+#include "lablink/lablink.h"
+#include "lablink/lablinkview.h"
 #include "popups/popup.h"
 #include "popups/popupargonfailure.h"
 #include "popups/popupdeleteprogram.h"
@@ -53,6 +55,9 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     ConnectPageButtons();
     ConnectPrograms();
     ConnectRecords();
+    m_labLink = LabLink::LabLink::FromHome(m_paths.Home(), m_furnace, m_firingRecorder.Store());
+    connect(ui->widget_ServiceLabLink, &Button::SignalButtonClicked, new LabLink::LabLinkView(m_labLink.get(), this),
+            &QDialog::open);
 
     ui->stackedWidget_main->setCurrentIndex(1);
     ui->widget_playNewProg->SetCheckable(true);

@@ -17,6 +17,8 @@
 #include <QStringList>
 #include <QTranslator>
 
+#include <memory>
+
 class QTimer;
 class QPlainTextEdit;
 class QScrollArea;
@@ -67,6 +69,9 @@ class AutostartNoteView;
 namespace Records {
 class FiringHistoryScreens;
 } // namespace Records
+namespace LabLink {
+class LabLink;
+} // namespace LabLink
 
 namespace Mainwindow {
 
@@ -253,6 +258,8 @@ private:
     Records::FiringRecorder m_firingRecorder{m_paths.Home()};
     // What the panel knows of the furnace; declared after the recorder that observes it.
     GlobalElements::FurnaceState m_furnace;
+    // The furnace on the lab's broker, when <home>/lablink.ini asks for it; observes the two above.
+    std::unique_ptr<LabLink::LabLink> m_labLink;
     // The job code for the next start, entered on the program page; follows the furnace's page.
     Process::JobCode m_jobCode{m_furnace};
     Process::FiringSummary m_firingSummary;

@@ -155,6 +155,7 @@ QList<MainWindow::Tile> MainWindow::Tiles() const
         {Page::Service, ui->widget_ServiceDeviceData, Captions::Geraetedaten, Page::DeviceData2},
         {Page::Service, ui->widget_ServiceFailureMM, Captions::Fehler, Page::FailureList},
         {Page::Service, ui->widget_ServiceSelftest, Captions::Systemtest, Page::Selftest},
+        {Page::Service, ui->widget_ServiceLabLink, Captions::LaborVerbindung, none},
         {Page::Lists, ui->widget_ListsButtonHitlist, Captions::Favoriten, Page::MyHitlist},
         {Page::Lists, ui->widget_ListsButtonMyProgs, Captions::MeineProgramme, Page::MyProgs},
         {Page::Lists, ui->widget_ListsButtonStaticProgs, Captions::FesteProgramme, Page::FixProgs},

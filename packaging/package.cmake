@@ -27,6 +27,6 @@ set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 # libqt5gui5 carries the eglfs and linuxfb platform plug-ins; the firing records need the
 # SQLite driver, a plug-in no linker sees.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "libqt5core5a (>= 5.15), libqt5gui5 (>= 5.15), libqt5widgets5 (>= 5.15), libqt5network5 (>= 5.15), libqt5serialport5 (>= 5.15), libqt5charts5 (>= 5.15), libqt5sql5 (>= 5.15), libqt5sql5-sqlite (>= 5.15), libqrencode4, libstdc++6, python3")
+    "libqt5core5a (>= 5.15), libqt5gui5 (>= 5.15), libqt5widgets5 (>= 5.15), libqt5network5 (>= 5.15), libqt5serialport5 (>= 5.15), libqt5charts5 (>= 5.15), libqt5sql5 (>= 5.15), libqt5sql5-sqlite (>= 5.15), libqrencode4, libmosquitto1, libstdc++6, python3")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_SOURCE_DIR}/packaging/postinst ${CMAKE_SOURCE_DIR}/packaging/prerm)
 include(CPack)

@@ -50,8 +50,8 @@ FiringHistory::FiringHistory(const QString &file)
     if (QFile::exists(file) && !m_open)
         qDebug() << "firing history: cannot open" << file << db.lastError().text();
     // Read-only, an older file is read as it is: what it lacks reads as empty.
-    const std::pair<QString *, QString> columns[] = {{&m_job, QStringLiteral("job")},
-                                                     {&m_device, QStringLiteral("device")}};
+    const std::pair<QString *, QString> columns[] = {
+        {&m_job, QStringLiteral("job")}, {&m_device, QStringLiteral("device")}, {&m_uid, QStringLiteral("uid")}};
     for (const auto &column : columns) {
         if (!m_open)
             break;
@@ -93,9 +93,9 @@ bool FiringHistory::Load(qint64 id, FiringRecord *record) const
         return false;
     const QSqlDatabase db = QSqlDatabase::database(m_connection, false);
     QSqlQuery q(db);
-    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed, %2 FROM firings f"
+    q.prepare(QStringLiteral("SELECT %1, f.heatfile, f.material, f.predry, f.delayed, %2, %3 FROM firings f"
                              " WHERE f.id = ?")
-                  .arg(summaryColumns(m_job), m_device));
+                  .arg(summaryColumns(m_job), m_device, m_uid));
     q.addBindValue(id);
     if (!q.exec() || !q.next())
         return false;
@@ -106,6 +106,7 @@ bool FiringHistory::Load(qint64 id, FiringRecord *record) const
     r.preDryMinutes = q.value(11).toInt();
     r.delayedStart = q.value(12).toString();
     r.device = q.value(13).toString();
+    r.uid = q.value(14).toString();
 
     QSqlQuery samples(db);
     samples.setForwardOnly(true);

@@ -36,6 +36,7 @@ struct FiringRecord
     QString material;
     int preDryMinutes = 0;
     QString delayedStart;
+    QString uid;    // lower-case UUID made when the firing began; the same on every reading
     QString device; // FiringReport::DeviceLines(); empty for firings recorded before it was kept
     QVector<Sample> samples;
     QList<QPair<QString, QString>> failures; // time, code; in the order they came
@@ -62,6 +63,7 @@ private:
     bool m_open = false;
     QString m_job = QStringLiteral("''"); // the columns to read, or an empty text in their place
     QString m_device = QStringLiteral("''");
+    QString m_uid = QStringLiteral("''");
 };
 
 } // namespace Records

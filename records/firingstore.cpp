@@ -8,6 +8,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QUuid>
 #include <QVariant>
 
 namespace ovra {
@@ -63,13 +64,21 @@ void FiringStore::Open()
         return;
     // Files from before the furnace data, or the job code, was kept with each firing gain the
     // column; their firings read it as empty.
-    for (const QString &column : {QStringLiteral("device"), QStringLiteral("job")}) {
+    for (const QString &column : {QStringLiteral("device"), QStringLiteral("job"), QStringLiteral("uid")}) {
         QSqlQuery columns(db);
         columns.prepare(QStringLiteral("SELECT COUNT(*) FROM pragma_table_info('firings') WHERE name = ?"));
         columns.addBindValue(column);
         if (m_open && columns.exec() && columns.next() && columns.value(0).toInt() == 0)
             m_open = Exec(QStringLiteral("ALTER TABLE firings ADD COLUMN %1 TEXT").arg(column));
     }
+    if (!m_open)
+        return;
+    // Every firing has an id of its own that a receiver of its record can rely on; older
+    // firings gain a random (version 4) one once, kept from then on.
+    m_open = Exec(
+        QStringLiteral("UPDATE firings SET uid = lower(hex(randomblob(4)) || '-' || hex(randomblob(2)) || '-4' ||"
+                       " substr(hex(randomblob(2)), 2) || '-' || substr('89ab', 1 + abs(random()) % 4, 1) ||"
+                       " substr(hex(randomblob(2)), 2) || '-' || hex(randomblob(6))) WHERE uid IS NULL OR uid = ''"));
     if (!m_open)
         return;
     // Whatever was open when the panel last went away was cut off.
@@ -122,10 +131,11 @@ qint64 FiringStore::Begin(const FiringStart &start)
     db.transaction();
     QSqlQuery query(db);
     query.prepare(QStringLiteral("INSERT INTO firings(program, heatfile, material, predry, delayed, start_date,"
-                                 " start_time, device, job) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?)"));
-    for (const QVariant &v : {QVariant(start.program), QVariant(start.heatfileText), QVariant(start.material),
-                              QVariant(start.preDryMinutes), QVariant(start.delayedStart), QVariant(start.date),
-                              QVariant(start.time), QVariant(start.device), QVariant(start.job)})
+                                 " start_time, device, job, uid) VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"));
+    for (const QVariant &v :
+         {QVariant(start.program), QVariant(start.heatfileText), QVariant(start.material),
+          QVariant(start.preDryMinutes), QVariant(start.delayedStart), QVariant(start.date), QVariant(start.time),
+          QVariant(start.device), QVariant(start.job), QVariant(QUuid::createUuid().toString(QUuid::WithoutBraces))})
         query.addBindValue(v);
     if (!query.exec()) {
         qDebug() << "firing records: cannot begin" << query.lastError().text();

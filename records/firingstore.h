@@ -46,6 +46,10 @@ public:
     static QString FileIn(const QString &home); // "<home>/records/firings.sqlite"
 
     bool IsOpen() const { return m_open; } // opened at once if the file exists, else at the first firing
+    // The store's own connection (QSqlDatabase name): tables kept beside the firings are
+    // written through it, so they never wait for the store's open batch of samples.
+    QString Connection() const { return m_connection; }
+    QString File() const { return m_file; }
     bool IsRecording() const { return m_current > 0; }
     qint64 Current() const { return m_current; }
 

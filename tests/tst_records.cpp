@@ -128,6 +128,8 @@ void TestRecords::resultsAndInterruption()
              QStringLiteral("old=success=?,A=failed=A-2026/0117,B=stopped=?")); // none given: NULL, as before
     QCOMPARE(scalar(file, QStringLiteral("SELECT text FROM failures")).toString(), QStringLiteral("12"));
     QCOMPARE(scalar(file, QStringLiteral("SELECT device FROM firings WHERE id = 2")).toString(), QStringLiteral("S1"));
+    // Each firing, the old one too, has an id of its own that its record is sent with.
+    QCOMPARE(scalar(file, QStringLiteral("SELECT COUNT(DISTINCT uid) FROM firings WHERE length(uid) = 36")).toInt(), 3);
 
     // Export: one line per firing, quoted where the text needs it, samples beside it.
     QString error;

@@ -298,6 +298,76 @@ Bloqueado: restam %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>Não configurada</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Não conectado</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>O nome do servidor é desconhecido</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>O servidor não está acessível</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>O servidor recusou a conexão</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Usuário ou senha incorretos</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>A conexão criptografada falhou</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>A conexão foi perdida</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Conexão com o laboratório</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Enviar histórico</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Servidor: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>Estado: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Último erro: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Registros aguardando: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Bloqueado: restam %1 s</translation>
     <message>
         <source>Stopp</source>
         <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Conexão com o laboratório</translation>
     </message>
 </context>
 <context>

@@ -298,6 +298,76 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>服务器名称未知</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>无法访问服务器</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>服务器拒绝了连接</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>用户名或密码错误</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>加密连接失败</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>连接已中断</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>实验室连接</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>发送历史记录</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>服务器：%1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>状态：%1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>最近错误：%1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>等待发送的记录：%1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Stopp</source>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>实验室连接</translation>
     </message>
 </context>
 <context>

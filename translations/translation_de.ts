@@ -298,6 +298,76 @@ Gesperrt: noch %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>Der Name des Servers ist unbekannt</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>Der Server ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>Der Server hat die Verbindung abgelehnt</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Benutzername oder Passwort falsch</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>Die verschlüsselte Verbindung ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>Die Verbindung ist abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Labor-Verbindung</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Verlauf senden</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Server: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>Zustand: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Letzter Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Wartende Protokolle: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Gesperrt: noch %1 s</translation>
     <message>
         <source>Stopp</source>
         <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Labor-Verbindung</translation>
     </message>
 </context>
 <context>

@@ -298,6 +298,76 @@ Locked: %1 s left</translation>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>Not set up</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>The server&apos;s name is unknown</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>The server cannot be reached</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>The server refused the connection</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Wrong user name or password</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>The encrypted connection failed</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>The connection was lost</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Lab link</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Send history</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Server: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>State: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Last error: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Records waiting: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Locked: %1 s left</translation>
     <message>
         <source>Stopp</source>
         <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Lab link</translation>
     </message>
 </context>
 <context>

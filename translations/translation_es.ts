@@ -298,6 +298,76 @@ Bloqueado: quedan %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>No configurada</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>No conectado</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>El nombre del servidor es desconocido</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>No se puede acceder al servidor</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>El servidor rechazó la conexión</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Usuario o contraseña incorrectos</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>Falló la conexión cifrada</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>Se perdió la conexión</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Conexión al laboratorio</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Enviar historial</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Servidor: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>Estado: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Último error: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Registros en espera: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Bloqueado: quedan %1 s</translation>
     <message>
         <source>Stopp</source>
         <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Conexión al laboratorio</translation>
     </message>
 </context>
 <context>

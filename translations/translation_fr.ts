@@ -120,7 +120,7 @@ puis relancez le processus.</translation>
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>Supprimer le programme</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Löschen</source>
@@ -150,7 +150,7 @@ puis relancez le processus.</translation>
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>Supprimer le programme</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Löschen</source>
@@ -295,6 +295,76 @@ Bloqué : encore %1 s</translation>
     <message>
         <source>Haltezeit (min)</source>
         <translation>Palier (min)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>Non configurée</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>Le nom du serveur est inconnu</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>Le serveur est injoignable</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>Le serveur a refusé la connexion</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Nom d&apos;utilisateur ou mot de passe erroné</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>La connexion chiffrée a échoué</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>La connexion a été interrompue</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Liaison labo</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Envoyer l&apos;historique</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Serveur : %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>État : %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Dernière erreur : %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Journaux en attente : %1</translation>
     </message>
 </context>
 <context>
@@ -560,6 +630,10 @@ Bloqué : encore %1 s</translation>
     <message>
         <source>Stopp</source>
         <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Liaison labo</translation>
     </message>
 </context>
 <context>

@@ -298,6 +298,76 @@ Bloccato: ancora %1 s</translation>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>Non configurato</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Connesso</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Non connesso</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>Il nome del server è sconosciuto</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>Il server non è raggiungibile</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>Il server ha rifiutato la connessione</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Nome utente o password errati</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>La connessione cifrata non è riuscita</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>La connessione si è interrotta</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Collegamento laboratorio</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Invia cronologia</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Server: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>Stato: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Ultimo errore: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Protocolli in attesa: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Bloccato: ancora %1 s</translation>
     <message>
         <source>Stopp</source>
         <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Collegamento laboratorio</translation>
     </message>
 </context>
 <context>

@@ -120,7 +120,7 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>プログラム削除</translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Löschen</source>
@@ -150,7 +150,7 @@ Bitte die Anschlüsse und Eingangsdruck
     </message>
     <message>
         <source>Programm löschen</source>
-        <translation>プログラム削除</translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Löschen</source>
@@ -295,6 +295,76 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Haltezeit (min)</source>
         <translation>保持時間 (分)</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>サーバー名が不明です</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>サーバーに接続できません</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>サーバーが接続を拒否しました</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>ユーザー名またはパスワードが違います</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>暗号化接続に失敗しました</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>接続が切断されました</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>ラボ接続</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>履歴を送信</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>サーバー: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>状態: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>最後のエラー: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>送信待ちの記録: %1</translation>
     </message>
 </context>
 <context>
@@ -560,6 +630,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Stopp</source>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>ラボ接続</translation>
     </message>
 </context>
 <context>

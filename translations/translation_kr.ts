@@ -298,6 +298,76 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>설정되지 않음</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>연결되지 않음</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>서버 이름을 알 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>서버에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>서버가 연결을 거부했습니다</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>사용자 이름 또는 비밀번호가 틀립니다</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>암호화된 연결에 실패했습니다</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>연결이 끊어졌습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>실험실 연결</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>기록 보내기</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>서버: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>상태: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>마지막 오류: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>대기 중인 기록: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Stopp</source>
         <translation>정지</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>실험실 연결</translation>
     </message>
 </context>
 <context>

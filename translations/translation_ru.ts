@@ -298,6 +298,76 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>Не настроено</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Не подключено</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>Имя сервера неизвестно</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>Сервер недоступен</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>Сервер отклонил подключение</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>Неверное имя пользователя или пароль</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>Ошибка зашифрованного подключения</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>Соединение прервано</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Связь с лабораторией</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>Отправить историю</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>Сервер: %1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>Состояние: %1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>Последняя ошибка: %1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>Протоколов в очереди: %1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Stopp</source>
         <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>Связь с лабораторией</translation>
     </message>
 </context>
 <context>

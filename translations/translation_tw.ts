@@ -298,6 +298,76 @@ Gesperrt: noch %1 s</source>
     </message>
 </context>
 <context>
+    <name>ovra::LabLink::LabLinkStatus</name>
+    <message>
+        <source>Nicht eingerichtet</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>未連線</translation>
+    </message>
+    <message>
+        <source>Der Name des Servers ist unbekannt</source>
+        <translation>伺服器名稱未知</translation>
+    </message>
+    <message>
+        <source>Der Server ist nicht erreichbar</source>
+        <translation>無法連線到伺服器</translation>
+    </message>
+    <message>
+        <source>Der Server hat die Verbindung abgelehnt</source>
+        <translation>伺服器拒絕了連線</translation>
+    </message>
+    <message>
+        <source>Benutzername oder Passwort falsch</source>
+        <translation>使用者名稱或密碼錯誤</translation>
+    </message>
+    <message>
+        <source>Die verschlüsselte Verbindung ist fehlgeschlagen</source>
+        <translation>加密連線失敗</translation>
+    </message>
+    <message>
+        <source>Die Verbindung ist abgebrochen</source>
+        <translation>連線已中斷</translation>
+    </message>
+</context>
+<context>
+    <name>ovra::LabLink::LabLinkView</name>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>實驗室連線</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Verlauf senden</source>
+        <translation>傳送歷史記錄</translation>
+    </message>
+    <message>
+        <source>Server: %1</source>
+        <translation>伺服器：%1</translation>
+    </message>
+    <message>
+        <source>Zustand: %1</source>
+        <translation>狀態：%1</translation>
+    </message>
+    <message>
+        <source>Letzter Fehler: %1</source>
+        <translation>最近錯誤：%1</translation>
+    </message>
+    <message>
+        <source>Wartende Protokolle: %1</source>
+        <translation>等待傳送的記錄：%1</translation>
+    </message>
+</context>
+<context>
     <name>ovra::MainWindow::MainWindow</name>
     <message>
         <source>Favoriten</source>
@@ -560,6 +630,10 @@ Gesperrt: noch %1 s</source>
     <message>
         <source>Stopp</source>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>Labor-Verbindung</source>
+        <translation>實驗室連線</translation>
     </message>
 </context>
 <context>

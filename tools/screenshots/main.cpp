@@ -7,6 +7,7 @@
 #include "tools/screenshots/screenshottour.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -34,6 +35,12 @@ int main(int argc, char *argv[])
     // Without them the pages show German throughout.
     if (!ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_TRANSLATIONS_DIR), home.path()))
         std::fprintf(stderr, "no translations in %s\n", OVRA_TRANSLATIONS_DIR);
+    // A lab link to a loopback port where no broker listens: its popup shows the broker, the
+    // state and the problem as a technician would see them.
+    QFile lablink(home.path() + QStringLiteral("/lablink.ini"));
+    if (lablink.open(QIODevice::WriteOnly))
+        lablink.write("[broker]\nhost=127.0.0.1\nport=1\n[furnace]\nid=ofen-1\n");
+    lablink.close();
     ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
     ovra::Tools::ScreenshotTour tour(&window, args.at(0));
     if (languages)
