@@ -179,11 +179,13 @@
   function drawChart(holder, existing, samples) {
     if (typeof window.Dygraph !== 'function' || samples.length === 0) return existing;
     const data = chartData(samples);
+    // A line needs two points: until then the first one is drawn as a dot.
+    const opts = { ...chartOptions(), drawPoints: data.length < 2, pointSize: 3 };
     if (existing) {
-      existing.updateOptions({ file: data, ...chartOptions() });
+      existing.updateOptions({ file: data, ...opts });
       return existing;
     }
-    return new window.Dygraph(holder, data, chartOptions());
+    return new window.Dygraph(holder, data, opts);
   }
 
   // Keeps only well-formed, time-ordered samples: a broken pair must not break the chart.
