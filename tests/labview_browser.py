@@ -6,7 +6,8 @@ labview_browser.py OVRA_LAB
 A browser without a session sees the pairing page; after /pair it sees the furnaces. A state
 published on the broker changes the furnace's tile (markup in a program stays text), the unit
 switch turns the temperature into °F and is remembered, the page follows the service through
-a restart, and a published record opens from the history with its chart drawn.
+a restart, a firing's end shows at once, and a published record opens from the history with
+its chart drawn.
 Exits 77 (skipped) only when chromium or its driver is missing.
 """
 import json
@@ -185,6 +186,13 @@ def run(rig, driver):
         lambda d: d.find_element(By.ID, "conn").get_attribute("data-state") == "connected", "the stream back")
     rig.publish("ovra/F1/state", state("2026-11-25T14:03:00", 905), retain=True)
     expect_temperature(driver, "905")
+
+    # A firing ends: the open page says so at once, the failed result marked as bad.
+    rig.publish("ovra/F1/event", {"event": "firing_ended", "time": "2026-11-25T15:00:00", "program": MARKUP,
+                                  "job": "A-1", "result": "failed"})
+    WebDriverWait(driver, WAIT).until(lambda d: any(
+        MARKUP in b.text and "Failed" in b.text for b in d.find_elements(By.CSS_SELECTOR, "#banners .banner.bad")),
+        "a banner for the failed firing")
 
     # A finished firing: its record appears in the history and opens with its chart drawn.
     record = {"id": RECORD_ID, "furnace": "F1", "program": MARKUP, "material": "Zirkon", "job": "A-1",
