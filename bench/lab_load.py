@@ -1,11 +1,13 @@
 #!/usr/bin/python3
 """Load on the lab view: FURNACES furnaces each publish a state a second for SECONDS seconds.
 
-    bench/lab_load.py build/lab/ovra-lab [--furnaces 50] [--seconds 60]
+    bench/lab_load.py build/lab/ovra-lab [--furnaces 50] [--seconds 60] [--write-doc]
 
 Measures, on loopback with a real broker: the time from a state's publish to its event leaving
 the event stream (the reader's arrival; p50/p99/max), GET /api/furnaces under that load, and
-the service's peak resident memory (VmHWM). Prints one line per figure.
+the service's peak resident memory (VmHWM). Prints one line per figure; --write-doc also puts
+them, against their targets, into the lab view's section of docs/performance.md (which
+scripts/perfreport keeps when it regenerates the rest).
 """
 import argparse
 import http.client
@@ -25,6 +27,7 @@ parser = argparse.ArgumentParser()
 parser.add_argument("lab")
 parser.add_argument("--furnaces", type=int, default=50)
 parser.add_argument("--seconds", type=int, default=60)
+parser.add_argument("--write-doc", action="store_true")
 args = parser.parse_args()
 tmp = tempfile.mkdtemp(prefix="lab-load-")
 
@@ -155,3 +158,31 @@ print(f"publish to stream: p50 {pct(latencies, 0.5):.1f} ms, p99 {pct(latencies,
 print(f"/api/furnaces ({len(body)} bytes): p50 {pct(list_times, 0.5):.1f} ms, p99 {pct(list_times, 0.99):.1f} ms, "
       f"max {max(list_times):.1f} ms over {len(list_times)} requests")
 print(f"peak resident memory: {peak:.1f} MB")
+
+if args.write_doc:
+    def met(value, target):
+        return f"{target / value:.3g}x {'met' if value <= target else 'MISSED'}"
+    p99, list_p99 = pct(latencies, 0.99), pct(list_times, 0.99)
+    load = os.getloadavg()[0]
+    section = f"""## The lab view (ovra-lab)
+
+Written by `bench/lab_load.py --write-doc` (not in CTest): {args.furnaces} furnaces each publish a
+state a second for {args.seconds} s to a real broker on loopback, retained, QoS 0, each on its own
+phase in the second; one event stream open; GET /api/furnaces five times a second. Load average
+{load:.2f} when it ended. {len(latencies)} of {sent} states reached the stream.
+
+| Figure | Measured | Target | Ratio |
+|---|---|---|---|
+| publish to the event leaving the stream, p99 | {p99:.1f} ms | 250 ms | {met(p99, 250)} |
+| publish to the event leaving the stream, p50 / max | {pct(latencies, 0.5):.1f} / {max(latencies):.1f} ms | | |
+| GET /api/furnaces ({len(body)} bytes), p99 | {list_p99:.1f} ms | 20 ms | {met(list_p99, 20)} |
+| GET /api/furnaces, max | {max(list_times):.1f} ms | | |
+| peak resident memory (VmHWM) | {peak:.1f} MB | 60 MB | {met(peak, 60)} |
+"""
+    path = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "docs", "performance.md")
+    with open(path) as f:
+        text = f.read()
+    marker = "\n## The lab view (ovra-lab)\n"
+    text = (text.split(marker)[0].rstrip("\n") + "\n\n" + section.rstrip("\n") + "\n")
+    with open(path, "w") as f:
+        f.write(text)
