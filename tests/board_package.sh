@@ -34,7 +34,7 @@ if [ "$mode" = files ]; then
   )
   for f in "${expected[@]}"; do [ -f "$tmp/root/$f" ] || fail "missing /$f"; done
   for f in ovra-panel autostartUserinterface.sh ovra-lab; do
-    [ -x "$(find "$tmp/root" -name "$f")" ] || fail "$f not executable"
+    [ -x "$(find "$tmp/root" -type f -name "$f")" ] || fail "$f not executable"
   done
   qm=$(find "$tmp/root/home/pi/Downloads/translations" -name 'translation_*.qm' | wc -l)
   [ "$qm" -eq 12 ] || fail "$qm translations, expected 12"
