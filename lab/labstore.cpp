@@ -82,6 +82,9 @@ bool LabStore::Open(QString *error)
         *error = QStringLiteral("cannot open %1: %2").arg(m_file, db.lastError().text());
         return false;
     }
+    // The folder's group (the panel's user on the board) adds tokens; whoever made the file
+    // first, the service and the group can both write it (its WAL files follow its mode).
+    QFile::setPermissions(m_file, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup);
     QSqlQuery q(db);
     for (const char *sql :
          {"PRAGMA journal_mode=WAL",

@@ -23,6 +23,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -95,23 +96,33 @@ int Tokens(const QCommandLineParser &parser, const QString &dir)
 
 int main(int argc, char *argv[])
 {
-    // The reports need fonts, never a display: a lab server has none.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     qSetMessagePattern(QStringLiteral("%{if-warning}warning: %{endif}%{if-critical}error: %{endif}%{message}"));
-    // Qt wants a private runtime folder even offscreen; a service started without one keeps it
-    // beside its data.
-    const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
-    for (int i = 1; runtime.isEmpty() && i + 1 < argc; ++i) {
-        if (qstrcmp(argv[i], "--data") == 0) {
-            const QString dir = QDir(QFile::decodeName(argv[i + 1])).absoluteFilePath(QStringLiteral(".runtime"));
-            if (QDir().mkpath(dir) &&
-                QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
-                qputenv("XDG_RUNTIME_DIR", QFile::encodeName(dir));
-        }
+    // The token commands run from a shell or the panel's user and need no fonts.
+    bool serving = true;
+    for (int i = 1; i < argc; ++i) {
+        for (const char *command :
+             {"--add-token", "--revoke-token", "--list-tokens", "--help", "-h", "--version", "-v"})
+            serving = serving && qstrcmp(argv[i], command) != 0;
     }
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("ovra-lab"));
-    QGuiApplication::setApplicationVersion(QStringLiteral(OVRA_VERSION_TEXT));
+    std::unique_ptr<QCoreApplication> app;
+    if (serving) {
+        // The reports need fonts, never a display: a lab server has none. Qt wants a private
+        // runtime folder even offscreen; a service started without one keeps it beside its data.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        for (int i = 1; qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR") && i + 1 < argc; ++i) {
+            if (qstrcmp(argv[i], "--data") == 0) {
+                const QString dir = QDir(QFile::decodeName(argv[i + 1])).absoluteFilePath(QStringLiteral(".runtime"));
+                if (QDir().mkpath(dir) &&
+                    QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+                    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(dir));
+            }
+        }
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        app = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QCoreApplication::setApplicationName(QStringLiteral("ovra-lab"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(OVRA_VERSION_TEXT));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -180,7 +191,7 @@ int main(int argc, char *argv[])
     if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0)
         return 1;
     QSocketNotifier signalNotifier(signalPipe[0], QSocketNotifier::Read);
-    QObject::connect(&signalNotifier, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
+    QObject::connect(&signalNotifier, &QSocketNotifier::activated, app.get(), &QCoreApplication::quit);
     std::signal(SIGTERM, OnSignal);
     std::signal(SIGINT, OnSignal);
     std::signal(SIGPIPE, SIG_IGN);
@@ -207,7 +218,7 @@ int main(int argc, char *argv[])
             std::fprintf(stderr, "ovra-lab: %s\n", qPrintable(error));
             status = 1;
         } else {
-            QGuiApplication::exec();
+            QCoreApplication::exec();
             qInfo().noquote() << "lab: stopping";
         }
         server.Stop();
