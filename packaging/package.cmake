@@ -9,6 +9,13 @@ install(PROGRAMS ${CMAKE_SOURCE_DIR}/resources/scripts/autostartUserinterface.sh
 install(PROGRAMS ${CMAKE_SOURCE_DIR}/resources/scripts/makeExecutable.py DESTINATION ${OVRA_PI_HOME}/Downloads)
 install(PROGRAMS ${CMAKE_SOURCE_DIR}/resources/scripts/dispOn.py DESTINATION ${OVRA_PI_HOME}/DispOn)
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/ovra-panel.service DESTINATION lib/systemd/system)
+# The lab view's service: on the board for one furnace, disabled until the lab enables it.
+install(TARGETS ovra-lab RUNTIME DESTINATION usr/bin)
+install(FILES ${CMAKE_SOURCE_DIR}/packaging/ovra-lab.service DESTINATION lib/systemd/system)
+install(FILES ${CMAKE_SOURCE_DIR}/docs/labview.md DESTINATION usr/share/doc/ovra-panel)
+# The lab link: its contract, and the bridge for a furnace that keeps a broker of its own.
+install(FILES ${CMAKE_SOURCE_DIR}/docs/lablink.md ${CMAKE_SOURCE_DIR}/packaging/lablink-bridge.conf
+        DESTINATION usr/share/doc/ovra-panel)
 
 if(NOT OVRA_DEB_ARCHITECTURE)
   execute_process(COMMAND dpkg --print-architecture OUTPUT_VARIABLE OVRA_DEB_ARCHITECTURE
@@ -24,9 +31,12 @@ set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${OVRA_DEB_ARCHITECTURE})
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 # Named, not computed: dpkg-shlibdeps cannot see the board's libraries from a cross build.
-# libqt5gui5 carries the eglfs and linuxfb platform plug-ins; the firing records need the
-# SQLite driver, a plug-in no linker sees.
+# libqt5gui5 carries the eglfs and linuxfb platform plug-ins (and the lab view's offscreen one);
+# the firing records need the SQLite driver, a plug-in no linker sees; the lab view's PDF
+# report draws in DejaVu Sans, a font no linker sees either.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-    "libqt5core5a (>= 5.15), libqt5gui5 (>= 5.15), libqt5widgets5 (>= 5.15), libqt5network5 (>= 5.15), libqt5serialport5 (>= 5.15), libqt5charts5 (>= 5.15), libqt5sql5 (>= 5.15), libqt5sql5-sqlite (>= 5.15), libqrencode4, libmosquitto1, libstdc++6, python3")
+    "libqt5core5a (>= 5.15), libqt5gui5 (>= 5.15), libqt5widgets5 (>= 5.15), libqt5network5 (>= 5.15), libqt5serialport5 (>= 5.15), libqt5charts5 (>= 5.15), libqt5sql5 (>= 5.15), libqt5sql5-sqlite (>= 5.15), libqrencode4, libstdc++6, python3, libmosquitto1, libcpp-httplib0.11, fonts-dejavu-core, passwd")
+# A furnace may keep a broker of its own and bridge it to the lab's (docs/board.md).
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "mosquitto")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_SOURCE_DIR}/packaging/postinst ${CMAKE_SOURCE_DIR}/packaging/prerm)
 include(CPack)

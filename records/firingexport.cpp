@@ -42,6 +42,14 @@ QString line(const QStringList &fields)
 }
 } // namespace
 
+QString SamplesCsv(const QVector<Sample> &samples)
+{
+    QString text = line({QStringLiteral("seconds"), QStringLiteral("celsius")});
+    for (const Sample &s : samples)
+        text += QString::number(s.seconds) + QLatin1Char(',') + QString::number(s.celsius) + QStringLiteral("\r\n");
+    return text;
+}
+
 bool ExportFirings(const QString &home, const QString &dir, QString *error, bool closeUnfinished,
                    const ReportWriter &report, const std::function<void(int done, int total)> &progress)
 {
@@ -73,10 +81,7 @@ bool ExportFirings(const QString &home, const QString &dir, QString *error, bool
         csv += line({when(firing.startDate, firing.startTime), when(firing.endDate, firing.endTime), firing.program,
                      record.material, QString::number(record.preDryMinutes), firing.result,
                      failed.join(QStringLiteral("; ")), firing.job});
-        QString samples = line({QStringLiteral("seconds"), QStringLiteral("celsius")});
-        for (const Sample &s : qAsConst(record.samples))
-            samples +=
-                QString::number(s.seconds) + QLatin1Char(',') + QString::number(s.celsius) + QStringLiteral("\r\n");
+        const QString samples = SamplesCsv(record.samples);
         const QString base = QStringLiteral("%1/firing-%2").arg(dir).arg(firing.id);
         if (!writeFile(base + QStringLiteral("-samples.csv"), samples, error))
             return false;

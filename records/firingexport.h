@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 #include <functional>
 
@@ -8,9 +9,13 @@ namespace ovra {
 namespace Records {
 
 struct FiringRecord;
+struct Sample;
 
 // RFC 4180: a field with a comma, quote or line break is quoted, quotes doubled.
 QString CsvField(const QString &text);
+
+// One firing's samples: a "seconds,celsius" header, then a line per sample (CRLF).
+QString SamplesCsv(const QVector<Sample> &samples);
 
 // Writes one firing's printable report to a file; false with a reason.
 using ReportWriter = std::function<bool(const FiringRecord &record, const QString &path, QString *error)>;

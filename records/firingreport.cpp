@@ -99,8 +99,22 @@ QString FiringReport::DeviceLines(const Settings::DeviceReport::Data &device)
 bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceReport::Data &fallback, bool fahrenheit,
                          const QString &path, QString *error)
 {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        *error = QStringLiteral("cannot write %1").arg(path);
+        return false;
+    }
+    if (Write(record, fallback, fahrenheit, &file, error))
+        return true;
+    *error = QStringLiteral("cannot write %1").arg(path);
+    return false;
+}
+
+bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceReport::Data &fallback, bool fahrenheit,
+                         QIODevice *out, QString *error)
+{
     const Settings::DeviceReport::Data device = FromLines(record.device, fallback);
-    QPdfWriter writer(path);
+    QPdfWriter writer(out);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setResolution(dpi);
     writer.setPageMargins(QMarginsF());
@@ -108,7 +122,7 @@ bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceRepor
     writer.setCreator(QStringLiteral("ovra-panel " OVRA_VERSION_TEXT));
     QPainter painter;
     if (!painter.begin(&writer)) {
-        *error = QStringLiteral("cannot write %1").arg(path);
+        *error = QStringLiteral("cannot write the report");
         return false;
     }
     painter.setPen(QColor(0x22, 0x31, 0x3F));
@@ -194,7 +208,7 @@ bool FiringReport::Write(const FiringRecord &record, const Settings::DeviceRepor
         page.Row({failure.first, failure.second}, pairs);
 
     if (!painter.end()) {
-        *error = QStringLiteral("cannot write %1").arg(path);
+        *error = QStringLiteral("cannot write the report");
         return false;
     }
     return true;

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+class QIODevice;
+
 namespace ovra {
 namespace Records {
 
@@ -20,6 +22,9 @@ public:
     // The furnace as the firing's record keeps it; `device` stands in for a record without.
     static bool Write(const FiringRecord &record, const Settings::DeviceReport::Data &device, bool fahrenheit,
                       const QString &path, QString *error);
+    // The same into an open device, e.g. a buffer that a web server sends.
+    static bool Write(const FiringRecord &record, const Settings::DeviceReport::Data &device, bool fahrenheit,
+                      QIODevice *out, QString *error);
     // For the export: every firing's report, with `device` where a record has no furnace data.
     static ReportWriter Writer(const Settings::DeviceReport::Data &device, bool fahrenheit);
 

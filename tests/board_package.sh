@@ -29,23 +29,32 @@ if [ "$mode" = files ]; then
     home/pi/Downloads/makeExecutable.py
     home/pi/DispOn/dispOn.py
     lib/systemd/system/ovra-panel.service
+    usr/bin/ovra-lab
+    lib/systemd/system/ovra-lab.service
   )
   for f in "${expected[@]}"; do [ -f "$tmp/root/$f" ] || fail "missing /$f"; done
-  for f in ovra-panel autostartUserinterface.sh; do
-    [ -x "$(find "$tmp/root" -name "$f")" ] || fail "$f not executable"
+  for f in ovra-panel autostartUserinterface.sh ovra-lab; do
+    [ -x "$(find "$tmp/root" -type f -name "$f")" ] || fail "$f not executable"
   done
   qm=$(find "$tmp/root/home/pi/Downloads/translations" -name 'translation_*.qm' | wc -l)
   [ "$qm" -eq 12 ] || fail "$qm translations, expected 12"
-  # Nothing outside the furnace user's home and the unit.
-  stray=$(cd "$tmp/root" && find . -type f | grep -vE '^\./(home/pi/|lib/systemd/system/ovra-panel.service$)' || true)
+  # Nothing outside the furnace user's home, the units and the lab view with its notes.
+  stray=$(cd "$tmp/root" && find . -type f |
+    grep -vE '^\./(home/pi/|lib/systemd/system/ovra-(panel|lab)\.service$|usr/bin/ovra-lab$|usr/share/doc/ovra-panel/labview\.md$)' || true)
   [ -z "$stray" ] || fail "files outside the layout: $stray"
   unit=$tmp/root/lib/systemd/system/ovra-panel.service
   grep -qx 'Restart=always' "$unit" || fail "unit does not restart"
+  # The lab view's unit: its own user, nothing writable but its data folder.
+  lab_unit=$tmp/root/lib/systemd/system/ovra-lab.service
+  for line in User=ovra-lab ProtectSystem=strict ReadWritePaths=/var/lib/ovra-lab NoNewPrivileges=yes PrivateTmp=yes; do
+    grep -qx "$line" "$lab_unit" || fail "ovra-lab.service lacks $line"
+  done
   # Every library the panel links against, and the SQLite plug-in it loads, must come with
   # a package the board is told to install.
   depends=$(dpkg-deb -f "$deb" Depends | sed 's/ *([^)]*)//g; s/, */\n/g')
   triplet=$(gcc -print-multiarch)
-  for lib in $(objdump -p "$tmp/root/home/pi/Downloads/build/ovra-panel" | awk '/NEEDED/ {print $2}'); do
+  for lib in $(objdump -p "$tmp/root/home/pi/Downloads/build/ovra-panel" "$tmp/root/usr/bin/ovra-lab" |
+               awk '/NEEDED/ {print $2}' | sort -u); do
     pkg=$(dpkg -S "*/$triplet/$lib" 2>/dev/null | head -n 1 | cut -d: -f1)
     # The sanitizer pass packages an instrumented build; its runtimes never go to the board.
     case $pkg in "" | libc6 | libgcc-s1 | libasan* | libubsan* | liblsan* | libtsan*) continue ;; esac
@@ -53,6 +62,8 @@ if [ "$mode" = files ]; then
   done
   grep -qxF libqt5sql5-sqlite <<<"$depends" || fail "Depends lacks the SQLite driver"
   dpkg-deb -e "$deb" "$tmp/control" && [ -x "$tmp/control/postinst" ] || fail "no postinst"
+  # Installed, never enabled by the package: the lab decides where its view runs.
+  grep -q 'enable ovra-lab' "$tmp/control/postinst" && fail "postinst enables ovra-lab"
   echo "package $(basename "$deb"): ${#expected[@]} files and $qm translations in place"
   exit 0
 fi
