@@ -40,7 +40,7 @@ if [ "$mode" = files ]; then
   [ "$qm" -eq 12 ] || fail "$qm translations, expected 12"
   # Nothing outside the furnace user's home, the units and the lab view with its notes.
   stray=$(cd "$tmp/root" && find . -type f |
-    grep -vE '^\./(home/pi/|lib/systemd/system/ovra-(panel|lab)\.service$|usr/bin/ovra-lab$|usr/share/doc/ovra-panel/labview\.md$)' || true)
+    grep -vE '^\./(home/pi/|lib/systemd/system/ovra-(panel|lab)\.service$|usr/bin/ovra-lab$|usr/share/doc/ovra-panel/(labview\.md|lablink\.md|lablink-bridge\.conf)$)' || true)
   [ -z "$stray" ] || fail "files outside the layout: $stray"
   unit=$tmp/root/lib/systemd/system/ovra-panel.service
   grep -qx 'Restart=always' "$unit" || fail "unit does not restart"
