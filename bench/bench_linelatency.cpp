@@ -1,14 +1,22 @@
 // Frame-to-answer latency through a real pseudo-terminal with the panel's event loop in the
 // path: from the write of the end byte to the last byte of the answer. Prints percentiles,
 // beside those of a bare reader answering on a second pseudo-terminal in the same run.
+// With --lab-stalled [interval-ms] the lab link is on, publishing states (the panel's spacing
+// of 500 ms, or the interval given; 0: one for every frame) to a real broker that has stopped
+// reading (SIGSTOP): the line must not wait on it.
 #include "communication/communicator.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
+#include "app/furnacestate.h"
+#include "lablink/lablink.h"
+#include "records/firingstore.h"
+#include "tests/mosquittobroker.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QSerialPort>
 #include <QSocketNotifier>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -16,6 +24,8 @@
 #include <cstring>
 #include <fcntl.h>
 #include <functional>
+#include <memory>
+#include <csignal>
 #include <pty.h>
 #include <sys/ioctl.h>
 #include <termios.h>
@@ -128,6 +138,36 @@ int main(int argc, char *argv[])
     Communicator communicator(&handler, nullptr, QString::fromLocal8Bit(name));
     auto *port = communicator.findChild<QSerialPort *>();
     ControllerSide panelLine(master, slave, [port] { return port->bytesAvailable(); });
+
+    const bool labStalled = argc > 2 && std::strcmp(argv[2], "--lab-stalled") == 0;
+    QTemporaryDir labHome, brokerDir;
+    MosquittoBroker broker(brokerDir.path());
+    ovra::GlobalElements::FurnaceState furnace;
+    ovra::Records::FiringStore store(ovra::Records::FiringStore::FileIn(labHome.path()));
+    std::unique_ptr<ovra::LabLink::LabLink> link;
+    if (labStalled) {
+        if (!broker.Start()) {
+            std::fprintf(stderr, "mosquitto did not start\n");
+            return 1;
+        }
+        furnace.Follow(&handler);
+        ovra::LabLink::LabLinkConfig config;
+        config.host = QStringLiteral("127.0.0.1");
+        config.port = broker.Port();
+        config.furnaceId = QStringLiteral("bench");
+        ovra::LabLink::LabLink::Timing timing;
+        timing.stateIntervalMs = argc > 3 ? atoi(argv[3]) : timing.stateIntervalMs;
+        link = std::make_unique<ovra::LabLink::LabLink>(config, furnace, store, timing);
+        QElapsedTimer waited;
+        waited.start();
+        while (!link->Status().IsConnected() && waited.elapsed() < 10000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        if (!link->Status().IsConnected()) {
+            std::fprintf(stderr, "the link did not connect\n");
+            return 1;
+        }
+        ::kill(static_cast<pid_t>(broker.ProcessId()), SIGSTOP);
+    }
     // Connected after the communicator's own slot, so it runs once the panel has read.
     QObject::connect(port, &QSerialPort::readyRead, [&panelLine] { panelLine.BodyRead(); });
 
@@ -153,18 +193,21 @@ int main(int argc, char *argv[])
             QCoreApplication::exit(1);
     });
 
-    const QByteArray frame = Frame::Build("time==1405$$date==20261122$$temp==1473");
-    const QByteArray body = frame.left(frame.size() - 1);
+    // The temperature changes with every frame, so that with the link on each one is a new state.
+    const auto body = [](int n) {
+        const QByteArray frame = Frame::Build("time==1405$$date==20261122$$temp==" + QByteArray::number(1400 + n % 100));
+        return frame.left(frame.size() - 1);
+    };
     int round = 0;
     // Panel, bare reader, panel, ...: a millisecond apart, as frames come on the line.
     std::function<void()> next;
-    const auto toBare = [&] { bareLine.Send(body, [&] { QTimer::singleShot(1, next); }); };
+    const auto toBare = [&] { bareLine.Send(body(round), [&] { QTimer::singleShot(1, next); }); };
     next = [&] {
         if (round++ >= rounds) {
             app.quit();
             return;
         }
-        panelLine.Send(body, [&] { QTimer::singleShot(1, toBare); });
+        panelLine.Send(body(round), [&] { QTimer::singleShot(1, toBare); });
     };
     QTimer::singleShot(0, next);
     const int rc = app.exec();
@@ -177,6 +220,10 @@ int main(int argc, char *argv[])
                 "bare_max_us=%.1f p99_minus_bare_us=%.1f\n",
                 panel.size(), percentile(panel, 0.50), percentile(panel, 0.90), panelP99, percentile(panel, 1.0),
                 percentile(bare, 0.50), bareP99, percentile(bare, 1.0), panelP99 - bareP99);
+    if (labStalled) {
+        std::printf("lab_stalled states_published=%d\n", link->StatesPublished());
+        ::kill(static_cast<pid_t>(broker.ProcessId()), SIGCONT);
+    }
     for (int fd : {master, slave, bareMaster, bareSlave})
         ::close(fd);
     return rc;

@@ -18,6 +18,7 @@ public:
     bool Start(const QStringList &extra = {});
     void Stop();
     QString Dir() const { return m_dir; }
+    qint64 ProcessId() const { return m_process.processId(); }
     QByteArray Log() const { return m_log; } // what it said up to its last start or stop
 
 private:
