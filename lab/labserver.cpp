@@ -273,7 +273,9 @@ bool LabServer::Start(const ListenOptions &options, QString *error)
     // Each open event stream holds a thread; the rest serve requests.
     const size_t threads = static_cast<size_t>(options.maxStreams) + 8;
     m_server->new_task_queue = [threads] { return new httplib::ThreadPool(threads); };
-    m_server->set_keep_alive_timeout(2);
+    // One request a connection: an idle kept-alive connection holds a pool thread for its whole
+    // wait, which would both starve the streams and keep a stopping service from exiting.
+    m_server->set_keep_alive_max_count(1);
     m_server->set_read_timeout(5);
     m_server->set_write_timeout(5);
     m_server->set_payload_max_length(64 * 1024);
