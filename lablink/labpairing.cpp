@@ -124,10 +124,10 @@ void LabPairing::Finish(int exitCode, bool crashed)
     const QByteArray answer = m_process->readAllStandardOutput();
     const QString complaint = QString::fromLocal8Bit(m_process->readAllStandardError()).trimmed();
     if (crashed || exitCode != 0) {
-        Fail(Failure::Refused, QStringLiteral("%1 %2: %3")
-                                   .arg(crashed ? QStringLiteral("crashed") : QStringLiteral("exit code"))
-                                   .arg(exitCode)
-                                   .arg(complaint.section(QLatin1Char('\n'), 0, 0)));
+        QString why = crashed ? QStringLiteral("crashed") : QStringLiteral("exit code %1").arg(exitCode);
+        if (!complaint.isEmpty())
+            why += QStringLiteral(": ") + complaint.section(QLatin1Char('\n'), 0, 0);
+        Fail(Failure::Refused, why);
         return;
     }
     const QString token = TokenFromAnswer(answer);
