@@ -15,9 +15,8 @@ namespace LabLink {
 LabLinkView::LabLinkView(LabLink *link, const QString &home, QWidget *parent)
     : PopupBase(parent), m_link(link), m_lines(new QLabel),
       m_close(AddButton(QStringLiteral("pushButton_LabLinkClose"), Verb::Neutral)),
-      m_resend(AddButton(QStringLiteral("pushButton_LabLinkResend"), Verb::Action)),
-      m_pair(AddButton(QStringLiteral("pushButton_LabLinkPair"), Verb::Action)), m_pairing(LabViewConfig::Load(home)),
-      m_code(new Popups::PopupQRCode(this))
+      m_resend(AddButton(QStringLiteral("pushButton_LabLinkResend"), Verb::Action)), m_pair(new QPushButton),
+      m_pairing(LabViewConfig::Load(home)), m_code(new Popups::PopupQRCode(this))
 {
     resize(560, 360);
     SetTitleIcon(QStringLiteral(":/Icons/records.png"));
@@ -33,7 +32,15 @@ LabLinkView::LabLinkView(LabLink *link, const QString &home, QWidget *parent)
     if (link != nullptr)
         connect(m_resend, &QPushButton::clicked, link, &LabLink::ResendHistory);
     connect(m_status, &LabLinkStatus::Changed, this, &LabLinkView::Draw);
+    // Beneath the status, not in the button row: three captions there do not fit every language.
+    m_pair->setObjectName(QStringLiteral("pushButton_LabLinkPair"));
+    m_pair->setFocusPolicy(Qt::NoFocus);
+    m_pair->setMinimumHeight(64);
+    m_pair->setProperty("verb", QStringLiteral("action"));
+    Body()->addWidget(m_pair, 0, Qt::AlignLeft);
     m_pair->setVisible(m_pairing.Config().Available());
+    if (m_pairing.Config().Available())
+        resize(560, 440);
     connect(m_pair, &QPushButton::clicked, this, [this] {
         m_pair->setEnabled(false);
         m_pairingFailed = false;
