@@ -56,8 +56,8 @@ MainWindow::MainWindow(const GlobalElements::PanelOptions &options, QWidget *par
     ConnectPrograms();
     ConnectRecords();
     m_labLink = LabLink::LabLink::FromHome(m_paths.Home(), m_furnace, m_firingRecorder.Store());
-    connect(ui->widget_ServiceLabLink, &Button::SignalButtonClicked, new LabLink::LabLinkView(m_labLink.get(), this),
-            &QDialog::open);
+    connect(ui->widget_ServiceLabLink, &Button::SignalButtonClicked,
+            new LabLink::LabLinkView(m_labLink.get(), m_paths.Home(), this), &QDialog::open);
 
     ui->stackedWidget_main->setCurrentIndex(1);
     ui->widget_playNewProg->SetCheckable(true);

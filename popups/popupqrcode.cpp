@@ -13,7 +13,8 @@ namespace ovra {
 namespace Popups {
 
 PopupQRCode::PopupQRCode(QWidget *parent)
-    : PopupBase(parent), m_code(new QLabel), m_ok(AddButton(QStringLiteral("pushButton_OK"), Verb::Action))
+    : PopupBase(parent), m_code(new QLabel), m_caption(new QLabel),
+      m_ok(AddButton(QStringLiteral("pushButton_OK"), Verb::Action))
 {
     resize(560, 420);
     SetTitleIcon(QStringLiteral(":/Icons/qrcode.png"));
@@ -23,6 +24,12 @@ PopupQRCode::PopupQRCode(QWidget *parent)
     m_code->setWordWrap(true);
     m_code->setMinimumHeight(imageSide);
     Body()->addWidget(m_code, 1);
+    m_caption->setObjectName(QStringLiteral("label_QRCodeCaption"));
+    m_caption->setProperty("popupRole", QStringLiteral("message"));
+    m_caption->setAlignment(Qt::AlignCenter);
+    m_caption->setWordWrap(true);
+    m_caption->hide();
+    Body()->addWidget(m_caption);
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
     Translate();
 }
@@ -79,6 +86,12 @@ void PopupQRCode::SetCode(const Settings::QrCode &code)
     }
     m_code->setText(QString());
     m_code->setPixmap(QPixmap::fromImage(image));
+}
+
+void PopupQRCode::SetCaption(const QString &text)
+{
+    m_caption->setText(text);
+    m_caption->setVisible(!text.isEmpty());
 }
 
 void PopupQRCode::ShowMissingNotice()

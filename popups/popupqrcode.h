@@ -30,11 +30,14 @@ public:
     // the notice.
     void SetCode(const Settings::QrCode &code);
     bool HasImage() const { return m_hasImage; }
+    // A line beneath the code, for readers that cannot scan it; empty hides it.
+    void SetCaption(const QString &text);
 
 private:
     void ShowMissingNotice();
 
     QLabel *m_code;
+    QLabel *m_caption;
     QPushButton *m_ok;
     bool m_hasImage = false;
 };

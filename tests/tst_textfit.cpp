@@ -222,7 +222,12 @@ private slots:
 
 void TestTextFit::everyTextFitsInEveryLanguage()
 {
-    PanelHarness panel(60000);
+    // A lab view beside the panel: the lab link popup shows its pairing button too.
+    PanelHarness panel(60000, [](ovra::GlobalElements::PanelOptions &options) {
+        QFile ini(options.home + QStringLiteral("/lablink.ini"));
+        QVERIFY(ini.open(QIODevice::WriteOnly));
+        ini.write("[view]\nprogram=/bin/true\ndata=" + options.home.toUtf8() + "\n");
+    });
     panel.InstallTranslations();
     ovra::Mainwindow::MainWindow *window = panel.Window();
     auto *pages = panel.Find<QStackedWidget>(QStringLiteral("stackedWidget"));

@@ -366,6 +366,18 @@ Bloqueado: restam %1 s</translation>
         <source>Wartende Protokolle: %1</source>
         <translation>Registros aguardando: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Parear visão do laboratório</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>A visão do laboratório não responde.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>Não foi possível parear a visão do laboratório.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

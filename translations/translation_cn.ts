@@ -366,6 +366,18 @@ Gesperrt: noch %1 s</source>
         <source>Wartende Protokolle: %1</source>
         <translation>等待发送的记录：%1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>配对实验室视图</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>实验室视图无响应。</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>无法配对实验室视图。</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

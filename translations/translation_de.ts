@@ -366,6 +366,18 @@ Gesperrt: noch %1 s</translation>
         <source>Wartende Protokolle: %1</source>
         <translation>Wartende Protokolle: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Laboransicht koppeln</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>Die Laboransicht antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>Die Laboransicht konnte nicht gekoppelt werden.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

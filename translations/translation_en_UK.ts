@@ -366,6 +366,18 @@ Locked: %1 s left</translation>
         <source>Wartende Protokolle: %1</source>
         <translation>Records waiting: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Pair lab view</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>The lab view does not answer.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>The lab view could not be paired.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

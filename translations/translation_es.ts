@@ -366,6 +366,18 @@ Bloqueado: quedan %1 s</translation>
         <source>Wartende Protokolle: %1</source>
         <translation>Registros en espera: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Vincular vista de laboratorio</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>La vista de laboratorio no responde.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>No se pudo vincular la vista de laboratorio.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

@@ -366,6 +366,18 @@ Bloqué : encore %1 s</translation>
         <source>Wartende Protokolle: %1</source>
         <translation>Journaux en attente : %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Associer la vue laboratoire</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>La vue laboratoire ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>La vue laboratoire n&apos;a pas pu être associée.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

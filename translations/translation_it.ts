@@ -366,6 +366,18 @@ Bloccato: ancora %1 s</translation>
         <source>Wartende Protokolle: %1</source>
         <translation>Protocolli in attesa: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Associa vista laboratorio</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>La vista laboratorio non risponde.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>Impossibile associare la vista laboratorio.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

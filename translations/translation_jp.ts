@@ -366,6 +366,18 @@ Gesperrt: noch %1 s</source>
         <source>Wartende Protokolle: %1</source>
         <translation>送信待ちの記録: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>ラボビューをペアリング</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>ラボビューが応答しません。</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>ラボビューをペアリングできませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

@@ -366,6 +366,18 @@ Gesperrt: noch %1 s</source>
         <source>Wartende Protokolle: %1</source>
         <translation>대기 중인 기록: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>실험실 보기 페어링</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>실험실 보기가 응답하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>실험실 보기를 페어링할 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

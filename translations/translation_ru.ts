@@ -366,6 +366,18 @@ Gesperrt: noch %1 s</source>
         <source>Wartende Protokolle: %1</source>
         <translation>Протоколов в очереди: %1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>Связать лабораторный вид</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>Лабораторный вид не отвечает.</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>Не удалось связать лабораторный вид.</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

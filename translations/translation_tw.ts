@@ -366,6 +366,18 @@ Gesperrt: noch %1 s</source>
         <source>Wartende Protokolle: %1</source>
         <translation>等待傳送的記錄：%1</translation>
     </message>
+    <message>
+        <source>Laboransicht koppeln</source>
+        <translation>配對實驗室檢視</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht antwortet nicht.</source>
+        <translation>實驗室檢視沒有回應。</translation>
+    </message>
+    <message>
+        <source>Die Laboransicht konnte nicht gekoppelt werden.</source>
+        <translation>無法配對實驗室檢視。</translation>
+    </message>
 </context>
 <context>
     <name>ovra::MainWindow::MainWindow</name>

@@ -7,6 +7,7 @@
 #include "tools/screenshots/screenshottour.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -36,10 +37,19 @@ int main(int argc, char *argv[])
     if (!ovra::Tools::ScreenshotTour::InstallTranslations(QStringLiteral(OVRA_TRANSLATIONS_DIR), home.path()))
         std::fprintf(stderr, "no translations in %s\n", OVRA_TRANSLATIONS_DIR);
     // A lab link to a loopback port where no broker listens: its popup shows the broker, the
-    // state and the problem as a technician would see them.
+    // state and the problem as a technician would see them. The lab view beside it is a
+    // stand-in that always hands out the same token, so the pairing code is the same each time.
+    const QString labView = home.path() + QStringLiteral("/ovra-lab");
+    QFile stand(labView);
+    if (stand.open(QIODevice::WriteOnly))
+        stand.write("#!/bin/sh\necho kV3q_Rw8mT2xYc9LpN4bZ7sHdJ1fGa6uEoQiWt5nXy0\n");
+    stand.close();
+    stand.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    QDir(home.path()).mkdir(QStringLiteral("lab"));
     QFile lablink(home.path() + QStringLiteral("/lablink.ini"));
     if (lablink.open(QIODevice::WriteOnly))
-        lablink.write("[broker]\nhost=127.0.0.1\nport=1\n[furnace]\nid=ofen-1\n");
+        lablink.write("[broker]\nhost=127.0.0.1\nport=1\n[furnace]\nid=ofen-1\n[view]\nprogram=" + labView.toUtf8() +
+                      "\ndata=" + home.path().toUtf8() + "/lab\naddress=http://192.168.1.20:8080\n");
     lablink.close();
     ovra::Mainwindow::MainWindow window(ovra::GlobalElements::PanelOptions::Sandbox(home.path()));
     ovra::Tools::ScreenshotTour tour(&window, args.at(0));

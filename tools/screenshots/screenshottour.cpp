@@ -3,6 +3,7 @@
 #include "app/mainwindow.h"
 #include "communication/frame.h"
 #include "communication/messagehandler.h"
+#include "lablink/lablinkview.h"
 #include "popups/popupusb.h"
 #include "popups/timerpopup.h"
 #include "programs/heatfiletext.h"
@@ -20,6 +21,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -277,6 +279,15 @@ QStringList ScreenshotTour::Run()
     Feed("usb==in");
     Save(numbered(QStringLiteral("usb_stick")));
     m_window->GenerateQRCode();
+    // A phone paired with the lab view, when the home names one: its code popup.
+    auto *lab = m_window->findChild<LabLink::LabLinkView *>();
+    if (lab != nullptr && lab->Pairing().Config().Available()) {
+        QEventLoop answered;
+        QObject::connect(&lab->Pairing(), &LabLink::LabPairing::Paired, &answered, &QEventLoop::quit);
+        QObject::connect(&lab->Pairing(), &LabLink::LabPairing::Failed, &answered, &QEventLoop::quit);
+        lab->Pairing().Start();
+        answered.exec();
+    }
 
     SavePopups(numbered, QString());
     SaveLanguages(numbered);
